@@ -1,0 +1,38 @@
+# Compile and link options that every target of the project shares.
+add_library(fieldbus_options INTERFACE)
+target_compile_options(fieldbus_options INTERFACE -Wall -Wextra -Wnon-virtual-dtor -Woverloaded-virtual -Wshadow)
+target_compile_definitions(fieldbus_options INTERFACE QT_DEPRECATED_WARNINGS QT_NO_CAST_TO_ASCII)
+if(FIELDBUS_WERROR)
+  target_compile_options(fieldbus_options INTERFACE -Werror)
+endif()
+if(FIELDBUS_SANITIZE)
+  target_compile_options(fieldbus_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                                    -fno-omit-frame-pointer)
+  target_link_options(fieldbus_options INTERFACE -fsanitize=address,undefined)
+endif()
+# gcc needs this to let ccache look through a precompiled header.
+target_compile_options(fieldbus_options INTERFACE -fpch-preprocess)
+
+# Precompiled headers: one for code that knows widgets, one for code that must not.
+function(fieldbus_pch name qt_module qt_header)
+  add_library(${name} OBJECT ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/pch.cpp)
+  set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+  target_link_libraries(${name} PRIVATE fieldbus_options ${qt_module})
+  target_precompile_headers(${name} PRIVATE ${qt_header} <algorithm> <array> <functional> <memory> <optional> <vector>)
+endfunction()
+fieldbus_pch(fieldbus_pch_widgets Qt5::Widgets <QtWidgets>)
+fieldbus_pch(fieldbus_pch_core Qt5::Core <QtCore>)
+
+# fieldbus_target(NAME LIBS...): the shared options, the precompiled header and the own folder as include path.
+function(fieldbus_target name)
+  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE fieldbus_options Qt5::Widgets)
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_precompile_headers(${name} REUSE_FROM fieldbus_pch_widgets)
+endfunction()
+
+# The same for code that knows no widget: a header of one is not to be found.
+function(fieldbus_core_target name)
+  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE fieldbus_options Qt5::Core)
+  target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+  target_precompile_headers(${name} REUSE_FROM fieldbus_pch_core)
+endfunction()

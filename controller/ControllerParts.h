@@ -1,0 +1,27 @@
+#ifndef CONTROLLER_CONTROLLERPARTS_H
+#define CONTROLLER_CONTROLLERPARTS_H
+
+#include "BusRoles.h"
+#include "Faults.h"
+#include "FileStore.h"
+#include "SimulatedTime.h"
+#include "Traffic.h"
+#include "VariableStore.h"
+
+/// What a behaviour may touch of the controller.
+struct ControllerParts
+{
+    explicit ControllerParts(const QString& storeDirectory)
+        : files(storeDirectory)
+    {
+    }
+
+    FileStore files;
+    VariableStore variables;
+    BusRoles roles;
+    Faults faults;
+    Traffic traffic;
+    SimulatedTime time;
+};
+
+#endif

@@ -1,0 +1,61 @@
+#ifndef CONTROLLER_FAULTS_H
+#define CONTROLLER_FAULTS_H
+
+#include <QMap>
+#include <QString>
+
+/// What can go wrong at the controller. Tests, the panel and the command line set it.
+class Faults
+{
+public:
+    enum Fault {
+        FetchFails,           ///< a fetch of a file fails
+        SendFails,            ///< a store of a file fails
+        FetchCutShort,        ///< a fetched file arrives with its second half missing
+        FetchEmpty,           ///< a fetched file arrives empty
+        FetchGarbage,         ///< a fetched file arrives with other bytes
+        CommandNeverTaken,    ///< an open or close command stays set
+        BusTypeRefused,       ///< the bus type is answered with the refusing bit
+        BusTypeNeverAnswered, ///< the bus type gets no answer
+        MappingNeverAnswered, ///< the I/O mapping file is not acknowledged
+        MappingAnsweredLate,  ///< ... only in the last second before the pendant gives up
+        MappingRejected,      ///< ... with the bit that says it made no sense
+        SlaveNeverAnswered,   ///< the DeviceNet slave file is not acknowledged
+        SlaveAnsweredLate,    ///< ... only just before the pendant gives up
+        RestartIgnored,       ///< a restart request has no effect
+        VariableNotOffered,   ///< subscribing the target variable fails
+        HeartbeatNotReloaded, ///< the announced heartbeat file is not read
+        FaultCount
+    };
+
+    /// Sets `fault` for the next `times` occurrences (-1: until cleared). With a `target` only what it
+    /// names (a controller path, a variable) is hit.
+    void set(Fault fault, int times = -1, const QString& target = QString());
+    void clear(Fault fault);
+    void clearAll();
+    bool isSet(Fault fault) const;
+    /// Occurrences that are left, -1 without end, 0 when the fault is not set.
+    int timesLeft(Fault fault) const;
+    QString targetOf(Fault fault) const;
+
+    /// Whether the fault strikes now; counts the occurrence down.
+    bool strikes(Fault fault, const QString& target = QString());
+
+    /// Name as `--fault` takes it, "fetch-fails" for FetchFails.
+    static QString nameOf(Fault fault);
+    /// What it does, as a line of a list.
+    static QString meaningOf(Fault fault);
+    /// Sets what "name", "name:times" or "name:times:target" says; false when there is no such name, or
+    /// `times` is no number.
+    bool setFromText(const QString& text);
+
+private:
+    struct State
+    {
+        int times = 0;
+        QString target;
+    };
+    QMap<int, State> m_states;
+};
+
+#endif

@@ -1,0 +1,61 @@
+#ifndef CONTROLLER_BEHAVIOUR_H
+#define CONTROLLER_BEHAVIOUR_H
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+struct ControllerParts;
+
+/// One thing that the controller does. It watches variables and files, and answers later, never inside the
+/// pendant's call. Each is one class and one line in the table of behaviours (BehaviourTable.cpp).
+class Behaviour : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Behaviour(ControllerParts& controllerParts)
+        : m_parts(controllerParts)
+    {
+    }
+
+    /// The controller came up, at power-on or after a restart: take the configuration from the files.
+    virtual void restarted() {}
+    /// The controller went down. What was delayed is dropped already.
+    virtual void wentDown() {}
+    /// The pendant stored or removed a file; `path` as the pendant spelled it.
+    virtual void fileStored(const QString& path) { Q_UNUSED(path) }
+    /// A role was switched while the controller is up, from the panel.
+    virtual void rolesChanged() {}
+    /// Every 100 ms of the controller's time while it is up.
+    virtual void tick() {}
+
+    /// Forgets everything that is delayed.
+    void dropDelayed();
+
+protected:
+    /// Simulated delays follow the time scale; real ones do not.
+    enum class Pace { Simulated, Real };
+
+    ControllerParts& parts() const { return m_parts; }
+
+    /// Does `action` once, `msec` from now; a second call with the same key replaces the first.
+    void later(const QString& key, int msec, std::function<void()> action, Pace pace = Pace::Simulated);
+    void drop(const QString& key);
+
+private:
+    struct Delayed
+    {
+        QTimer timer;
+        std::function<void()> action;
+    };
+
+    ControllerParts& m_parts;
+    std::map<QString, std::unique_ptr<Delayed>> m_delayed;
+};
+
+#endif

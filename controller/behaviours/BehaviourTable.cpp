@@ -1,0 +1,32 @@
+#include "BehaviourTable.h"
+
+#include "ControllerClock.h"
+#include "FieldbusManager.h"
+#include "LinkStates.h"
+
+namespace {
+
+using Maker = std::unique_ptr<Behaviour> (*)(ControllerParts&);
+
+template <typename T>
+std::unique_ptr<Behaviour> make(ControllerParts& parts)
+{
+    return std::make_unique<T>(parts);
+}
+
+// The manager first: the others come up with the roles that it switched on.
+constexpr Maker Makers[] = {
+    make<FieldbusManager>,
+    make<ControllerClock>,
+    make<LinkStates>,
+};
+
+} // namespace
+
+std::vector<std::unique_ptr<Behaviour>> makeBehaviours(ControllerParts& parts)
+{
+    std::vector<std::unique_ptr<Behaviour>> behaviours;
+    for (const Maker maker : Makers)
+        behaviours.push_back(maker(parts));
+    return behaviours;
+}

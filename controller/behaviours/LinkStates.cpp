@@ -1,0 +1,54 @@
+#include "LinkStates.h"
+
+#include "ControllerParts.h"
+
+#include <algorithm>
+
+namespace {
+const QString& communicationState()
+{
+    static const QString name = QStringLiteral("ifidbus.commun_state");
+    return name;
+}
+} // namespace
+
+LinkStates::LinkStates(ControllerParts& controllerParts)
+    : Behaviour(controllerParts)
+{
+    // A cell in which everything is well would not show what a lost link looks like.
+    m_unplugged.insert(QStringLiteral("EtherNetIPSlave"));
+}
+
+bool LinkStates::setCablePlugged(const QString& role, bool plugged)
+{
+    const bool known =
+        std::any_of(LinkedBusRoles.begin(), LinkedBusRoles.end(),
+                    [&role](const BusRole& candidate) { return role == QLatin1String(candidate.name); });
+    if (!known)
+        return false;
+    if (plugged)
+        m_unplugged.remove(role);
+    else
+        m_unplugged.insert(role);
+    update();
+    return true;
+}
+
+void LinkStates::wentDown()
+{
+    for (const BusRole& role : LinkedBusRoles)
+        parts().variables.set(QLatin1String(role.linkVariable), 0.0);
+    parts().variables.set(communicationState(), 0.0);
+}
+
+void LinkStates::update()
+{
+    int communication = 0;
+    for (const BusRole& role : LinkedBusRoles) {
+        const bool up = parts().roles.isOn(role.name) && isCablePlugged(QLatin1String(role.name));
+        parts().variables.set(QLatin1String(role.linkVariable), up ? 1.0 : 0.0);
+        if (up && role.communicationBit >= 0)
+            communication |= 1 << role.communicationBit;
+    }
+    parts().variables.set(communicationState(), communication);
+}

@@ -1,0 +1,48 @@
+#include "ControllerPanel.h"
+
+#include "FaultTab.h"
+#include "LinkTab.h"
+#include "LogTab.h"
+#include "RobotTab.h"
+#include "VariableTab.h"
+
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int RefreshMs = 250;
+} // namespace
+
+ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , m_tabs(new QTabWidget(this))
+{
+    setObjectName(QStringLiteral("ControllerPanel"));
+    setWindowTitle(tr("Simulated controller"));
+    resize(900, 700);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_tabs);
+
+    addTab(new RobotTab(controller), QStringLiteral("robotTab"), tr("Robot"));
+    addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
+    addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
+    addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
+    addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));
+
+    connect(&m_timer, &QTimer::timeout, this, &ControllerPanel::refresh);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &ControllerPanel::refresh);
+    m_timer.start(RefreshMs);
+    refresh();
+}
+
+void ControllerPanel::addTab(PanelTab* tab, const QString& objectName, const QString& caption)
+{
+    tab->setObjectName(objectName);
+    m_tabs->addTab(tab, caption);
+}
+
+void ControllerPanel::refresh()
+{
+    if (auto* const tab = qobject_cast<PanelTab*>(m_tabs->currentWidget()))
+        tab->refresh();
+}

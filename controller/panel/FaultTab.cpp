@@ -1,0 +1,74 @@
+#include "FaultTab.h"
+
+#include "SimulatedController.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace {
+enum Column { FaultColumn, MeaningColumn, TimesColumn, TargetColumn, ColumnCount };
+} // namespace
+
+FaultTab::FaultTab(SimulatedController& simulated, QWidget* parent)
+    : PanelTab(simulated, parent)
+    , m_table(new QTableWidget(Faults::FaultCount, ColumnCount))
+{
+    m_table->setObjectName(QStringLiteral("faultTable"));
+    m_table->setHorizontalHeaderLabels({tr("Fault"), tr("What it does"), tr("Times"), tr("Target")});
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setSectionResizeMode(MeaningColumn, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(FaultColumn, QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->resizeSection(TimesColumn, 60);
+    m_table->horizontalHeader()->resizeSection(TargetColumn, 160);
+    for (int row = 0; row < Faults::FaultCount; ++row) {
+        const auto fault = static_cast<Faults::Fault>(row);
+        const QString texts[ColumnCount] = {Faults::nameOf(fault), Faults::meaningOf(fault), {}, {}};
+        for (int column = 0; column < ColumnCount; ++column) {
+            auto* item = new QTableWidgetItem(texts[column]);
+            item->setToolTip(Faults::meaningOf(fault));
+            if (column < TimesColumn)
+                item->setFlags(Qt::ItemIsEnabled);
+            m_table->setItem(row, column, item);
+        }
+    }
+    refresh();
+    connect(m_table, &QTableWidget::itemChanged, this, &FaultTab::takeEdit);
+
+    auto* clear = new QPushButton(tr("Clear all"));
+    clear->setObjectName(QStringLiteral("clearFaults"));
+    connect(clear, &QPushButton::clicked, this, [this] {
+        controller().faults().clearAll();
+        refresh();
+    });
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(tr("Times: -1 always, 0 never. Target: a controller path or a variable.")));
+    layout->addWidget(m_table);
+    layout->addWidget(clear, 0, Qt::AlignRight);
+}
+
+void FaultTab::takeEdit(const QTableWidgetItem* item)
+{
+    const auto fault = static_cast<Faults::Fault>(item->row());
+    bool isNumber = false;
+    const int times = m_table->item(item->row(), TimesColumn)->text().toInt(&isNumber);
+    if (isNumber && times >= -1)
+        controller().faults().set(fault, times, m_table->item(item->row(), TargetColumn)->text());
+    refresh();
+}
+
+void FaultTab::refresh()
+{
+    const QSignalBlocker blocker(m_table);
+    const Faults& faults = controller().faults();
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        const auto fault = static_cast<Faults::Fault>(row);
+        m_table->item(row, TimesColumn)->setText(QString::number(faults.timesLeft(fault)));
+        // A target may be typed before the fault is set.
+        if (faults.isSet(fault))
+            m_table->item(row, TargetColumn)->setText(faults.targetOf(fault));
+    }
+}

@@ -1,0 +1,228 @@
+#include "FbMainWidget.h"
+
+#include "BusFileDataManager.h"
+#include "ExitPermission.h"
+#include "FileLocations.h"
+#include "Logging.h"
+#include "PageBase.h"
+#include "ProgressBarWidget.h"
+#include "SysSettingApi.h"
+#include "ZelFunctions.h"
+#include "ui_FbMainWidget.h"
+
+#include <QButtonGroup>
+#include <QPointer>
+#include <QTimer>
+
+#include <utility>
+
+using PageRegistry::Entry;
+using PageRegistry::Shown;
+
+namespace {
+
+constexpr int NotificationsAwaited = 2;
+constexpr int ProfisafePresent = 1;
+
+// Progress in per cent at the steps of the start.
+constexpr int ProgressBuilt = 30;
+constexpr int ProgressBusesKnown = 60;
+constexpr int ProgressStartPage = 80;
+constexpr int ProgressMappingKnown = 100;
+
+bool shownAtStart(const Entry& entry)
+{
+    switch (entry.shown) {
+    case Shown::Always:
+        return true;
+    case Shown::WithProfisafe:
+        return BusFileDataManager::getInstance()->checkProfiSAFEStatus() == ProfisafePresent;
+    case Shown::WhenOn:
+    case Shown::Never:
+        break;
+    }
+    return false;
+}
+
+} // namespace
+
+FbMainWidget::FbMainWidget()
+    : ui(std::make_unique<Ui::FbMainWidget>())
+    , m_menuButtons(new QButtonGroup(this))
+    , m_progressBar(std::make_unique<ProgressBarWidget>(nullptr))
+{
+    ui->setupUi(this);
+    ZelSetUIStyleSheet(this, QLatin1String("fieldbussetting/FbMainWidget"));
+
+    m_progressBar->move(width() / 2 - m_progressBar->width() / 2, height() / 2 - m_progressBar->height() / 2);
+    m_progressBar->setRange(0, 100);
+    m_progressBar->show();
+    m_progressBar->setValue(ProgressBuilt);
+
+    buildMenu();
+    connect(m_menuButtons, SIGNAL(buttonClicked(int)), this, SLOT(slotMenuBtnsClicked(int)));
+
+    setIsFieldXml(true);
+    setIsFieldbusCfg(true);
+    BusFileDataManager::getInstance()->attach(this);
+    QTimer::singleShot(1, this, &FbMainWidget::slotGetFileToUi);
+    hide();
+}
+
+FbMainWidget::~FbMainWidget()
+{
+    // Pages may be observers themselves; they detach while the service is sure to be in no notification.
+    for (PageBase*& page : m_pages)
+        delete std::exchange(page, nullptr);
+    BusFileDataManager::getInstance()->detach(this);
+}
+
+void FbMainWidget::buildMenu()
+{
+    for (const Entry& entry : PageRegistry::entries()) {
+        if (!entry.button)
+            continue;
+        auto* button = new QPushButton(tr(entry.caption), ui->menuArea);
+        button->setObjectName(QLatin1String(entry.button));
+        button->setCheckable(true);
+        button->setVisible(entry.create && shownAtStart(entry));
+        ui->menuLayout->addWidget(button, entry.gridRow, 0);
+        m_menuButtons->addButton(button, entry.id);
+    }
+}
+
+void FbMainWidget::slotGetFileToUi()
+{
+    const QPointer<FbMainWidget> self(this);
+    BusFileDataManager* service = BusFileDataManager::getInstance();
+    ++m_mouseBlockCount;
+    applyMouseBlock();
+    if (service->isFuncInfoNotified(QStringLiteral("fieldbus")))
+        busNotification(0, QLatin1String(FileLocations::FieldbusXml), true);
+    else
+        service->emitGetFieldXml();
+    if (!self)
+        return;
+    if (service->isFuncInfoNotified(QStringLiteral("fieldbusCfg")))
+        busNotification(0, QLatin1String(FileLocations::FieldbusConfigXml), true);
+    else
+        service->emitGetFieldbusCfg();
+    if (!self)
+        return;
+    --m_mouseBlockCount;
+    applyMouseBlock();
+}
+
+void FbMainWidget::busNotification(int kind, const QString& path, bool success)
+{
+    if (kind != 0)
+        return;
+    if (path == QLatin1String(FileLocations::FieldbusXml) && m_busConfigPending) {
+        m_busConfigPending = false;
+        if (success) {
+            m_progressBar->setValue(ProgressBusesKnown);
+            for (const BusName& bus : BusFileDataManager::getInstance()->getBusNameList(true, true))
+                m_busNames.append(bus.name);
+            showButtonsOf(m_busNames);
+            const QPointer<FbMainWidget> self(this);
+            slotMenuBtnsClicked(PageRegistry::StartPage);
+            if (!self)
+                return;
+            m_progressBar->setValue(ProgressStartPage);
+        }
+        countNotification();
+    } else if (path == QLatin1String(FileLocations::FieldbusConfigXml) && m_mappingPending) {
+        m_mappingPending = false;
+        if (success)
+            m_progressBar->setValue(ProgressMappingKnown);
+        countNotification();
+    }
+}
+
+void FbMainWidget::showButtonsOf(const QStringList& busNames)
+{
+    for (const Entry& entry : PageRegistry::entries()) {
+        if (entry.busName && entry.create && busNames.contains(QLatin1String(entry.busName)))
+            m_menuButtons->button(entry.id)->show();
+    }
+}
+
+void FbMainWidget::countNotification()
+{
+    if (++m_notificationCount != NotificationsAwaited)
+        return;
+    if (m_progressBar->isVisible())
+        m_progressBar->close();
+    if (isHidden())
+        show();
+}
+
+void FbMainWidget::slotMenuBtnsClicked(int id)
+{
+    if (id < 0 || id >= PageRegistry::PageCount)
+        id = 0;
+    const QPointer<FbMainWidget> self(this);
+    PageBase* page = pageOf(id);
+    if (!self || !page)
+        return;
+    ui->fieldbusSetSWidget->setCurrentWidget(page);
+    if (QAbstractButton* button = m_menuButtons->button(id))
+        button->setChecked(true);
+    ZelSwitchWidgetVariablesContext();
+}
+
+PageBase* FbMainWidget::pageOf(int id)
+{
+    const auto index = static_cast<std::size_t>(id);
+    const Entry& entry = PageRegistry::entries()[index];
+    if (m_pages[index] || !entry.create || m_pageInTheMaking == id)
+        return m_pages[index];
+
+    // A page may fetch its file while it is built: the application may be closed, or the page asked for
+    // again, before it is there.
+    const QPointer<FbMainWidget> self(this);
+    const int outerPage = std::exchange(m_pageInTheMaking, id);
+    std::unique_ptr<PageBase> page(entry.create());
+    if (!self)
+        return nullptr;
+    m_pageInTheMaking = outerPage;
+    if (entry.blocksInput)
+        connect(page.get(), &PageBase::mouseEventSignal, this, &FbMainWidget::mouseEventTransParentSlot);
+    if (entry.needsFreeMode)
+        page->setFreeConfiguration(BusFileDataManager::getInstance()->isOpenFreeBus());
+    ui->fieldbusSetSWidget->addWidget(page.get());
+    m_pages[index] = page.release();
+    return m_pages[index];
+}
+
+void FbMainWidget::mouseEventTransParentSlot(bool status)
+{
+    m_mouseBlockCount += status ? 1 : -1;
+    applyMouseBlock();
+}
+
+void FbMainWidget::applyMouseBlock()
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents, m_mouseBlockCount != 0);
+}
+
+void FbMainWidget::on_exitBtn_clicked()
+{
+    qCDebug(fieldbusLog, "FbMainWidget::on_exitBtn_clicked");
+    emit closeApp(); // deletes this page
+}
+
+void FbMainWidget::idle()
+{
+    const QPointer<FbMainWidget> self(this);
+    for (const int id : PageRegistry::idleOrder()) {
+        PageBase* page = m_pages[static_cast<std::size_t>(id)];
+        if (page && page->isVisible())
+            page->refreshStatus();
+        if (!self) // a page's idle work may wait, and the application may be closed meanwhile
+            return;
+    }
+    SysSettingApi::getInstance()->sysSettingLibIdle();
+    if (ui->exitBtn->isEnabled() != ExitPermission::isGiven())
+        ui->exitBtn->setEnabled(ExitPermission::isGiven());
+}

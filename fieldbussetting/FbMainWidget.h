@@ -1,0 +1,67 @@
+#ifndef FBMAINWIDGET_H
+#define FBMAINWIDGET_H
+
+#include "BusObserver.h"
+#include "PageRegistry.h"
+
+#include <QStringList>
+#include <QWidget>
+
+#include <memory>
+
+class PageBase;
+class ProgressBarWidget;
+class QButtonGroup;
+
+namespace Ui {
+class FbMainWidget;
+}
+
+/// The menu page: a column of buttons for the bus roles that are switched on, and beside it the page of the
+/// chosen one. Hidden behind a progress bar until the bus file data service has reported both its files.
+class FbMainWidget : public QWidget, public BusObserver
+{
+    Q_OBJECT
+
+public:
+    FbMainWidget();
+    ~FbMainWidget() override;
+
+    /// The host's idle tick: the visible pages, the system settings, the exit button.
+    void idle();
+
+    void busNotification(int kind, const QString& path, bool success) override;
+
+signals:
+    void closeApp();
+
+private slots:
+    void on_exitBtn_clicked();
+    /// Shows the page of `id` and creates it when it is shown for the first time. An id that no page has
+    /// counts as 0.
+    void slotMenuBtnsClicked(int id);
+    /// A page begins (true) or ends (false) a time in which the operator's input is ignored.
+    void mouseEventTransParentSlot(bool status);
+    void slotGetFileToUi();
+
+private:
+    void buildMenu();
+    void showButtonsOf(const QStringList& busNames);
+    void countNotification();
+    /// The page of `id`, created when it is wanted for the first time; null when there is none.
+    PageBase* pageOf(int id);
+    void applyMouseBlock();
+
+    std::unique_ptr<Ui::FbMainWidget> ui;
+    QButtonGroup* m_menuButtons;
+    int m_mouseBlockCount = 0;
+    int m_pageInTheMaking = -1; // id of the page whose constructor is running, -1 for none
+    QStringList m_busNames;     // switched on
+    std::array<PageBase*, PageRegistry::PageCount> m_pages{};
+    std::unique_ptr<ProgressBarWidget> m_progressBar;
+    int m_notificationCount = 0;
+    bool m_busConfigPending = true;
+    bool m_mappingPending = true;
+};
+
+#endif

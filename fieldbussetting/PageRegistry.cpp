@@ -1,0 +1,67 @@
+#include "PageRegistry.h"
+
+#include "HeartbeatDetectionWidget.h"
+
+#include <QCoreApplication>
+
+namespace PageRegistry {
+
+namespace {
+
+template <typename Page>
+PageBase* create()
+{
+    return new Page;
+}
+
+constexpr const char* NoButton = nullptr;
+constexpr const char* NoBus = nullptr;
+constexpr PageBase* (*NoPage)() = nullptr;
+
+} // namespace
+
+const std::array<Entry, PageCount>& entries()
+{
+    // id, button, caption, row, shown, bus, page, blocks input, needs free mode
+    static constexpr std::array<Entry, PageCount> table = {{
+        {0, "mesBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mes"), 1, Shown::WhenOn, "Mes", NoPage, true, false},
+        {1, "pfbPfnBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pfn"), 4, Shown::WhenOn, "ProfinetSlave", NoPage,
+         true, true},
+        {2, NoButton, "", 0, Shown::Never, NoBus, NoPage, false, false},
+        {3, "etherCatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "EthCat"), 5, Shown::WhenOn, "EtherCatSlave",
+         NoPage, true, false},
+        {4, "etherNetBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eip"), 7, Shown::WhenOn, "EtherNetIPSlave",
+         NoPage, true, true},
+        {5, "busSetting", QT_TRANSLATE_NOOP("FbMainWidget", "BusSetting"), 0, Shown::Always, NoBus, NoPage,
+         true, false},
+        {6, "heartbeatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Heartbeat"), 14, Shown::Always, NoBus,
+         create<HeartbeatDetectionWidget>, true, false},
+        {7, "configBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Configuration"), 15, Shown::Always, NoBus, NoPage,
+         true, false},
+        {8, "etherCatMBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Ecm"), 8, Shown::WhenOn, "EtherCatMaster",
+         NoPage, true, false},
+        {9, "deviceBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dns"), 9, Shown::WhenOn, "DeviceNetSlave", NoPage,
+         true, false},
+        {10, "mtcpMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mbc"), 3, Shown::WhenOn, "ModbusTcpMaster",
+         NoPage, true, false},
+        {11, "eipMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eim"), 10, Shown::WhenOn, "EtherNetIPMaster",
+         NoPage, true, false},
+        {12, "pnmBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pnm"), 11, Shown::WhenOn, "ProfinetMaster", NoPage,
+         true, false},
+        {13, "devicemBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dnm"), 12, Shown::WhenOn, "DeviceNetMaster",
+         NoPage, true, false},
+        {14, "btn_pfss", QT_TRANSLATE_NOOP("FbMainWidget", "Pfss"), 13, Shown::WithProfisafe, NoBus, NoPage,
+         false, false},
+        {15, "btn_mtcp", QT_TRANSLATE_NOOP("FbMainWidget", "Mtcp"), 2, Shown::Always, NoBus, NoPage, false,
+         false},
+    }};
+    return table;
+}
+
+const std::array<int, 13>& idleOrder()
+{
+    static constexpr std::array<int, 13> order = {0, 2, 6, 5, 7, 4, 1, 9, 10, 11, 12, 13, 14};
+    return order;
+}
+
+} // namespace PageRegistry

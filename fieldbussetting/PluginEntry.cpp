@@ -1,0 +1,35 @@
+#include "PluginEntry.h"
+
+#include "FieldbusSettingLib.h"
+#include "MainWidget.h"
+#include "ZelCustomData.h"
+
+namespace {
+
+// The library object has no owner but the plug-in; it goes when the plug-in is unloaded.
+struct LibraryRelease
+{
+    LibraryRelease() = default;
+    LibraryRelease(const LibraryRelease&) = delete;
+    LibraryRelease& operator=(const LibraryRelease&) = delete;
+    ~LibraryRelease() { FieldbusSettingLib::destroy(); }
+};
+
+const LibraryRelease libraryRelease;
+
+} // namespace
+
+BaseZelCustomData* CreateZelCustomData()
+{
+    return new ZelCustomData;
+}
+
+ZelBaseWidget* CreateZelCustomWidget(BaseZelCustomData* data, QWidget* parent)
+{
+    auto* widget = new MainWidget(data, parent);
+    QWidget* central = data->getCentralWidget();
+    widget->setCentralWidget(central);
+    if (central)
+        QObject::connect(central, SIGNAL(closeApp()), widget, SLOT(closeAppSlot()));
+    return widget;
+}

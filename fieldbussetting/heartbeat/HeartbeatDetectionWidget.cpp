@@ -1,0 +1,157 @@
+#include "HeartbeatDetectionWidget.h"
+
+#include "QTouchLineEdit.h"
+#include "ui_HeartbeatDetectionWidget.h"
+
+#include <QCheckBox>
+#include <QLabel>
+
+#include <array>
+
+namespace {
+
+struct Row
+{
+    const char* caption;
+    const char* checkBox;
+    const char* edit;
+    const char* light;
+    bool (FieldbusSettingLib::*linkState)() const;
+};
+
+// In the order of HeartbeatConfig::fields().
+constexpr std::array<Row, HeartbeatConfig::BusCount> Rows = {{
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "ModbusTcp Slave"), "modbusCheckBox", "modbusLineEdit",
+     "mdbConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_mtcp_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "EtherCat Slave"), "ethercatCheckBox", "ethercatLineEdit",
+     "etherCatConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_ethcat_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "Profinet Slave"), "profinetCheckBox", "profinetLineEdit",
+     "pfnConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_pfbdp_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "EthernetIP Slave"), "ethernetCheckBox",
+     "ethernetLineEdit", "ethernConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_eip_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "EtherCat Master"), "ecmCheckBox", "ecmLineEdit",
+     "ecmConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_ecm_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "DeviceNet Slave"), "dnsCheckBox", "dnsLineEdit",
+     "dnsConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_dns_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "ModbusTcp Master"), "mbcCheckBox", "mbcLineEdit",
+     "mbcConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_mbc_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "EthernetIP Master"), "eimCheckBox", "eimLineEdit",
+     "eimConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_eim_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "Profinet Master"), "pnmCheckBox", "pnmLineEdit",
+     "pnmConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_pnm_link_state},
+    {QT_TRANSLATE_NOOP("HeartbeatDetectionWidget", "DeviceNet Master"), "dnmCheckBox", "dnmLineEdit",
+     "dnmConnectStatLb", &FieldbusSettingLib::get_ifidbus_heatbeatdet_dnm_link_state},
+}};
+
+constexpr int TimeoutDecimals = 3;
+constexpr double LongestTimeout = 9999.999; // seconds; what the keyboard lets through
+
+TransferTexts transferTexts()
+{
+    TransferTexts texts;
+    texts.kind = MsgBox::Error;
+    return texts;
+}
+
+} // namespace
+
+HeartbeatDetectionWidget::HeartbeatDetectionWidget()
+    : PageBase("HeartbeatDetectionWidget")
+    , ui(std::make_unique<Ui::HeartbeatDetectionWidget>())
+{
+    ui->setupUi(this);
+    buildRows();
+    applyStyle();
+    scheduleOnce(1, &HeartbeatDetectionWidget::slotGetFileToUi);
+}
+
+HeartbeatDetectionWidget::~HeartbeatDetectionWidget() = default;
+
+void HeartbeatDetectionWidget::buildRows()
+{
+    int line = ui->rowsLayout->rowCount();
+    for (const Row& row : Rows) {
+        auto* caption = new QLabel(tr(row.caption), this);
+        auto* checkBox = new QCheckBox(this);
+        checkBox->setObjectName(QLatin1String(row.checkBox));
+        auto* edit = new QTouchLineEdit(this);
+        edit->setObjectName(QLatin1String(row.edit));
+        edit->setCast(QTouchLineEdit::CastReal, TimeoutDecimals);
+        edit->setValueRange(0.0, LongestTimeout);
+        edit->setUnit(tr("s"));
+        auto* light = new QLabel(this);
+        light->setObjectName(QLatin1String(row.light));
+
+        ui->rowsLayout->addWidget(caption, line, 0);
+        // No wider than its box: what lies beside it is no target.
+        ui->rowsLayout->addWidget(checkBox, line, 1, Qt::AlignLeft | Qt::AlignVCenter);
+        ui->rowsLayout->addWidget(edit, line, 2);
+        ui->rowsLayout->addWidget(new QLabel(tr("s"), this), line, 3);
+        ui->rowsLayout->addWidget(light, line, 4);
+        ++line;
+
+        m_switches.push_back(checkBox);
+        m_timeouts.push_back(edit);
+        m_lights.emplace_back(light);
+    }
+}
+
+void HeartbeatDetectionWidget::slotGetFileToUi()
+{
+    Busy busy(this);
+    if (fetchAndRead(ConfigFile::Heartbeat, plain(&FieldbusSettingLib::readHeartbeatDetectionFile),
+                     transferTexts()) == Outcome::Gone)
+        return;
+    busy.release();
+    fillFromRecord();
+}
+
+void HeartbeatDetectionWidget::on_saveButton_clicked()
+{
+    switch (ask(tr("Are you sure to save the data ?"))) {
+    case Answer::Confirmed:
+        break;
+    case Answer::Second:
+        fillFromRecord();
+        return;
+    default:
+        return;
+    }
+    storeToRecord();
+    if (writeAndSend(ConfigFile::Heartbeat, plain(&FieldbusSettingLib::writeHeartbeatDetectionFile),
+                     transferTexts()) != Outcome::Done)
+        return;
+    lib()->set_ifidbus_heatbeatdet_xml_update(true);
+    tell(MsgBox::Information, tr("Save successfully."));
+}
+
+void HeartbeatDetectionWidget::refreshStatus()
+{
+    // The record, not the check boxes: what is not saved yet is not watched yet.
+    const HeartbeatConfig& record = lib()->heartbeat;
+    for (std::size_t i = 0; i < m_lights.size(); ++i) {
+        const bool watched = record.*HeartbeatConfig::fields()[i].nodSwitch;
+        const bool linked = (lib()->*Rows[i].linkState)();
+        m_lights[i].show(!watched ? StatusLight::Grey : linked ? StatusLight::Green : StatusLight::Red);
+    }
+}
+
+void HeartbeatDetectionWidget::fillFromRecord()
+{
+    const HeartbeatConfig& record = lib()->heartbeat;
+    for (std::size_t i = 0; i < m_switches.size(); ++i) {
+        const HeartbeatConfig::Field& field = HeartbeatConfig::fields()[i];
+        m_switches[i]->setChecked(record.*field.nodSwitch);
+        m_timeouts[i]->setText(HeartbeatConfig::timeoutText(record.*field.timeout));
+    }
+}
+
+void HeartbeatDetectionWidget::storeToRecord()
+{
+    HeartbeatConfig& record = lib()->heartbeat;
+    for (std::size_t i = 0; i < m_switches.size(); ++i) {
+        const HeartbeatConfig::Field& field = HeartbeatConfig::fields()[i];
+        record.*field.nodSwitch = m_switches[i]->isChecked();
+        record.*field.timeout = m_timeouts[i]->text().toDouble();
+    }
+}

@@ -1,0 +1,64 @@
+#ifndef FILELOCATIONS_H
+#define FILELOCATIONS_H
+
+#include <QString>
+
+#include <vector>
+
+/// Where a configuration file lies on the pendant and on the controller.
+struct FileLocation
+{
+    QString local;      ///< relative to the pendant's working directory, localised
+    QString controller; ///< absolute in the controller's file system, as written there
+};
+
+/// The files that pages fetch, edit and send.
+enum class ConfigFile {
+    BusSwitch,
+    Override,
+    PfbSlave,
+    PfbFree,
+    PfbFixed,
+    EipSlave,
+    EipSlaveFree,
+    EipSlaveFixed,
+    DeviceNetSlave,
+    DeviceNetMaster,
+    MtcpMaster,
+    EipMaster,
+    PfnMaster,
+    MesServer,
+    FinsClient,
+    Heartbeat,
+    Count
+};
+
+/// A file of the import and export set.
+struct TransferFile
+{
+    const char* label;      ///< names the file in the log
+    const char* folder;     ///< sub-folder on the drive and below the staging directory, empty for its root
+    const char* name;       ///< file name, the same everywhere
+    const char* controller; ///< path on the controller
+    QString staging;        ///< localised path in the staging directory
+};
+
+namespace FileLocations {
+
+const FileLocation& of(ConfigFile file);
+
+/// Local working directory, localised.
+const QString& workingDirectory();
+/// Staging directory of import and export, localised.
+const QString& stagingDirectory();
+
+/// The bus configuration and the I/O mapping belong to the bus file data service, which fetches them itself.
+extern const char* const FieldbusXml;
+extern const char* const FieldbusConfigXml;
+
+/// The import and export set, in the order in which the export fetches it.
+const std::vector<TransferFile>& transferSet();
+
+} // namespace FileLocations
+
+#endif

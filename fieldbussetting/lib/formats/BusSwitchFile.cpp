@@ -1,0 +1,83 @@
+#include "BusSwitchFile.h"
+
+#include "FileLocations.h"
+#include "HandleBusFiles.h"
+#include "Logging.h"
+#include "XmlFile.h"
+#include "ZelFunctions.h"
+
+#include <QStringList>
+
+namespace {
+
+struct Role
+{
+    const char* name;
+    bool BusSwitchSet::*enabled;
+    Qt::CaseSensitivity spelling; ///< how the controller's spelling of the name is compared
+};
+
+constexpr Role Roles[] = {
+    {"Mes", &BusSwitchSet::Mes, Qt::CaseInsensitive},
+    {"EtherCatSlave", &BusSwitchSet::EtherCatSlave, Qt::CaseInsensitive},
+    {"ProfinetSlave", &BusSwitchSet::ProfinetSlave, Qt::CaseInsensitive},
+    {"ProfinetMaster", &BusSwitchSet::ProfinetMaster, Qt::CaseInsensitive},
+    {"FinsTcp", &BusSwitchSet::FinsTcp, Qt::CaseSensitive},
+    {"EtherNetIPSlave", &BusSwitchSet::EtherNetIPSlave, Qt::CaseInsensitive},
+    {"EtherCatMaster", &BusSwitchSet::EtherCatMaster, Qt::CaseInsensitive},
+    {"DeviceNetSlave", &BusSwitchSet::DeviceNetSlave, Qt::CaseInsensitive},
+    {"ModbusTcpMaster", &BusSwitchSet::ModbusTcpMaster, Qt::CaseInsensitive},
+    {"EtherNetIPMaster", &BusSwitchSet::EtherNetIPMaster, Qt::CaseSensitive},
+    {"DeviceNetMaster", &BusSwitchSet::DeviceNetMaster, Qt::CaseInsensitive},
+    {"FreeBus", &BusSwitchSet::FreeBus, Qt::CaseInsensitive},
+};
+
+constexpr const char* RootElement = "FieldbusSettingConfig";
+
+// The PROFINET master keeps its flag: a file that does not list the role says nothing about it, and the
+// pages count on what an earlier file said.
+void clearAllButProfinetMaster(BusSwitchSet& switches)
+{
+    const bool profinetMaster = switches.ProfinetMaster;
+    switches = BusSwitchSet();
+    switches.ProfinetMaster = profinetMaster;
+}
+
+} // namespace
+
+bool HandleBusFiles::readFieldbusCfg(const QString& path, BusSwitchSet& switches, bool isImport)
+{
+    pugi::xml_document document;
+    if (!XmlFile::load(path, document))
+        return false;
+    clearAllButProfinetMaster(switches);
+    QStringList enabledNames;
+    for (const pugi::xml_node entry : document.child(RootElement).children()) {
+        const QString name = QString::fromUtf8(entry.attribute("name").value());
+        if (entry.child("enable").text().as_int() == 1)
+            enabledNames.append(name);
+        if (isImport && name.contains(QLatin1String("ModbusTcpMaster"), Qt::CaseInsensitive))
+            switches.ModbusTcpMasterListed = true;
+    }
+    for (const Role& role : Roles) {
+        if (enabledNames.contains(QLatin1String(role.name), role.spelling))
+            switches.*role.enabled = true;
+    }
+    return true;
+}
+
+// The file is the controller's: its spelling and order stay, and only one entry is ever changed.
+bool HandleBusFiles::writeFieldbusCfg(const QString& path)
+{
+    pugi::xml_document document;
+    if (!XmlFile::load(ZelGetLocalizedFileName(path, 1), document)) {
+        qCDebug(fieldbusLog).noquote() << "HandleBusFiles::writeFieldbusCfg " + path + " failed!";
+        return false;
+    }
+    for (const pugi::xml_node entry : document.child(RootElement).children()) {
+        const QString name = QString::fromUtf8(entry.attribute("name").value());
+        if (name.compare(QLatin1String("ProfinetSlave"), Qt::CaseInsensitive) == 0)
+            entry.child("enable").first_child().set_value("0");
+    }
+    return XmlFile::save(path, document, pugi::format_no_escapes);
+}

@@ -1,0 +1,281 @@
+#include "DeviceNetMasterFile.h"
+
+#include "AsciiText.h"
+#include "FileLocations.h"
+#include "HandleBusFiles.h"
+#include "TextTemplate.h"
+#include "WholeFile.h"
+
+#include <QFile>
+
+#include <variant>
+
+// docs/dnmst0-layout.md describes the file.
+namespace {
+
+using Device = DeviceNetMasterDevice;
+using Master = DeviceNetMasterConfig;
+
+/// A line of a keyword and a value.
+template <typename Record>
+struct Field
+{
+    const char* keyword;
+    std::variant<int Record::*, QString Record::*> member;
+};
+
+constexpr Field<Master> SettingFields[] = {
+    {"WS_ID", &Master::WS_ID},
+    {"BAUDRATE", &Master::BAUDRATE},
+    {"ENDIAN", &Master::ENDIAN},
+    {"PACHET_RATIO", &Master::PACHET_RATIO},
+};
+
+constexpr Field<Device> InputFields[] = {
+    {"VENDOR_ID", &Device::VENDOR_ID},
+    {"PROD_CODE", &Device::PROD_CODE},
+    {"REVISION", &Device::REVISION},
+    {"CFG_FLAG", &Device::CFG_FLAG},
+    {"NODE_STATUS_REG", &Device::NODE_STATUS_REG},
+};
+
+/// Inputs or outputs of a device: the heading, the line "keyword, first register, registers, bytes", the
+/// fields below it, and the list of the registers when there are any.
+struct Direction
+{
+    const char* heading;
+    const char* blockKeyword;
+    int Device::*firstRegister;
+    int Device::*bytes;
+    const Field<Device>* fieldsBegin;
+    const Field<Device>* fieldsEnd;
+    const char* registersLine;
+};
+
+constexpr Direction Directions[] = {
+    {";**************** I N P U T ***********", "BLOCK_TO_RBX", &Device::BLOCK_TO_RBX, &Device::inputBytes,
+     std::begin(InputFields), std::end(InputFields), "O-0   INP_W_8    "},
+    {";***************** O U T P U T *********", "BLOCK_FROM_RBX", &Device::BLOCK_FROM_RBX,
+     &Device::outputBytes, nullptr, nullptr, "O-0   OUT_w_8    "},
+};
+
+constexpr std::size_t BlockBytesWord = 3; // behind keyword, first register and registers
+
+// The first line with the marker ends the header; the rule of every device block carries it.
+constexpr std::string_view Marker = "===================";
+constexpr const char* Rule = ";======================================";
+constexpr std::string_view DevicePrefix = ";   Device ";
+constexpr std::string_view MacIdKeyword = " MAC ID ";
+
+void readValue(std::string_view word, int& value)
+{
+    AsciiText::readNumber(word, value);
+}
+
+void readValue(std::string_view word, QString& value)
+{
+    value = AsciiText::text(word);
+}
+
+QByteArray written(int value)
+{
+    return QByteArray::number(value);
+}
+
+QByteArray written(const QString& value)
+{
+    return AsciiText::bytes(value);
+}
+
+template <typename Record>
+QByteArray written(const Field<Record>& field, const Record& record)
+{
+    return QByteArray(field.keyword) + ' ' +
+           std::visit([&record](auto member) { return written(record.*member); }, field.member);
+}
+
+// A comment ends the line; a line that is commented out has no words.
+std::vector<std::string_view> lineWords(std::string_view line)
+{
+    return AsciiText::words(line.substr(0, line.find(';')), AsciiText::WhiteSpace);
+}
+
+template <typename Record>
+const Field<Record>* fieldOf(const Field<Record>* begin, const Field<Record>* end, std::string_view keyword)
+{
+    const auto* found =
+        std::find_if(begin, end, [keyword](const Field<Record>& field) { return field.keyword == keyword; });
+    return found == end ? nullptr : found;
+}
+
+const Field<Master>* settingOf(const std::vector<std::string_view>& words)
+{
+    return words.empty() ? nullptr
+                         : fieldOf(std::begin(SettingFields), std::end(SettingFields), words.front());
+}
+
+template <typename Record>
+void readField(const Field<Record>* field, const std::vector<std::string_view>& words, Record& record)
+{
+    if (field && words.size() > 1)
+        std::visit([&](auto member) { readValue(words[1], record.*member); }, field->member);
+}
+
+void readDeviceLine(const std::vector<std::string_view>& words, Device& device)
+{
+    if (words.size() < 2)
+        return;
+    for (const Direction& direction : Directions) {
+        if (words.front() == direction.blockKeyword) {
+            AsciiText::readNumber(words[1], device.*direction.firstRegister);
+            if (words.size() > BlockBytesWord)
+                AsciiText::readNumber(words[BlockBytesWord], device.*direction.bytes);
+            device.*direction.bytes = qBound(0, device.*direction.bytes, Device::MostBytes);
+        }
+        readField(fieldOf(direction.fieldsBegin, direction.fieldsEnd, words.front()), words, device);
+    }
+}
+
+/// Takes a file line by line: settings up to the first device, then the devices' blocks.
+class Reader
+{
+public:
+    explicit Reader(Master& record)
+        : m_record(record)
+    {
+    }
+
+    bool operator()(std::string_view line, std::string_view /*end*/)
+    {
+        m_isBelowHeader |= TextTemplate::contains(line, Marker);
+        const std::size_t macId = line.find(MacIdKeyword);
+        // Blocks in a header are the controller's prose: they come through a write as they are, and must not
+        // appear a second time.
+        if (m_isBelowHeader && line.substr(0, DevicePrefix.size()) == DevicePrefix &&
+            macId != std::string_view::npos) {
+            if (m_record.count == Master::MaxDevices)
+                return false;
+            m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
+            const auto words =
+                AsciiText::words(line.substr(macId + MacIdKeyword.size()), AsciiText::WhiteSpace);
+            if (!words.empty())
+                AsciiText::readNumber(words.front(), m_device->MAC_ID);
+            return true;
+        }
+        const std::vector<std::string_view> words = lineWords(line);
+        if (m_device)
+            readDeviceLine(words, *m_device);
+        else
+            readField(settingOf(words), words, m_record);
+        return true;
+    }
+
+private:
+    Master& m_record;
+    Device* m_device = nullptr;
+    bool m_isBelowHeader = false;
+};
+
+QByteArray rewrittenHeader(const QByteArray& content, const Master& record)
+{
+    QByteArray header;
+    TextTemplate::forEachLine(content, [&](std::string_view line, std::string_view end) {
+        if (TextTemplate::contains(line, Marker))
+            return false;
+        if (const Field<Master>* setting = settingOf(lineWords(line)))
+            header.append(written(*setting, record));
+        else
+            TextTemplate::keep(line, header);
+        return TextTemplate::keep(end, header);
+    });
+    return header;
+}
+
+QByteArray lineEndOf(const QByteArray& header)
+{
+    const int feed = header.indexOf('\n');
+    return feed > 0 && header.at(feed - 1) == '\r' ? QByteArray("\r\n") : QByteArray("\n");
+}
+
+QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
+{
+    QByteArray out = Rule + lineEnd + DevicePrefix.data() + QByteArray::number(number) + MacIdKeyword.data() +
+                     QByteArray::number(device.MAC_ID) + lineEnd;
+    for (const Direction& direction : Directions) {
+        const int first = device.*direction.firstRegister;
+        const int count = Master::registerCount(device.*direction.bytes);
+        out += direction.heading + lineEnd + direction.blockKeyword;
+        for (const int value : {first, count, device.*direction.bytes})
+            out += ' ' + QByteArray::number(value);
+        out += lineEnd;
+        for (const Field<Device>* field = direction.fieldsBegin; field != direction.fieldsEnd; ++field)
+            out += written(*field, device) + lineEnd;
+        if (count == 0)
+            continue;
+        out += direction.registersLine + QByteArray::number(first);
+        for (int next = first + 1; next < first + count; ++next)
+            out += ' ' + QByteArray::number(next);
+        out += lineEnd;
+    }
+    return out + Rule + lineEnd;
+}
+
+QByteArray blocks(const Master& record, const QByteArray& header)
+{
+    const QByteArray lineEnd = lineEndOf(header);
+    QByteArray out;
+    if (record.count > 0 && !header.endsWith('\n'))
+        out += lineEnd;
+    for (int i = 0; i < record.count; ++i)
+        out += block(record.devices[static_cast<std::size_t>(i)], i + 1, lineEnd);
+    return out;
+}
+
+} // namespace
+
+void DeviceNetMasterConfig::layOutRegisters()
+{
+    count = qBound(0, count, MaxDevices);
+    for (const Direction& direction : Directions) {
+        int next = FirstRegister;
+        for (int i = 0; i < count; ++i) {
+            Device& device = devices[static_cast<std::size_t>(i)];
+            int& bytes = device.*direction.bytes;
+            bytes = qBound(0, bytes, Device::MostBytes);
+            device.*direction.firstRegister = next;
+            next += registerCount(bytes);
+        }
+    }
+}
+
+// A keyword that the file lacks leaves its setting as it was; the devices are always those of the file.
+bool HandleBusFiles::readDeviceNetMasterFile(const QString& path, DeviceNetMasterConfig& record)
+{
+    QByteArray content;
+    if (!WholeFile::read(path, content) || content.isEmpty())
+        return false;
+    record.count = 0;
+    record.devices = {};
+    TextTemplate::forEachLine(content, Reader(record));
+    return true;
+}
+
+// The header is the controller's, and a file without one could not carry the master's own settings: an empty
+// copy, as a broken transfer leaves it, must not become a file that is sent.
+bool HandleBusFiles::writeDeviceNetMasterFile(const QString& path, DeviceNetMasterConfig& record)
+{
+    const QString oldCopy = FileLocations::workingDirectory() + QLatin1String("/test1.txt");
+    const QString newCopy = FileLocations::workingDirectory() + QLatin1String("/test2.txt");
+    QFile::remove(oldCopy);
+    QFile::remove(newCopy);
+    const QString current = QFile::exists(path) ? path : FileLocations::of(ConfigFile::DeviceNetMaster).local;
+    QByteArray content;
+    if (!QFile::copy(current, oldCopy) || !WholeFile::read(oldCopy, content))
+        return false;
+    const QByteArray header = rewrittenHeader(content, record);
+    if (header.isEmpty())
+        return false;
+    record.layOutRegisters();
+    content = header + blocks(record, header);
+    return WholeFile::replace(newCopy, content) && WholeFile::replace(path, content);
+}

@@ -1,0 +1,63 @@
+#include "EipSlaveFile.h"
+
+#include "AsciiText.h"
+#include "FileLocations.h"
+#include "HandleBusFiles.h"
+#include "SlaveTextFile.h"
+#include "TextTemplate.h"
+#include "WholeFile.h"
+
+namespace {
+
+struct Field
+{
+    const char* keyword;
+    QString EipSlaveConfig::*value;
+};
+
+constexpr Field Fields[] = {
+    {"IPADDR", &EipSlaveConfig::IPADDR},
+    {"NETMASK", &EipSlaveConfig::NETMASK},
+};
+
+// Keyword and blanks go wherever they stand; tabs and a comment stay with the value, which then matches no
+// port's address and is shown as unset.
+QString valueOf(std::string_view line, const char* keyword)
+{
+    return AsciiText::text(line).remove(QLatin1String(keyword)).remove(QLatin1Char(' '));
+}
+
+} // namespace
+
+bool HandleBusFiles::readEtherNetFile(const QString& path, EipSlaveConfig& record)
+{
+    QByteArray content;
+    if (!WholeFile::read(path, content) || content.isEmpty())
+        return false;
+    TextTemplate::forEachLine(content, [&record](std::string_view whole, std::string_view) {
+        const std::string_view line = AsciiText::trimmed(whole);
+        SlaveTextFile::readEndian(line, record.EipEndian);
+        for (const Field& field : Fields) {
+            if (TextTemplate::contains(line, field.keyword))
+                record.*field.value = valueOf(line, field.keyword);
+        }
+        return true;
+    });
+    return true;
+}
+
+bool HandleBusFiles::writeEtherNetFile(const QString& path, const EipSlaveConfig& record)
+{
+    std::vector<SlaveTextFile::OwnedLine> lines;
+    for (const Field& field : Fields)
+        lines.push_back(
+            {field.keyword, QByteArray(field.keyword) + ' ' + AsciiText::bytes(record.*field.value)});
+    return SlaveTextFile::rewrite(path, {"/dns_temp.cfg", FileLocations::of(ConfigFile::EipSlave).controller},
+                                  record.EipEndian, lines);
+}
+
+bool HandleBusFiles::writeEtherNetDnsFile(const QString& path, const QString& ctrlPath,
+                                          const EipSlaveConfig& record)
+{
+    return SlaveTextFile::rewrite(path, {"/dns_fixOrFreeTemp.cfg", ctrlPath}, record.EipEndian, {});
+}

@@ -1,0 +1,19 @@
+#ifndef FINSCLIENTFILE_H
+#define FINSCLIENTFILE_H
+
+#include <QString>
+
+/// Record of FinsTcpConfig.xml, the FINS client that reads from and writes to a PLC's DM area. Named as the
+/// elements.
+struct FinsClientConfig
+{
+    QString ServerIP = QStringLiteral("192.168.1.22"); ///< IPv4 address of the PLC
+    QString ServerPort = QStringLiteral("9600");       ///< its TCP port
+    int ClientNode = 12;                               ///< FINS node number of the controller
+    int AutoConnect = 0;                               ///< 1: connects by itself
+    int ReadDmAddress = 1000;                          ///< first DM word read from the PLC
+    int WriteDmAddress = 5000;                         ///< first DM word written to the PLC
+    int IpPortIndex = 1;                               ///< network port of the controller: 0 ETH2, else ETH3
+};
+
+#endif

@@ -1,0 +1,67 @@
+#include "HeartbeatFile.h"
+
+#include "HandleBusFiles.h"
+#include "XmlFile.h"
+
+#include <cmath>
+
+#define HEARTBEAT_FIELD(bus)                                                                                 \
+    {                                                                                                        \
+#bus, #bus "_Nod_Switch", &HeartbeatConfig::bus##_Nod_Switch, #bus "_Timeout",                       \
+            &HeartbeatConfig::bus##_Timeout                                                                  \
+    }
+
+const std::array<HeartbeatConfig::Field, HeartbeatConfig::BusCount>& HeartbeatConfig::fields()
+{
+    static constexpr std::array<Field, BusCount> table = {{
+        HEARTBEAT_FIELD(Mtcp),
+        HEARTBEAT_FIELD(Ethcat),
+        HEARTBEAT_FIELD(Pfnet),
+        HEARTBEAT_FIELD(Eip),
+        HEARTBEAT_FIELD(Ecm),
+        HEARTBEAT_FIELD(Dns),
+        HEARTBEAT_FIELD(Mbc),
+        HEARTBEAT_FIELD(Eim),
+        HEARTBEAT_FIELD(Pnm),
+        HEARTBEAT_FIELD(Dnm),
+    }};
+    return table;
+}
+
+#undef HEARTBEAT_FIELD
+
+QString HeartbeatConfig::timeoutText(double seconds)
+{
+    return QString::number(std::isfinite(seconds) ? seconds : 0.0, 'f', 3);
+}
+
+// Unlike the other readers this one forgets the previous values even when the file cannot be read.
+bool HandleBusFiles::readHeartbeatDetectionFile(const QString& path, HeartbeatConfig& record)
+{
+    record = HeartbeatConfig();
+    pugi::xml_document document;
+    if (!XmlFile::load(path, document))
+        return false;
+    const XmlFile::PointDecimals pointDecimals;
+    const pugi::xml_node root = document.child("Fidbus");
+    for (const HeartbeatConfig::Field& field : HeartbeatConfig::fields()) {
+        const pugi::xml_node bus = root.child(field.bus);
+        record.*field.nodSwitch = bus.child(field.switchElement).text().as_bool();
+        record.*field.timeout = bus.child(field.timeoutElement).text().as_double();
+    }
+    return true;
+}
+
+bool HandleBusFiles::writeHeartbeatDetectionFile(const QString& path, const HeartbeatConfig& record)
+{
+    pugi::xml_document document;
+    XmlFile::appendPrologue(document);
+    pugi::xml_node root = document.append_child("Fidbus");
+    for (const HeartbeatConfig::Field& field : HeartbeatConfig::fields()) {
+        pugi::xml_node bus = root.append_child(field.bus);
+        bus.append_child(field.switchElement).text() = record.*field.nodSwitch ? "1" : "0";
+        bus.append_child(field.timeoutElement).text() =
+            HeartbeatConfig::timeoutText(record.*field.timeout).toLatin1().constData();
+    }
+    return XmlFile::save(path, document);
+}

@@ -1,0 +1,16 @@
+#ifndef MESSERVERFILE_H
+#define MESSERVERFILE_H
+
+#include <QString>
+
+/// Record of TcpServerConfig.xml, the server for a manufacturing execution system. Named as the elements.
+struct MesServerConfig
+{
+    QString Port = QStringLiteral("8008"); ///< TCP port on which the controller listens, as it was typed
+    int Mode = 0;                          ///< 0 ask, 1 broadcast
+    int Protocol = 0;                      ///< 0 robot, 1 auxiliary
+    int IntervalTime = 100;                ///< ms, 0 to 9999 on the page
+    int IpPortIndex = 1;                   ///< network port of the controller: 0 ETH2, else ETH3
+};
+
+#endif

@@ -1,0 +1,19 @@
+#ifndef MTCPMASTERFILE_H
+#define MTCPMASTERFILE_H
+
+#include <QString>
+
+/// Record of mtcp_master.xml, the Modbus TCP master's connection to its slave. Named as the elements of the
+/// file; texts as they stand there.
+struct MtcpMasterConfig
+{
+    QString SlaveIp;     ///< IPv4 address
+    QString SlavePort;   ///< TCP port, 0 to 65535
+    QString SlaveId;     ///< unit identifier, 0 to 125
+    QString TimeOut;     ///< seconds, 0.1 to 10
+    QString ReadEndian;  ///< byte order of read data: the decimal index of the page's choice
+    QString WriteEndian; ///< byte order of written data, as ReadEndian
+    QString Alivetime;   ///< keep-alive time; no page edits it, and it is written as it was read
+};
+
+#endif

@@ -1,0 +1,50 @@
+#ifndef OVERRIDEFILE_H
+#define OVERRIDEFILE_H
+
+#include <QString>
+
+#include <array>
+
+/// A switch-off directive of the controller's override.cfg.
+struct OverrideEntry
+{
+    /// The directive is commented out: the device is in use. The pages show it as "Activate".
+    bool off = false;
+    qint32 slot = 0;    ///< 1: device of the EtherCAT slave module, 2: device of a master bus
+    quint32 number = 0; ///< device number
+    QString name;       ///< from the directive's comment, in upper case; empty without one
+    /// Whether the line was read word for word. One that was not (a comment with blanks, say) is written
+    /// back with nothing but its activation changed.
+    bool understood = true;
+    /// How `name` stands in the file; a file may hold comments of other encodings, byte for byte.
+    bool nameIsUtf8 = true;
+};
+
+/// The directives of one device family: EtherCAT slave, EtherCAT master, EtherNet/IP master or PROFINET
+/// master. The file is shared by the four; each has a record of its own.
+struct OverrideRecord
+{
+    static constexpr int MaxEntries = 20;
+
+    std::array<OverrideEntry, MaxEntries> entries;
+    int count = 0; ///< entries that the last read found, 0 to MaxEntries
+
+    /// The entry named "ANYBUS" (the module of the EtherCAT slave), null when there is none.
+    const OverrideEntry* anybus() const;
+};
+
+/// Which master devices the override file leaves in use, that is, whose directive is commented out.
+struct MasterDevicesInUse
+{
+    bool EIM_DEVICE = false; ///< EtherNet/IP master
+    bool PNM_DEVICE = false; ///< PROFINET master
+};
+
+/// What a writer of a master family does to the directives.
+enum class OverrideMode {
+    WriteRecord = 0, ///< each becomes what the record says
+    SwitchOn = 1,    ///< all devices of the bus in use
+    SwitchOff = 2    ///< all switched off
+};
+
+#endif

@@ -1,0 +1,80 @@
+#include "SlaveTextFile.h"
+
+#include "AsciiText.h"
+#include "FileLocations.h"
+#include "HandleBusFiles.h"
+#include "TextTemplate.h"
+#include "WholeFile.h"
+
+#include <algorithm>
+
+using TextTemplate::contains;
+
+namespace {
+
+constexpr std::string_view RunAlways = "RUN_ALWAYS";
+
+// The two "MIDDLE_" names end in these as well.
+bool namesByteOrder(std::string_view line)
+{
+    return contains(line, "BIG_ENDIAN") || contains(line, "LITTLE_ENDIAN");
+}
+
+class LineWriter
+{
+public:
+    LineWriter(const QString& endian, const std::vector<SlaveTextFile::OwnedLine>& ownedLines)
+        : m_endian(AsciiText::bytes(endian))
+        , m_ownedLines(ownedLines)
+    {
+    }
+
+    bool operator()(std::string_view whole, QByteArray& out)
+    {
+        const std::string_view line = AsciiText::trimmed(whole);
+        if (m_dropsByteOrder && namesByteOrder(line)) {
+            m_dropsByteOrder = false;
+            return false;
+        }
+        if (contains(line, RunAlways)) {
+            m_dropsByteOrder = true;
+            TextTemplate::keep(line, out);
+            out.append('\n').append(m_endian);
+            return true;
+        }
+        const auto owned =
+            std::find_if(m_ownedLines.begin(), m_ownedLines.end(),
+                         [line](const auto& candidate) { return contains(line, candidate.keyword); });
+        if (owned == m_ownedLines.end())
+            return TextTemplate::keep(line, out);
+        out.append(owned->written);
+        return true;
+    }
+
+private:
+    QByteArray m_endian;
+    const std::vector<SlaveTextFile::OwnedLine>& m_ownedLines;
+    bool m_dropsByteOrder = false; // from RUN_ALWAYS to the old byte order
+};
+
+} // namespace
+
+void SlaveTextFile::readEndian(std::string_view line, QString& endian)
+{
+    const QStringList& names = HandleBusFiles::getInstance()->endianNames();
+    const auto name =
+        std::find(names.begin(), names.end(), QLatin1String(line.data(), static_cast<int>(line.size())));
+    if (name != names.end())
+        endian = *name;
+}
+
+bool SlaveTextFile::rewrite(const QString& path, const Source& source, const QString& endian,
+                            const std::vector<OwnedLine>& ownedLines)
+{
+    QByteArray content;
+    if (!TextTemplate::fetchTemplate(FileLocations::workingDirectory() + QLatin1String(source.temporary),
+                                     source.controller, content))
+        return false;
+    return WholeFile::replace(path, TextTemplate::rewritten(content, TextTemplate::LineEnds::LineFeed,
+                                                            LineWriter(endian, ownedLines)));
+}

@@ -1,0 +1,109 @@
+#include "XmlFile.h"
+
+#include "Logging.h"
+#include "WholeFile.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QTextCodec>
+
+#include <clocale>
+#include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale and uselocale are POSIX
+
+namespace XmlFile {
+
+namespace {
+
+class ByteWriter : public pugi::xml_writer
+{
+public:
+    explicit ByteWriter(QByteArray& bytes)
+        : m_bytes(bytes)
+    {
+    }
+    void write(const void* data, std::size_t size) override
+    {
+        m_bytes.append(static_cast<const char*>(data), static_cast<int>(size));
+    }
+
+private:
+    QByteArray& m_bytes;
+};
+
+bool isUtf8(const QByteArray& bytes)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForMib(106)->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+// Texts are written in the pendant's 8-bit encoding. Under a locale whose bytes would break the file, which
+// is declared as UTF-8, or that cannot hold the text, it is UTF-8.
+QByteArray encoded(QString text)
+{
+    for (QChar& c : text) {
+        const ushort code = c.unicode();
+        // Control characters cannot stand in an XML file in any form.
+        if (code < 0x20 && code != '\t' && code != '\n' && code != '\r')
+            c = QLatin1Char(' ');
+    }
+    const QByteArray local = text.toLocal8Bit();
+    return isUtf8(local) && QString::fromLocal8Bit(local) == text ? local : text.toUtf8();
+}
+
+} // namespace
+
+bool load(const QString& path, pugi::xml_document& document)
+{
+    QByteArray content;
+    return WholeFile::read(path, content) &&
+           document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
+                                pugi::parse_pi);
+}
+
+void appendPrologue(pugi::xml_document& document)
+{
+    pugi::xml_node declaration = document.prepend_child(pugi::node_declaration);
+    declaration.append_attribute("version") = "1.0";
+    declaration.append_attribute("encoding") = "utf-8";
+    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
+    const QByteArray comment = QStringLiteral(" Date(ymd)/time(hms) %1 ").arg(time).toLatin1();
+    document.append_child(pugi::node_comment).set_value(comment.constData());
+}
+
+void appendText(pugi::xml_node parent, const char* name, const QString& text)
+{
+    parent.append_child(name).append_child(pugi::node_pcdata).set_value(encoded(text).constData());
+}
+
+QString text(pugi::xml_node node)
+{
+    return QString::fromUtf8(node.text().get());
+}
+
+bool save(const QString& path, const pugi::xml_document& document, unsigned format)
+{
+    const QString folder = path.section(QLatin1Char('/'), 0, -2);
+    if (!folder.isEmpty() && !QDir(folder).exists() && !QDir().mkdir(folder))
+        return false;
+    QByteArray content;
+    ByteWriter writer(content);
+    document.save(writer, "\t", format, pugi::encoding_utf8);
+    if (WholeFile::replace(path, content))
+        return true;
+    qCDebug(fieldbusLog, "Could not save XML file");
+    return false;
+}
+
+PointDecimals::PointDecimals()
+{
+    static const locale_t point = newlocale(LC_NUMERIC_MASK, "C", static_cast<locale_t>(nullptr));
+    m_previous = uselocale(point);
+}
+
+PointDecimals::~PointDecimals()
+{
+    uselocale(static_cast<locale_t>(m_previous));
+}
+
+} // namespace XmlFile

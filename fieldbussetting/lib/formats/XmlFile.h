@@ -1,0 +1,45 @@
+#ifndef XMLFILE_H
+#define XMLFILE_H
+
+#include <QString>
+
+#include <pugixml.hpp>
+
+/// What all XML formats of the controller share: loading, the prologue of a written file, and saving in
+/// one step.
+namespace XmlFile {
+
+/// Parses with `parse_pi` only: no escapes, no end-of-line normalisation, no comments. False on the first
+/// error; the document is then empty.
+bool load(const QString& path, pugi::xml_document& document);
+
+/// Appends the declaration and the comment with the local time of writing.
+void appendPrologue(pugi::xml_document& document);
+
+/// Appends an element that holds `text` and nothing else. An empty text still gets its (empty) text node, so
+/// that the element is written as a pair of tags.
+void appendText(pugi::xml_node parent, const char* name, const QString& text);
+
+/// Text of `node` (empty when it is missing).
+QString text(pugi::xml_node node);
+
+/// Serialises and replaces the file in one step: it holds either the old bytes or the new ones. False when
+/// the folder (made one level deep when missing) or the file cannot be written.
+bool save(const QString& path, const pugi::xml_document& document, unsigned format = pugi::format_indent);
+
+/// Makes pugixml's number conversions use a point whatever the locale of the pendant, for its lifetime.
+class PointDecimals
+{
+public:
+    PointDecimals();
+    ~PointDecimals();
+    PointDecimals(const PointDecimals&) = delete;
+    PointDecimals& operator=(const PointDecimals&) = delete;
+
+private:
+    void* m_previous;
+};
+
+} // namespace XmlFile
+
+#endif

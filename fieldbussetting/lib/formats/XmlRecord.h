@@ -1,0 +1,99 @@
+#ifndef XMLRECORD_H
+#define XMLRECORD_H
+
+#include "XmlFile.h"
+
+#include <initializer_list>
+#include <variant>
+
+/// Formats whose elements each hold one value of a record. A format is a table of fields that its reader and
+/// its writer both walk.
+namespace XmlRecord {
+
+/// An element and the member that it carries: text as it stands, a whole number (decimal or 0x, 0 for what is
+/// none, the nearest value for what is beyond 32 bits), or a flag ("1", "t", "y" to begin with is true).
+template <typename Record>
+struct Field
+{
+    const char* element;
+    std::variant<QString Record::*, int Record::*, bool Record::*> member;
+};
+
+inline void readValue(pugi::xml_node element, QString& value)
+{
+    value = XmlFile::text(element);
+}
+inline void readValue(pugi::xml_node element, int& value)
+{
+    value = element.text().as_int();
+}
+inline void readValue(pugi::xml_node element, bool& value)
+{
+    value = element.text().as_bool();
+}
+
+inline QString writtenValue(const QString& value)
+{
+    return value;
+}
+inline QString writtenValue(int value)
+{
+    return QString::number(value);
+}
+inline QString writtenValue(bool value)
+{
+    return value ? QStringLiteral("1") : QStringLiteral("0");
+}
+
+/// Reads the children of `parent` that `fields` name. A missing one leaves nothing of an earlier value.
+template <typename Record, typename Fields>
+void read(pugi::xml_node parent, const Fields& fields, Record& record)
+{
+    for (const Field<Record>& field : fields)
+        std::visit([&](auto member) { readValue(parent.child(field.element), record.*member); },
+                   field.member);
+}
+
+/// Appends a child of `parent` for each of `fields`.
+template <typename Record, typename Fields>
+void append(pugi::xml_node parent, const Fields& fields, const Record& record)
+{
+    for (const Field<Record>& field : fields)
+        std::visit(
+            [&](auto member) { XmlFile::appendText(parent, field.element, writtenValue(record.*member)); },
+            field.member);
+}
+
+/// Names of the nested elements, from the root on, that hold the fields of a format.
+using Place = std::initializer_list<const char*>;
+
+/// Reads the file at `path`; false leaves the record as it was.
+template <typename Record, typename Fields>
+bool readFile(const QString& path, Place place, const Fields& fields, Record& record)
+{
+    pugi::xml_document document;
+    if (!XmlFile::load(path, document))
+        return false;
+    pugi::xml_node node = document;
+    for (const char* element : place)
+        node = node.child(element);
+    read(node, fields, record);
+    return true;
+}
+
+/// Writes a new file with the fields, and nothing else, to `path`.
+template <typename Record, typename Fields>
+bool writeFile(const QString& path, Place place, const Fields& fields, const Record& record)
+{
+    pugi::xml_document document;
+    XmlFile::appendPrologue(document);
+    pugi::xml_node node = document;
+    for (const char* element : place)
+        node = node.append_child(element);
+    append(node, fields, record);
+    return XmlFile::save(path, document);
+}
+
+} // namespace XmlRecord
+
+#endif

@@ -1,0 +1,57 @@
+#ifndef HOST_BUSFILESERVICE_H
+#define HOST_BUSFILESERVICE_H
+
+#include "BusConfigFile.h"
+#include "BusFileDataManager.h"
+#include "BusMappingFile.h"
+
+#include <QObject>
+
+#include <array>
+#include <vector>
+
+class BusObserver;
+
+/// What stands behind `BusFileDataManager`: the two files as they were last read or set, and the observers.
+/// Every result is notified on a later event-loop turn.
+class BusFileService
+{
+public:
+    /// The two files that are notified.
+    enum File { FieldbusXml, FieldbusCfg };
+
+    static BusFileService& instance();
+    BusFileService() = default;
+
+    /// Forgets files, results, waiting notifications and observers, as a restart of the pendant does.
+    void resetSession();
+
+    void attach(BusObserver* observer);
+    void detach(BusObserver* observer);
+
+    /// Whether a file that was read is held and its result was notified. A failure does not count: the next
+    /// one who asks tries again.
+    bool isNotified(File file) const { return m_notified[file]; }
+    void fetch(File file);
+    /// Sends the file with what was set. Without a file that was read there is nothing to send, and the
+    /// notified result is false.
+    void send(File file);
+
+    BusConfigFile config;
+    BusMappingFile mapping;
+    /// Mode that the free-bus role selects.
+    BusMappingFile::Mode mode() const;
+
+    int performanceValue(int bus, int current, bool on) const;
+
+private:
+    bool isAttached(const BusObserver* observer) const;
+    void notifyLater(File file, int kind, bool success);
+    void notify(File file, int kind, bool success);
+
+    std::vector<BusObserver*> m_observers;
+    std::array<bool, 2> m_notified{};
+    std::unique_ptr<QObject> m_queue = std::make_unique<QObject>(); ///< receives the queued notifications
+};
+
+#endif

@@ -1,0 +1,35 @@
+#ifndef PENDANT_OPTIONS_H
+#define PENDANT_OPTIONS_H
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <optional>
+
+/// What the command line asks for. Paths are absolute: the program changes its directory later.
+struct Options
+{
+    Q_DECLARE_TR_FUNCTIONS(Options)
+
+public:
+    bool tour = false;
+    QString tourDirectory;
+    bool panel = false;
+    QString controllerStore; ///< empty: in the work directory
+    QString workDirectory;   ///< empty: below the user's data folder
+    QString plugin;
+    QString usb;        ///< empty: no drive
+    QStringList faults; ///< as `Faults::setFromText` takes them
+    std::optional<int> userLevel;
+    double timeScale = 1.0;
+    int mtcpPort = 0; ///< 0: the controller's own choice
+
+    bool help = false;
+    QString helpText;
+    QString problem; ///< empty when the command line makes sense
+
+    /// `faultNames` are told by the help.
+    static Options parse(const QStringList& arguments, const QStringList& faultNames);
+};
+
+#endif

@@ -1,0 +1,79 @@
+#include "StatusBar.h"
+
+#include "ControllerLink.h"
+#include "CurrentLink.h"
+#include "StatusItem.h"
+#include "UsbDrive.h"
+#include "UserSession.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace {
+using Reading = StatusItem::Reading;
+
+constexpr Reading Running = {nullptr, "\u25B6", QT_TRANSLATE_NOOP("StatusItem", "running"), "good"};
+constexpr Reading Stopped = {nullptr, "\u25A0", QT_TRANSLATE_NOOP("StatusItem", "stopped"), "calm"};
+constexpr Reading ServoOn = {"servo", "\u25CF", QT_TRANSLATE_NOOP("StatusItem", "on"), "good"};
+constexpr Reading ServoOff = {"servo", "\u25CB", QT_TRANSLATE_NOOP("StatusItem", "off"), "calm"};
+constexpr Reading Up = {"controller_up", "\u2714", QT_TRANSLATE_NOOP("StatusItem", "up"), "good"};
+constexpr Reading Restarting = {"controller_restarting", "\u25B2",
+                                QT_TRANSLATE_NOOP("StatusItem", "restarting"), "warn"};
+constexpr Reading NotConnected = {"controller_restarting", "\u2716",
+                                  QT_TRANSLATE_NOOP("StatusItem", "not connected"), "bad"};
+constexpr Reading DriveIn = {"usb", "\u25A3", QT_TRANSLATE_NOOP("StatusItem", "drive in"), "calm"};
+constexpr Reading DriveOut = {"usb", "\u25A1", QT_TRANSLATE_NOOP("StatusItem", "no drive"), "calm"};
+} // namespace
+
+StatusBar::StatusBar(QWidget* parent)
+    : QFrame(parent)
+    , m_logIn(new QPushButton(this))
+    , m_program(new StatusItem(tr("Program")))
+    , m_servo(new StatusItem(tr("Servo")))
+    , m_controller(new StatusItem(tr("Controller")))
+    , m_usb(new StatusItem(tr("USB")))
+{
+    setObjectName(QStringLiteral("statusBar"));
+    setFixedHeight(Height);
+
+    m_logIn->setObjectName(QStringLiteral("logInButton"));
+    m_logIn->setIcon(QIcon(QStringLiteral(":/host/user.png")));
+    m_logIn->setIconSize(QSize(36, 36));
+    m_logIn->setMinimumSize(190, 64);
+    m_logIn->setFocusPolicy(Qt::NoFocus);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(16, 8, 16, 8);
+    layout->setSpacing(16);
+    layout->addWidget(m_logIn);
+    const struct
+    {
+        StatusItem* item;
+        const char* name;
+        int stretch;
+    } items[] = {{m_program, "statusProgram", 4},
+                 {m_servo, "statusServo", 3},
+                 {m_controller, "statusController", 5},
+                 {m_usb, "statusUsb", 4}};
+    for (const auto& entry : items) {
+        entry.item->setObjectName(QLatin1String(entry.name));
+        layout->addWidget(entry.item, entry.stretch);
+    }
+
+    connect(m_logIn, &QPushButton::clicked, this, &StatusBar::logInRequested);
+    connect(&UserSession::instance(), &UserSession::userLevelChanged, this, &StatusBar::refresh);
+    connect(&UsbDrive::instance(), &UsbDrive::changed, this, &StatusBar::refresh);
+    if (ControllerLink* link = currentLink())
+        connect(link, &ControllerLink::stateChanged, this, &StatusBar::refresh);
+    refresh();
+}
+
+void StatusBar::refresh()
+{
+    m_logIn->setText(tr("Level %1").arg(UserSession::instance().userLevel()));
+    const ControllerLink* link = currentLink();
+    m_program->show(link && link->isRobotRunning() ? Running : Stopped);
+    m_servo->show(link && link->isServoOn() ? ServoOn : ServoOff);
+    m_controller->show(!link ? NotConnected : link->isUp() ? Up : Restarting);
+    m_usb->show(UsbDrive::instance().isInserted() ? DriveIn : DriveOut);
+}

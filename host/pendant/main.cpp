@@ -1,0 +1,99 @@
+#include "ControllerPanel.h"
+#include "CurrentLink.h"
+#include "Faults.h"
+#include "Options.h"
+#include "PendantApplication.h"
+#include "PendantWindow.h"
+#include "SimulatedController.h"
+#include "TimeScale.h"
+#include "Tour.h"
+#include "Traffic.h"
+#include "UsbDrive.h"
+#include "UserSession.h"
+#include "WorkDirectory.h"
+
+#include <QDir>
+#include <QTextStream>
+
+namespace {
+constexpr int ExitUsage = 2;
+
+/// Connects the pendant to `link` for as long as it lives.
+class Connection
+{
+public:
+    explicit Connection(ControllerLink& link) { setCurrentLink(&link); }
+    ~Connection() { setCurrentLink(nullptr); }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+};
+
+QStringList faultNames()
+{
+    QStringList names;
+    for (int fault = 0; fault < Faults::FaultCount; ++fault)
+        names.append(Faults::nameOf(static_cast<Faults::Fault>(fault)));
+    return names;
+}
+
+int refuse(const QString& problem)
+{
+    QTextStream(stderr) << "pendant: " << problem << '\n';
+    return ExitUsage;
+}
+
+int makeTour(PendantWindow& window, SimulatedController& controller, QWidget& panel, const QString& directory)
+{
+    const auto takeFetches = [&controller] {
+        QStringList fetches = controller.traffic().fetches();
+        controller.traffic().clear();
+        return fetches;
+    };
+    return Tour({window, controller, &panel, takeFetches}, directory).run();
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    PendantApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("pendant"));
+
+    const Options options = Options::parse(QCoreApplication::arguments(), faultNames());
+    if (!options.problem.isEmpty())
+        return refuse(options.problem);
+    if (options.help) {
+        QTextStream(stdout) << options.helpText;
+        return 0;
+    }
+
+    WorkDirectory work(options.workDirectory);
+    if (!work.enter())
+        return refuse(work.error());
+
+    SimulatedController controller(options.controllerStore.isEmpty() ? work.controllerStore()
+                                                                     : options.controllerStore);
+    if (!controller.error().isEmpty())
+        return refuse(controller.error());
+    for (const QString& fault : options.faults) {
+        if (!controller.faults().setFromText(fault))
+            return refuse(Options::tr("There is no fault \"%1\"; --help tells their names.").arg(fault));
+    }
+    setTimeScale(options.timeScale);
+    controller.setTimeScale(options.timeScale);
+    if (options.userLevel)
+        UserSession::instance().setUserLevel(*options.userLevel);
+    if (!options.usb.isEmpty())
+        UsbDrive::instance().insert(options.usb);
+
+    const Connection connection(controller);
+    PendantWindow window(options.plugin);
+    ControllerPanel panel(controller);
+    window.show();
+    if (options.panel) {
+        panel.move(window.frameGeometry().topRight() + QPoint(16, 0));
+        panel.show();
+    }
+    if (options.tour)
+        return makeTour(window, controller, panel, options.tourDirectory);
+    return PendantApplication::exec();
+}

@@ -1,0 +1,267 @@
+#include "NumericKeyboard.h"
+
+#include "NumericKeyboardScript.h"
+#include "TouchFrame.h"
+#include "ZelFunctions.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMap>
+#include <QMetaMethod>
+#include <QPointer>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <array>
+#include <cstring>
+
+namespace {
+constexpr int Margin = 16;
+constexpr int Gap = 8;
+
+// Where the keys are: a character is a key, and a key that stands in several places covers them all. The
+// place of a key that is not offered goes to the zero beside it.
+using Rows = std::array<const char*, 4>;
+constexpr char Erase = NumericEntry::Backspace;
+constexpr char Empty = NumericEntry::Clear;
+constexpr Rows DecimalRows = {"789\b", "456\b", "123\x7f", "-0.\x7f"};
+constexpr Rows HexadecimalRows = {"789AB", "456CD", "123EF", "-00\b\x7f"};
+
+constexpr const char* ReplaceableKeys = "-.";
+
+QString nameOf(char key)
+{
+    switch (key) {
+    case Erase:
+        return QStringLiteral("key_back");
+    case Empty:
+        return QStringLiteral("key_clear");
+    case '.':
+        return QStringLiteral("key_point");
+    case '-':
+        return QStringLiteral("key_sign");
+    default:
+        return QStringLiteral("key_%1").arg(QChar::fromLatin1(key).toLower());
+    }
+}
+
+// A property that the style sheet looks at.
+void setLook(QWidget* widget, const char* property, bool on)
+{
+    if (widget->property(property).toBool() == on)
+        return;
+    widget->setProperty(property, on);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+}
+
+// The key that a hardware key stands for, 0 for none.
+char keyOf(const QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Backspace:
+        return Erase;
+    case Qt::Key_Delete:
+        return Empty;
+    case Qt::Key_Comma: // the point of many keypads
+        return '.';
+    default:
+        return event->text().size() == 1 ? event->text().at(0).toUpper().toLatin1() : '\0';
+    }
+}
+} // namespace
+
+NumericKeyboard::NumericKeyboard(NumericEntry entry, const QString& caption, const QString& unit,
+                                 QWidget* parent)
+    : QDialog(parent)
+    , m_entry(std::move(entry))
+    , m_caption(caption)
+    , m_unit(unit)
+    , m_display(new QLabel(this))
+    , m_hint(new QLabel(this))
+{
+    new TouchFrame(this);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setSpacing(Gap);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    if (!caption.isEmpty()) {
+        auto* title = new QLabel(caption, this);
+        title->setObjectName(QStringLiteral("label_caption"));
+        title->setTextFormat(Qt::PlainText);
+        title->setWordWrap(true);
+        layout->addWidget(title);
+    }
+
+    m_display->setObjectName(QStringLiteral("label_entry"));
+    m_display->setTextFormat(Qt::PlainText);
+    m_display->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(Gap);
+    line->addWidget(m_display, 1);
+    if (!unit.isEmpty()) {
+        auto* label = new QLabel(unit, this);
+        label->setObjectName(QStringLiteral("label_unit"));
+        label->setTextFormat(Qt::PlainText);
+        line->addWidget(label);
+    }
+    layout->addLayout(line);
+
+    m_hint->setObjectName(QStringLiteral("label_hint"));
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    // Room for two lines, so that the keys stay where they are when a reason appears.
+    m_hint->ensurePolished();
+    m_hint->setMinimumHeight(2 * m_hint->fontMetrics().lineSpacing());
+    layout->addWidget(m_hint);
+
+    auto* grid = new QGridLayout;
+    grid->setSpacing(Gap);
+    addKeys(grid);
+    layout->addLayout(grid);
+
+    auto* closing = new QHBoxLayout;
+    closing->setSpacing(Gap);
+    const auto add = [this, closing](const QString& text, const char* name, bool primary) {
+        auto* button = new QPushButton(text, this);
+        button->setObjectName(QLatin1String(name));
+        button->setProperty("primary", primary);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setAutoDefault(false);
+        closing->addWidget(button, 1);
+        return button;
+    };
+    connect(add(tr("Cancel"), "key_cancel", false), &QPushButton::clicked, this, &QDialog::reject);
+    connect(add(tr("OK"), "key_ok", true), &QPushButton::clicked, this, &NumericKeyboard::accept);
+    layout->addLayout(closing);
+
+    refresh();
+}
+
+void NumericKeyboard::addKeys(QGridLayout* grid)
+{
+    const Rows& rows = m_entry.kind() == NumericEntry::Kind::Hexadecimal ? HexadecimalRows : DecimalRows;
+    QMap<char, QRect> places;
+    for (int row = 0; row < static_cast<int>(rows.size()); ++row)
+        for (int column = 0; rows[row][column] != '\0'; ++column) {
+            char key = rows[row][column];
+            if (std::strchr(ReplaceableKeys, key) && !m_entry.offers(key))
+                key = '0';
+            places[key] |= QRect(column, row, 1, 1);
+        }
+    for (auto place = places.cbegin(); place != places.cend(); ++place) {
+        const char key = place.key();
+        auto* button = new QPushButton(this);
+        button->setObjectName(nameOf(key));
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setAutoDefault(false);
+        button->setProperty("functionKey", key == Erase || key == Empty || key == '-');
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        if (key == Erase) {
+            button->setIcon(QIcon(QStringLiteral(":/host/backspace.png")));
+            button->setIconSize(QSize(36, 36));
+        } else {
+            button->setText(key == Empty ? tr("Clear")
+                            : key == '-' ? QString(QChar(0x00B1))
+                                         : QString(QLatin1Char(key)));
+        }
+        connect(button, &QPushButton::clicked, this, [this, key] { press(key); });
+        grid->addWidget(button, place->y(), place->x(), place->height(), place->width());
+    }
+}
+
+std::optional<NumericEntry> NumericKeyboard::ask(QObject* owner, const NumericEntry& entry,
+                                                 const QString& caption, const QString& unit)
+{
+    QWidget* window = TouchFrame::windowOf(qobject_cast<QWidget*>(owner));
+    const QPointer<QObject> alive(owner);
+    const QPointer<NumericKeyboard> keyboard(new NumericKeyboard(entry, caption, unit, window));
+    if (owner)
+        connect(owner, &QObject::destroyed, keyboard.data(), &QDialog::reject);
+    const bool confirmed = keyboard->exec() == Accepted;
+    if (!keyboard)
+        return {};
+    std::optional<NumericEntry> answer;
+    if (confirmed && alive)
+        answer = keyboard->entry();
+    delete keyboard.data();
+    return answer;
+}
+
+QPushButton* NumericKeyboard::button(char key) const
+{
+    return findChild<QPushButton*>(nameOf(key));
+}
+
+void NumericKeyboard::accept()
+{
+    m_refusal = m_entry.refusal();
+    if (m_refusal.isEmpty())
+        QDialog::accept();
+    else
+        refresh();
+}
+
+void NumericKeyboard::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    setFocus();
+    NumericKeyboardScript::keyboardShown(this);
+}
+
+void NumericKeyboard::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        // A key that is held must not confirm the keyboard that it has just opened.
+        if (!event->isAutoRepeat())
+            accept();
+    } else if (const char key = keyOf(event); key != '\0' && m_entry.offers(key)) {
+        press(key);
+    } else {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+void NumericKeyboard::press(char key)
+{
+    m_entry.press(key);
+    m_refusal.clear();
+    refresh();
+}
+
+void NumericKeyboard::refresh()
+{
+    m_display->setText(m_entry.text());
+    setLook(m_display, "marked", m_entry.isMarked());
+    setLook(m_display, "refused", !m_refusal.isEmpty());
+    m_hint->setText(m_refusal.isEmpty() ? m_entry.rangeText() : m_refusal);
+    setLook(m_hint, "refused", !m_refusal.isEmpty());
+}
+
+void ZelExecNumericKeyboard(double value, double minimum, double maximum, const char* format,
+                            const QString& toolTip, QObject* receiver, const char* slot)
+{
+    const bool hexadecimal = format && std::strchr(format, 'x');
+    NumericEntry entry(hexadecimal ? NumericEntry::Kind::Hexadecimal : NumericEntry::Kind::Decimal);
+    entry.setRange(minimum, maximum);
+    entry.setNumber(value);
+
+    // The keyboard outlives nothing of the caller: what is needed afterwards is kept here.
+    const QPointer<QObject> alive(receiver);
+    const QByteArray signature = slot ? QMetaObject::normalizedSignature(slot + 1) : QByteArray();
+    const std::optional<NumericEntry> answer = NumericKeyboard::ask(receiver, entry, toolTip, QString());
+    if (!answer || !alive)
+        return;
+    const int index = alive->metaObject()->indexOfMethod(signature);
+    const bool called = index >= 0 && alive->metaObject()->method(index).invoke(
+                                          alive, Qt::DirectConnection, Q_ARG(double, answer->value()));
+    if (!called)
+        qWarning("ZelExecNumericKeyboard: no slot %s", signature.constData());
+}

@@ -1,0 +1,56 @@
+#ifndef HOST_NUMERICKEYBOARD_H
+#define HOST_NUMERICKEYBOARD_H
+
+#include "NumericEntry.h"
+
+#include <QDialog>
+
+#include <optional>
+
+class QGridLayout;
+class QLabel;
+class QPushButton;
+
+/// The modal numeric keyboard, for fingers and for a hardware keyboard. A value that may not be taken is
+/// refused here: the reason is shown and what was typed stays.
+class NumericKeyboard : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// `caption` says what is entered, `unit` what it is counted in; both may be empty.
+    NumericKeyboard(NumericEntry entry, const QString& caption, const QString& unit, QWidget* parent);
+
+    /// Opens the keyboard for `owner`. Nothing when it was cancelled, or when `owner` or the window behind
+    /// died meanwhile.
+    static std::optional<NumericEntry> ask(QObject* owner, const NumericEntry& entry, const QString& caption,
+                                           const QString& unit);
+
+    const NumericEntry& entry() const { return m_entry; }
+    QString caption() const { return m_caption; }
+    QString unit() const { return m_unit; }
+    /// Why the last confirmation was refused; empty when it was not.
+    QString refusal() const { return m_refusal; }
+    /// The button of a key; null when it is not offered.
+    QPushButton* button(char key) const;
+
+    void accept() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void addKeys(QGridLayout* grid);
+    void press(char key);
+    void refresh();
+
+    NumericEntry m_entry;
+    QString m_caption;
+    QString m_unit;
+    QString m_refusal;
+    QLabel* m_display;
+    QLabel* m_hint;
+};
+
+#endif

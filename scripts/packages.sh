@@ -1,0 +1,42 @@
+# shellcheck shell=bash disable=SC2034
+# Sourced by the commands at the root: what the project needs of Debian, and how it gets there.
+
+# What building and running the pendant takes.
+pendant_packages=(build-essential cmake ninja-build ccache qtbase5-dev libqt5serialbus5-dev libpugixml-dev
+                  fonts-dejavu-core)
+
+# need_packages PACKAGE...: installs those that are missing. Asks nothing of apt when all are there.
+need_packages() {
+    local missing=() package as_root=()
+    for package in "$@"; do
+        [[ $(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null) == installed ]] ||
+            missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+
+    if ((EUID != 0)); then
+        if ! command -v sudo >/dev/null; then
+            echo "These packages are missing, and only root can install them: ${missing[*]}" >&2
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing ${missing[*]}" >&2
+    "${as_root[@]}" apt-get -qq update >&2 &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq --no-install-recommends -y install \
+            "${missing[@]}" >&2
+}
+
+# quietly LOG COMMAND...: keeps the output of COMMAND in the file LOG and shows it only when COMMAND fails, or
+# at once with verbose=1.
+quietly() {
+    local log=$1 status=0
+    shift
+    if ((${verbose:-0})); then
+        "$@"
+        return
+    fi
+    "$@" >"$log" 2>&1 || status=$?
+    ((status == 0)) || cat "$log" >&2
+    return "$status"
+}

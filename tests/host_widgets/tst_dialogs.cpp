@@ -1,0 +1,502 @@
+#include "MsgBox.h"
+#include "MsgBoxScript.h"
+#include "NumericKeyboardScript.h"
+#include "QTouchLineEdit.h"
+#include "TestMain.h"
+#include "ZelBaseWidget.h"
+#include "ZelFunctions.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <memory>
+
+Q_DECLARE_METATYPE(std::function<void(QTouchLineEdit&)>)
+
+namespace {
+// Runs `exec()` on a box while `act` has it in its hands.
+int execWith(MsgBox* box, const std::function<void(MsgBox*)>& act)
+{
+    MsgBoxScript::onShown(act);
+    const int result = box->exec();
+    MsgBoxScript::onShown({});
+    return result;
+}
+
+void clickOn(QWidget* dialog, const char* name)
+{
+    auto* button = dialog->findChild<QPushButton*>(QLatin1String(name));
+    QVERIFY2(button, name);
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+QString textOf(QWidget* dialog, const char* name)
+{
+    return dialog->findChild<QLabel*>(QLatin1String(name))->text();
+}
+} // namespace
+
+/// Takes what the numeric keyboard was confirmed with.
+class Receiver : public QObject
+{
+    Q_OBJECT
+
+public:
+    QList<double> values;
+
+public slots:
+    void take(double value) { values.append(value); }
+};
+
+/// The host's dialogs under fingers, under a hardware keyboard, and when their owner goes away.
+class DialogsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void boxResults_data();
+    void boxResults();
+    void boxDiesWhileItWaits();
+    void boxBesideTheRunningCode();
+    void boxScript();
+    void unansweredBox();
+    void targetsAreLargeEnough();
+
+    void keyboardByFinger();
+    void keyboardByHardware();
+    void keyboardRefuses();
+    void execNumericKeyboard_data();
+    void execNumericKeyboard();
+    void receiverDiesWhileOpen();
+
+    void editOpensItsKeyboard_data();
+    void editOpensItsKeyboard();
+    void editStaysClosed_data();
+    void editStaysClosed();
+    void editTakesNothingPastTheKeyboard();
+    void editDiesWhileOpen_data();
+    void editDiesWhileOpen();
+
+    void centralWidget();
+
+private:
+    std::unique_ptr<QWidget> m_window;
+};
+
+void DialogsTest::init()
+{
+    MsgBoxScript::clear();
+    NumericKeyboardScript::clear();
+    MsgBoxScript::failUnanswered(true);
+    NumericKeyboardScript::failUnanswered(true);
+    m_window = std::make_unique<QWidget>();
+    m_window->resize(1024, 680);
+    m_window->show();
+}
+
+void DialogsTest::cleanup()
+{
+    m_window.reset();
+    QCOMPARE(NumericKeyboardScript::unanswered(), QStringList());
+}
+
+void DialogsTest::boxResults_data()
+{
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<QByteArray>("focus"); // empty: as the box sets it
+    QTest::addColumn<QByteArray>("click"); // empty: `key` instead
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("result");
+
+    const auto row = [](const char* name, MsgBox::Buttons buttons, const char* focus, const char* click,
+                        int key, int result) {
+        QTest::newRow(name) << int(buttons) << QByteArray(focus) << QByteArray(click) << key << result;
+    };
+    row("ok", MsgBox::Ok, "", "confirmButton", 0, 1);
+    row("yes", MsgBox::YesNo, "", "confirmButton", 0, 1);
+    row("no", MsgBox::YesNo, "", "secondButton", 0, 2);
+    row("cancel", MsgBox::OkCancel, "", "secondButton", 0, 2);
+    row("escape", MsgBox::YesNo, "", "", Qt::Key_Escape, 0);
+    row("escape on ok", MsgBox::Ok, "", "", Qt::Key_Escape, 0);
+    row("return", MsgBox::OkCancel, "", "", Qt::Key_Return, 1);
+    row("enter", MsgBox::Ok, "", "", Qt::Key_Enter, 1);
+    row("return on the second button", MsgBox::YesNo, "secondButton", "", Qt::Key_Return, 2);
+}
+
+void DialogsTest::boxResults()
+{
+    QFETCH(int, buttons);
+    QFETCH(QByteArray, focus);
+    QFETCH(QByteArray, click);
+    QFETCH(int, key);
+
+    MsgBox box(MsgBox::Information, QStringLiteral("Are you sure to save?"), m_window.get(),
+               static_cast<MsgBox::Buttons>(buttons));
+    const int result = execWith(&box, [&](MsgBox* shown) {
+        if (!focus.isEmpty())
+            shown->findChild<QPushButton*>(QLatin1String(focus))->setFocus();
+        if (click.isEmpty())
+            QTest::keyClick(shown, static_cast<Qt::Key>(key));
+        else
+            clickOn(shown, click);
+    });
+    QTEST(result, "result");
+    QCOMPARE(MsgBoxScript::unanswered(), QStringList());
+}
+
+void DialogsTest::boxDiesWhileItWaits()
+{
+    auto* page = new QWidget(m_window.get());
+    auto* box = new MsgBox(MsgBox::Error, QStringLiteral("Failed to get file."), page);
+    QCOMPARE(execWith(box, [page](MsgBox*) { delete page; }), int(MsgBox::Dismissed));
+    QVERIFY(!m_window->findChild<QWidget*>(QStringLiteral("dialogShade")));
+
+    box = new MsgBox(MsgBox::Error, QStringLiteral("Failed to get file."), m_window.get());
+    QCOMPARE(execWith(box, [this](MsgBox*) { m_window.reset(); }), int(MsgBox::Dismissed));
+}
+
+void DialogsTest::boxBesideTheRunningCode()
+{
+    MsgBoxScript::answerNext(MsgBox::Confirmed);
+    MsgBox notice(MsgBox::Information, QStringLiteral("Saving"), m_window.get(), MsgBox::NoButton);
+    notice.show();
+    QTest::qWait(20);
+    QVERIFY(notice.isVisible());
+    QVERIFY(!MsgBoxScript::shown().constFirst().modal);
+    QVERIFY(m_window->findChild<QWidget*>(QStringLiteral("dialogShade")));
+    QCOMPARE(QRect(notice.geometry()).center(), QRect(m_window->geometry()).center());
+    notice.close();
+    QVERIFY(!m_window->findChild<QWidget*>(QStringLiteral("dialogShade")));
+    // The answer is still there for the box that asks.
+    QCOMPARE(MsgBox(MsgBox::Information, QStringLiteral("Really?"), m_window.get(), MsgBox::YesNo).exec(), 1);
+}
+
+void DialogsTest::boxScript()
+{
+    const auto ask = [this](MsgBox::Buttons buttons) {
+        return MsgBox(MsgBox::Warning, QStringLiteral("one\ntwo"), m_window.get(), buttons).exec();
+    };
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    MsgBoxScript::answerNext(MsgBox::Second);
+    MsgBoxScript::answerNext(MsgBox::Dismissed);
+    QCOMPARE(ask(MsgBox::YesNo), 2);
+    QCOMPARE(ask(MsgBox::YesNo), 0);
+    QCOMPARE(ask(MsgBox::YesNo), 1);
+    // A box cannot give an answer that it does not offer.
+    MsgBoxScript::answerNext(MsgBox::Second);
+    QCOMPARE(ask(MsgBox::Ok), 0);
+
+    const QList<ShownMsgBox> shown = MsgBoxScript::shown();
+    QCOMPARE(shown.size(), 4);
+    QCOMPARE(shown.constLast().kind, int(MsgBox::Warning));
+    QCOMPARE(shown.constLast().text, QStringLiteral("one\ntwo"));
+    QCOMPARE(shown.constLast().buttons, MsgBox::Ok);
+    QVERIFY(shown.constLast().modal);
+}
+
+void DialogsTest::unansweredBox()
+{
+    QCOMPARE(MsgBox(MsgBox::Error, QStringLiteral("Failed."), m_window.get()).exec(), int(MsgBox::Dismissed));
+    QCOMPARE(MsgBoxScript::unanswered(), QStringList(QStringLiteral("Failed.")));
+}
+
+void DialogsTest::targetsAreLargeEnough()
+{
+    const auto check = [](QWidget* dialog, QSize smallest, int gap) {
+        const QList<QPushButton*> buttons = dialog->findChildren<QPushButton*>();
+        for (const QPushButton* one : buttons) {
+            QVERIFY2(one->width() >= smallest.width() && one->height() >= smallest.height(),
+                     qPrintable(one->objectName()));
+            const QRect around = one->geometry().adjusted(-gap + 1, -gap + 1, gap - 1, gap - 1);
+            for (const QPushButton* other : buttons)
+                QVERIFY2(other == one || !around.intersects(other->geometry()),
+                         qPrintable(other->objectName()));
+        }
+    };
+    MsgBox box(MsgBox::Information, QStringLiteral("?"), m_window.get(), MsgBox::YesNo);
+    execWith(&box, [&](MsgBox* shown) {
+        check(shown, QSize(120, 56), 16);
+        shown->reject();
+    });
+    for (const char* format : {"%li", "%lx"}) {
+        NumericKeyboardScript::onShown([&](NumericKeyboard* shown) {
+            check(shown, QSize(64, 56), 8);
+            QVERIFY(m_window->geometry().contains(shown->geometry()));
+        });
+        NumericKeyboardScript::cancelNext();
+        ZelExecNumericKeyboard(0, -10, 10, format, QStringLiteral("Quantity"), m_window.get(), nullptr);
+    }
+}
+
+void DialogsTest::keyboardByFinger()
+{
+    Receiver receiver;
+    NumericKeyboardScript::onShown([](NumericKeyboard* keyboard) {
+        for (const char* key : {"key_1", "key_2", "key_back", "key_0", "key_sign", "key_ok"})
+            clickOn(keyboard, key);
+    });
+    ZelExecNumericKeyboard(125, -65535, 65535, "%li", QString(), &receiver, SLOT(take(double)));
+    QCOMPARE(receiver.values, QList<double>{-10});
+
+    NumericKeyboardScript::onShown([](NumericKeyboard* keyboard) { clickOn(keyboard, "key_cancel"); });
+    ZelExecNumericKeyboard(125, 0, 200, "%li", QString(), &receiver, SLOT(take(double)));
+    QCOMPARE(receiver.values.size(), 1);
+}
+
+void DialogsTest::keyboardByHardware()
+{
+    QTouchLineEdit edit(m_window.get());
+    edit.setCast(QTouchLineEdit::CastReal, 2);
+    edit.show();
+    // Comma is the point of many keypads; letters that the entry does not know do nothing.
+    NumericKeyboardScript::onShown([](NumericKeyboard* keyboard) {
+        QTest::keyClicks(keyboard, QStringLiteral("-x4,257"));
+        QTest::keyClick(keyboard, Qt::Key_Backspace);
+        QTest::keyClick(keyboard, Qt::Key_Return);
+    });
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QCOMPARE(edit.text(), QStringLiteral("-4.20"));
+
+    NumericKeyboardScript::onShown([](NumericKeyboard* keyboard) {
+        QTest::keyClicks(keyboard, QStringLiteral("9"));
+        QTest::keyClick(keyboard, Qt::Key_Escape);
+    });
+    QTest::keyClick(&edit, Qt::Key_Return);
+    QCOMPARE(edit.text(), QStringLiteral("-4.20"));
+}
+
+void DialogsTest::keyboardRefuses()
+{
+    Receiver receiver;
+    NumericKeyboardScript::onShown([](NumericKeyboard* keyboard) {
+        const QString range = textOf(keyboard, "label_hint");
+        for (const char* key : {"key_2", "key_0", "key_1", "key_ok"})
+            clickOn(keyboard, key);
+        QVERIFY(keyboard->isVisible());
+        QCOMPARE(textOf(keyboard, "label_entry"), QStringLiteral("201"));
+        QVERIFY(textOf(keyboard, "label_hint").contains(QStringLiteral("200")));
+        // What was typed can be put right.
+        clickOn(keyboard, "key_back");
+        QCOMPARE(textOf(keyboard, "label_hint"), range);
+        clickOn(keyboard, "key_ok");
+    });
+    ZelExecNumericKeyboard(125, 0, 200, "%li", QString(), &receiver, SLOT(take(double)));
+    QCOMPARE(receiver.values, QList<double>{20});
+
+    NumericKeyboardScript::onShown({});
+    NumericKeyboardScript::enterNext(QStringLiteral("201"));
+    NumericKeyboardScript::enterNext(QStringLiteral("-1"));
+    for (int i = 0; i < 2; ++i)
+        ZelExecNumericKeyboard(125, 0, 200, "%li", QString(), &receiver, SLOT(take(double)));
+    QCOMPARE(NumericKeyboardScript::refusals().size(), 2);
+    QCOMPARE(receiver.values.size(), 1);
+}
+
+void DialogsTest::execNumericKeyboard_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<double>("taken");
+
+    QTest::newRow("decimal") << 12.0 << QByteArray("%li") << "40"
+                             << "12" << 40.0;
+    QTest::newRow("confirmed as it is") << 12.0 << QByteArray("%li") << ""
+                                        << "12" << 12.0;
+    QTest::newRow("hexadecimal") << 255.0 << QByteArray("%lx") << "1f"
+                                 << "FF" << 31.0;
+    QTest::newRow("no format") << 255.0 << QByteArray() << "7"
+                               << "255" << 7.0;
+}
+
+void DialogsTest::execNumericKeyboard()
+{
+    QFETCH(double, value);
+    QFETCH(QByteArray, format);
+    QFETCH(QString, typed);
+    QFETCH(double, taken);
+
+    Receiver receiver;
+    NumericKeyboardScript::enterNext(typed);
+    ZelExecNumericKeyboard(value, 0, 65535, format.isNull() ? nullptr : format.constData(),
+                           QStringLiteral("Flags"), &receiver, SLOT(take(double)));
+    QCOMPARE(receiver.values, QList<double>{taken});
+    QTEST(NumericKeyboardScript::shown().constFirst().text, "shown");
+    QCOMPARE(NumericKeyboardScript::shown().constFirst().caption, QStringLiteral("Flags"));
+}
+
+void DialogsTest::receiverDiesWhileOpen()
+{
+    auto* receiver = new Receiver;
+    NumericKeyboardScript::onShown([&](NumericKeyboard* keyboard) {
+        delete receiver;
+        QVERIFY(!keyboard->isVisible());
+    });
+    ZelExecNumericKeyboard(1, 0, 9, "%li", QString(), receiver, SLOT(take(double)));
+}
+
+void DialogsTest::editOpensItsKeyboard_data()
+{
+    QTest::addColumn<int>("cast");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<bool>("ranged");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("text"); // "old" when refused
+
+    const auto row = [](const char* name, int cast, int decimals, bool ranged, const char* typed,
+                        const char* text) {
+        QTest::newRow(name) << cast << decimals << ranged << typed << text;
+    };
+    row("real", QTouchLineEdit::CastReal, 3, true, "2.5", "2.500");
+    row("real out of range", QTouchLineEdit::CastReal, 3, true, "10.1", "old");
+    row("real, free decimals", QTouchLineEdit::CastReal, -1, false, "2.50", "2.5");
+    row("unsigned", QTouchLineEdit::CastUnsigned, -1, false, "4294967295", "4294967295");
+    row("unsigned too large", QTouchLineEdit::CastUnsigned, -1, false, "4294967296", "old");
+    row("unsigned has no sign", QTouchLineEdit::CastUnsigned, -1, false, "-1", "old");
+    row("integer", QTouchLineEdit::CastInteger, -1, false, "-2147483648", "-2147483648");
+    row("integer too large", QTouchLineEdit::CastInteger, -1, false, "2147483648", "old");
+    row("integer, range without negatives", QTouchLineEdit::CastInteger, -1, true, "-1", "old");
+    row("base 16", QTouchLineEdit::CastHexadecimal, -1, false, "ffffffff", "FFFFFFFF");
+    row("address", QTouchLineEdit::CastIpAddress, -1, false, "192.168.1.10", "192.168.1.10");
+    row("address incomplete", QTouchLineEdit::CastIpAddress, -1, false, "192.168.1", "old");
+}
+
+void DialogsTest::editOpensItsKeyboard()
+{
+    QFETCH(int, cast);
+    QFETCH(int, decimals);
+    QFETCH(bool, ranged);
+    QFETCH(QString, typed);
+    QFETCH(QString, text);
+
+    QTouchLineEdit edit(m_window.get());
+    edit.setCast(cast, decimals);
+    if (ranged)
+        edit.setValueRange(0.1, 10.0);
+    edit.setText(QStringLiteral("old"));
+    edit.show();
+    QStringList seen;
+    connect(&edit, &QTouchLineEdit::valueSetted, &edit,
+            [&](const QString& value) { seen << value << edit.text(); });
+    NumericKeyboardScript::enterNext(typed);
+    QTest::mouseClick(&edit, Qt::LeftButton);
+
+    QCOMPARE(NumericKeyboardScript::shown().size(), 1);
+    QCOMPARE(edit.text(), text);
+    const bool refused = text == QLatin1String("old");
+    QCOMPARE(seen, refused ? QStringList() : (QStringList{text, text}));
+    QCOMPARE(NumericKeyboardScript::refusals().size(), refused ? 1 : 0);
+}
+
+void DialogsTest::editStaysClosed_data()
+{
+    QTest::addColumn<std::function<void(QTouchLineEdit&)>>("act");
+    const auto row = [](const char* name, const std::function<void(QTouchLineEdit&)>& act) {
+        QTest::newRow(name) << act;
+    };
+    row("disabled", [](QTouchLineEdit& edit) {
+        edit.setEnabled(false);
+        QTest::mouseClick(&edit, Qt::LeftButton);
+    });
+    row("read only", [](QTouchLineEdit& edit) {
+        edit.setReadOnly(true);
+        QTest::mouseClick(&edit, Qt::LeftButton);
+    });
+    row("finger slid off", [](QTouchLineEdit& edit) {
+        QTest::mousePress(&edit, Qt::LeftButton);
+        QTest::mouseRelease(&edit, Qt::LeftButton, Qt::NoModifier, QPoint(0, edit.height() + 20));
+    });
+    row("text", [](QTouchLineEdit& edit) {
+        edit.setCast(QTouchLineEdit::CastText);
+        QTest::mouseClick(&edit, Qt::LeftButton);
+    });
+}
+
+void DialogsTest::editStaysClosed()
+{
+    QFETCH(std::function<void(QTouchLineEdit&)>, act);
+    QTouchLineEdit edit(m_window.get());
+    edit.setCast(QTouchLineEdit::CastInteger);
+    edit.show();
+    act(edit);
+    QCOMPARE(NumericKeyboardScript::shown().size(), 0);
+}
+
+void DialogsTest::editTakesNothingPastTheKeyboard()
+{
+    QTouchLineEdit edit(m_window.get());
+    edit.setCast(QTouchLineEdit::CastInteger);
+    edit.setText(QStringLiteral("12"));
+    edit.show();
+    QTest::keyClicks(&edit, QStringLiteral("34"));
+    QTest::keyClick(&edit, Qt::Key_Backspace);
+    QTest::keySequence(&edit, QKeySequence::SelectAll);
+    QTest::keySequence(&edit, QKeySequence::Cut);
+    QCOMPARE(edit.text(), QStringLiteral("12"));
+}
+
+void DialogsTest::editDiesWhileOpen_data()
+{
+    QTest::addColumn<bool>("wholeWindow");
+    QTest::newRow("page") << false;
+    QTest::newRow("window") << true;
+}
+
+void DialogsTest::editDiesWhileOpen()
+{
+    QFETCH(bool, wholeWindow);
+    auto* page = new QWidget(m_window.get());
+    auto* edit = new QTouchLineEdit(page);
+    edit->setCast(QTouchLineEdit::CastInteger);
+    page->show();
+    QSignalSpy set(edit, &QTouchLineEdit::valueSetted);
+    NumericKeyboardScript::enterNext(QStringLiteral("5"));
+    NumericKeyboardScript::onShown([&](NumericKeyboard*) {
+        if (wholeWindow)
+            m_window.reset();
+        else
+            delete page;
+    });
+    // Not through mouseClick, which itself touches the edit afterwards.
+    QMouseEvent press(QEvent::MouseButtonPress, QPoint(3, 3), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent release(QEvent::MouseButtonRelease, QPoint(3, 3), Qt::LeftButton, Qt::NoButton,
+                        Qt::NoModifier);
+    QCoreApplication::sendEvent(edit, &press);
+    QCoreApplication::sendEvent(edit, &release);
+    QCOMPARE(NumericKeyboardScript::shown().size(), 1);
+    QCOMPARE(set.count(), 0);
+}
+
+void DialogsTest::centralWidget()
+{
+    auto base = std::make_unique<ZelBaseWidget>(nullptr, nullptr, Qt::FramelessWindowHint);
+    base->resize(300, 200);
+    const QPointer<QWidget> first(new QWidget);
+    const QPointer<QWidget> hidden(new QWidget);
+    hidden->hide();
+    base->setCentralWidget(first);
+    base->show();
+    base->resize(400, 250);
+    QCOMPARE(first->geometry(), QRect(0, 0, 400, 250));
+
+    base->setCentralWidget(hidden);
+    QVERIFY2(hidden->isHidden(), "a page that hides itself stays hidden");
+    QVERIFY2(first && !first->parentWidget(), "a page that is replaced is given back");
+    delete first;
+    delete hidden;
+    QVERIFY2(!base->getCentralWidget(), "a page that somebody deletes is forgotten");
+
+    const QPointer<QWidget> last(new QWidget);
+    base->setCentralWidget(last);
+    base.reset();
+    QVERIFY(!last);
+}
+
+PENDANT_TEST_MAIN(DialogsTest)
+#include "tst_dialogs.moc"

@@ -1,0 +1,159 @@
+#include "PendantFixture.h"
+
+#include "ApplicationSlot.h"
+#include "BusFileDataManager.h"
+#include "BusFileService.h"
+#include "CurrentLink.h"
+#include "FieldbusSettingLib.h"
+#include "Finger.h"
+#include "TimeScale.h"
+#include "UsbDrive.h"
+#include "UserSession.h"
+
+#include <QDir>
+#include <QTableWidget>
+
+namespace {
+
+constexpr int SettledMs = 150;
+constexpr int NormalUserLevel = 4;
+
+QWidget* menuPage(const PendantWindow& window)
+{
+    return window.findChild<QWidget*>(QStringLiteral("FbMainWidget"));
+}
+
+bool isBusy(const PendantWindow& window)
+{
+    const QWidget* menu = menuPage(window);
+    return QApplication::activeModalWidget() ||
+           (menu && menu->testAttribute(Qt::WA_TransparentForMouseEvents));
+}
+
+} // namespace
+
+PendantFixture::PendantFixture(double timeScale)
+    : m_previousDirectory(QDir::currentPath())
+{
+    MsgBoxScript::clear();
+    NumericKeyboardScript::clear();
+    MsgBoxScript::failUnanswered(true);
+    NumericKeyboardScript::failUnanswered(true);
+    FieldbusSettingLib::destroy();
+    UserSession::instance().setUserLevel(NormalUserLevel);
+    UsbDrive::instance().pullOut();
+
+    WorkDirectory work(m_directory.path());
+    if (!work.enter())
+        qFatal("no scratch directory: %s", qPrintable(work.error()));
+    QDir().mkpath(usbDirectory());
+    setTimeScale(timeScale);
+    m_controller = std::make_unique<SimulatedController>(work.controllerStore());
+    m_controller->setTimeScale(timeScale);
+    setCurrentLink(m_controller.get());
+    BusFileService::instance().resetSession();
+    m_window = std::make_unique<PendantWindow>(QStringLiteral(PLUGIN_FILE));
+    m_window->show();
+}
+
+PendantFixture::~PendantFixture()
+{
+    m_window.reset();
+    setCurrentLink(nullptr);
+    m_controller.reset();
+    QDir::setCurrent(m_previousDirectory);
+    const QStringList unanswered = MsgBoxScript::unanswered() + NumericKeyboardScript::unanswered();
+    if (!unanswered.isEmpty())
+        QTest::qFail(qPrintable("not answered: " + unanswered.join(QStringLiteral(" | "))), __FILE__,
+                     __LINE__);
+}
+
+bool PendantFixture::open()
+{
+    m_window->openApplication();
+    return QTest::qWaitFor([this] { return isOpen() && menuPage(*m_window)->isVisible(); }, 10000) &&
+           settle();
+}
+
+bool PendantFixture::isOpen() const
+{
+    return menuPage(*m_window) && m_window->application().state() == ApplicationSlot::State::Shown;
+}
+
+bool PendantFixture::openPage(const QString& menuButton)
+{
+    return press(menuButton) && settle();
+}
+
+bool PendantFixture::selectPage(int id)
+{
+    QWidget* menu = menuPage(*m_window);
+    return menu && QMetaObject::invokeMethod(menu, "slotMenuBtnsClicked", Q_ARG(int, id)) && settle();
+}
+
+bool PendantFixture::settle(int msec)
+{
+    QElapsedTimer total;
+    total.start();
+    QElapsedTimer calm;
+    calm.start();
+    while (calm.elapsed() < SettledMs) {
+        if (total.elapsed() > msec)
+            return false;
+        QTest::qWait(5);
+        if (isBusy(*m_window))
+            calm.restart();
+    }
+    return true;
+}
+
+bool PendantFixture::press(const QString& name)
+{
+    QWidget* target = find(name);
+    return target && Finger::press(target);
+}
+
+bool PendantFixture::pressCell(const QString& table, int row, int column)
+{
+    auto* widget = find<QTableWidget>(table);
+    if (!widget || !widget->isVisible())
+        return false;
+    widget->scrollTo(widget->model()->index(row, column));
+    const QRect cell = widget->visualRect(widget->model()->index(row, column));
+    if (!cell.isValid())
+        return false;
+    QTest::mouseClick(widget->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+    return true;
+}
+
+bool PendantFixture::enter(const QString& edit, const QString& text)
+{
+    NumericKeyboardScript::enterNext(text);
+    return press(edit);
+}
+
+QByteArray PendantFixture::controllerFile(const QString& path) const
+{
+    QByteArray content;
+    m_controller->files().read(path, content);
+    return content;
+}
+
+double PendantFixture::variable(const QString& name, int element) const
+{
+    return m_controller->variables().value(name, element);
+}
+
+QStringList PendantFixture::messages()
+{
+    QStringList texts;
+    for (const ShownMsgBox& box : MsgBoxScript::shown())
+        texts << box.text;
+    return texts;
+}
+
+void PendantFixture::answer(std::initializer_list<int> results)
+{
+    for (const int result : results)
+        MsgBoxScript::answerNext(result);
+}

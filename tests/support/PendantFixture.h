@@ -1,0 +1,70 @@
+#ifndef TESTS_PENDANTFIXTURE_H
+#define TESTS_PENDANTFIXTURE_H
+
+#include "MsgBoxScript.h"
+#include "NumericKeyboardScript.h"
+#include "PendantWindow.h"
+#include "SimulatedController.h"
+#include "TestMain.h"
+#include "WorkDirectory.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+/// A whole pendant as the program makes it, with a simulated controller of its own in a scratch directory and
+/// the plug-in loaded through its exported functions. Tests find buttons and fields by object name and press
+/// them as a finger does; boxes are answered through MsgBoxScript, and one that nobody answers fails the test
+/// instead of hanging it.
+class PendantFixture
+{
+public:
+    /// `timeScale`: how much faster than real time the host's waits and the controller run.
+    explicit PendantFixture(double timeScale = 20.0);
+    ~PendantFixture();
+    PendantFixture(const PendantFixture&) = delete;
+    PendantFixture& operator=(const PendantFixture&) = delete;
+
+    SimulatedController& controller() { return *m_controller; }
+    PendantWindow& window() { return *m_window; }
+    QString usbDirectory() const { return m_directory.path() + QStringLiteral("/usb"); }
+
+    /// Opens the application and waits until the menu is there and the first page has loaded.
+    bool open();
+    /// Whether the application is on the screen.
+    bool isOpen() const;
+    /// Presses a menu button and waits until its page has loaded; answers to come are queued before.
+    bool openPage(const QString& menuButton);
+    /// Selects a page by id, also one without a button.
+    bool selectPage(int id);
+    /// Waits until input is no longer blocked and no box is open.
+    bool settle(int msec = 10000);
+
+    /// The child of the application called `name`, null when there is none.
+    template <typename Widget = QWidget>
+    Widget* find(const QString& name) const
+    {
+        return m_window->findChild<Widget*>(name);
+    }
+    /// Presses the middle of the widget; false when it is not there or cannot be reached by a finger.
+    bool press(const QString& name);
+    /// Presses a cell of a table.
+    bool pressCell(const QString& table, int row, int column);
+    /// Types into a touch line edit on the numeric keyboard that it opens.
+    bool enter(const QString& edit, const QString& text);
+
+    QByteArray controllerFile(const QString& path) const;
+    double variable(const QString& name, int element = 0) const;
+    /// Texts of the boxes shown so far, the oldest first.
+    static QStringList messages();
+    static void answer(std::initializer_list<int> results);
+
+private:
+    QTemporaryDir m_directory;
+    QString m_previousDirectory;
+    std::unique_ptr<SimulatedController> m_controller;
+    std::unique_ptr<PendantWindow> m_window;
+};
+
+#endif
