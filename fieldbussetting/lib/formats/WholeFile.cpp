@@ -11,7 +11,7 @@
 namespace {
 
 // The largest controller file has a few hundred kilobytes; what is beyond this is no configuration.
-constexpr off_t LargestFile = 16 * 1024 * 1024;
+constexpr off_t LargestFile = off_t{16} * 1024 * 1024;
 
 } // namespace
 
