@@ -182,7 +182,7 @@ PageBase* FbMainWidget::pageOf(int id)
     // again, before it is there.
     const QPointer<FbMainWidget> self(this);
     const int outerPage = std::exchange(m_pageInTheMaking, id);
-    std::unique_ptr<PageBase> page(entry.create());
+    std::unique_ptr<PageBase> page(PageBase::make(entry.create, this));
     if (!self)
         return nullptr;
     m_pageInTheMaking = outerPage;
