@@ -166,8 +166,11 @@ void FbMainWidget::slotMenuBtnsClicked(int id)
     if (!self || !page)
         return;
     ui->fieldbusSetSWidget->setCurrentWidget(page);
-    if (QAbstractButton* button = m_menuButtons->button(id))
-        button->setChecked(true);
+    // For a page without a button none is pressed, which an exclusive group does not allow.
+    QAbstractButton* button = m_menuButtons->button(id);
+    m_menuButtons->setExclusive(button != nullptr);
+    if (QAbstractButton* marked = button ? button : m_menuButtons->checkedButton())
+        marked->setChecked(button != nullptr);
     ZelSwitchWidgetVariablesContext();
 }
 

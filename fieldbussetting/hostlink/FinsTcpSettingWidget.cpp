@@ -40,6 +40,7 @@ void FinsTcpSettingWidget::on_interfaceCB_currentIndexChanged(int index)
     ui->clientNode_edit->setText(parts.size() > 1 ? parts.constLast() : QString());
 }
 
+// The state counts as seen: the light stays as it is until the controller changes one of the two flags.
 void FinsTcpSettingWidget::on_enable_checkBox_clicked()
 {
     m_enabled = ui->enable_checkBox->isChecked();
