@@ -327,7 +327,7 @@ void TestMes::serverRefusesWhatIsNoPort_data()
 {
     QTest::addColumn<QByteArray>("file");
     for (const char* port : {"", "0", "-1", "65536", "99999", "8o08", "0x1f90", "8008 x", "80 08"})
-        QTest::newRow(port) << fileWith(port);
+        QTest::newRow(*port ? port : "nothing") << fileWith(port);
     QTest::newRow("another root") << QByteArray("<Config><Port>8008</Port></Config>");
     QTest::newRow("cut short") << fileWith("8008").left(40);
     QTest::newRow("empty file") << QByteArray();
