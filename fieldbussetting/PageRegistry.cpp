@@ -1,6 +1,8 @@
 #include "PageRegistry.h"
 
+#include "FinsTcpSettingWidget.h"
 #include "HeartbeatDetectionWidget.h"
+#include "MesSettingWidget.h"
 
 #include <QCoreApplication>
 
@@ -24,10 +26,11 @@ const std::array<Entry, PageCount>& entries()
 {
     // id, button, caption, row, shown, bus, page, blocks input, needs free mode
     static constexpr std::array<Entry, PageCount> table = {{
-        {0, "mesBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mes"), 1, Shown::WhenOn, "Mes", NoPage, true, false},
+        {0, "mesBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mes"), 1, Shown::WhenOn, "Mes",
+         create<MesSettingWidget>, true, false},
         {1, "pfbPfnBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pfn"), 4, Shown::WhenOn, "ProfinetSlave", NoPage,
          true, true},
-        {2, NoButton, "", 0, Shown::Never, NoBus, NoPage, false, false},
+        {2, NoButton, "", 0, Shown::Never, NoBus, create<FinsTcpSettingWidget>, false, false},
         {3, "etherCatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "EthCat"), 5, Shown::WhenOn, "EtherCatSlave",
          NoPage, true, false},
         {4, "etherNetBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eip"), 7, Shown::WhenOn, "EtherNetIPSlave",

@@ -2,7 +2,9 @@
 
 #include "ControllerClock.h"
 #include "FieldbusManager.h"
+#include "FinsClient.h"
 #include "LinkStates.h"
+#include "MesServer.h"
 
 namespace {
 
@@ -16,9 +18,7 @@ std::unique_ptr<Behaviour> make(ControllerParts& parts)
 
 // The manager first: the others come up with the roles that it switched on.
 constexpr Maker Makers[] = {
-    make<FieldbusManager>,
-    make<ControllerClock>,
-    make<LinkStates>,
+    make<FieldbusManager>, make<ControllerClock>, make<LinkStates>, make<MesServer>, make<FinsClient>,
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "ControllerPanel.h"
 
 #include "FaultTab.h"
+#include "HostLinkTab.h"
 #include "LinkTab.h"
 #include "LogTab.h"
 #include "RobotTab.h"
@@ -25,6 +26,7 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
 
     addTab(new RobotTab(controller), QStringLiteral("robotTab"), tr("Robot"));
     addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
+    addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
     addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
     addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
     addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));

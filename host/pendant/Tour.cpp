@@ -67,6 +67,7 @@ const Tour::Station Tour::Stations[] = {
     {"pages", &Tour::visitPages},     {"heartbeat-lights", &Tour::visitHeartbeatLights},
     {"message", &Tour::visitMessage}, {"numeric-keyboard", &Tour::visitNumericKeyboard},
     {"log-in", &Tour::visitLogIn},    {"panel", &Tour::visitPanel},
+    {"mes", &Tour::visitMes},         {"fins", &Tour::visitFins},
     {"exit", &Tour::visitExit},
 };
 
@@ -180,6 +181,39 @@ bool Tour::visitPanel()
     const bool reported = settle() && report(QStringLiteral("panel"), m_subject.panel);
     m_subject.panel->setVisible(wasVisible);
     return reported;
+}
+
+bool Tour::visitMes()
+{
+    if (!openPage(QStringLiteral("mesBtn")) || !pressAndSettle(find(QStringLiteral("monitorButton"))))
+        return false;
+    // Whether the port is free is the machine's business; the picture is the same.
+    m_subject.controller.writeVariable(QStringLiteral("imes.tcp_server_active"), 0, 1.0);
+    bool seen = settle() && report(QStringLiteral("mes-active"));
+    m_subject.controller.writeVariable(QStringLiteral("imes.tcp_server_connected"), 0, 1.0);
+    seen = settle() && report(QStringLiteral("mes-connected")) && seen;
+    return pressAndSettle(find(QStringLiteral("monitorButton"))) && seen;
+}
+
+bool Tour::visitFins()
+{
+    constexpr int FinsPage = 2; // without a menu button
+    const auto set = [this](const char* variable, bool on) {
+        m_subject.controller.writeVariable(QStringLiteral("ifins_tcp.%1").arg(QLatin1String(variable)), 0,
+                                           on ? 1.0 : 0.0);
+    };
+    QWidget* menu = find(QStringLiteral("FbMainWidget"));
+    if (!menu || !QMetaObject::invokeMethod(menu, "slotMenuBtnsClicked", Q_ARG(int, FinsPage)) || !settle() ||
+        !report(QStringLiteral("fins-off")))
+        return false;
+    // The factory settings name a server that a simulated controller does not call.
+    bool seen =
+        pressAndSettle(find(QStringLiteral("enable_checkBox"))) && report(QStringLiteral("fins-error"));
+    set("error", false);
+    set("connected", true);
+    seen = settle() && report(QStringLiteral("fins-on")) && seen;
+    set("enable", false);
+    return settle() && seen;
 }
 
 bool Tour::visitExit()

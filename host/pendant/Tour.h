@@ -50,6 +50,8 @@ private:
     bool visitNumericKeyboard();
     bool visitLogIn();
     bool visitPanel();
+    bool visitMes();
+    bool visitFins();
     bool visitExit();
 
     bool openPage(const QString& button);
