@@ -26,6 +26,12 @@ inline std::array<NetworkPort, Count> read()
     return {{{addresses.eth2Ip, addresses.eth2Netmask}, {addresses.eth3Ip, addresses.eth3Netmask}}};
 }
 
+/// Address of the port that the host links' files count as `index`: 0 is ETH2, everything else ETH3.
+inline QString addressOf(int index)
+{
+    return read()[index != 0 ? 1 : 0].ip;
+}
+
 } // namespace NetworkPorts
 
 #endif

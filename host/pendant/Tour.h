@@ -51,6 +51,7 @@ private:
     bool visitLogIn();
     bool visitPanel();
     bool visitExit();
+    bool visitSlaveStates();
 
     bool openPage(const QString& button);
     bool pictureOfDialog(const QString& name, const QString& button);
