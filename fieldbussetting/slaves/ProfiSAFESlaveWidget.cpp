@@ -4,7 +4,6 @@
 #include "ControllerVariables.h"
 #include "ui_ProfiSAFESlaveWidget.h"
 
-#include <QScroller>
 #include <QSignalBlocker>
 
 using ControllerVariables::io_man_profisafe_ext_ro;
@@ -45,7 +44,7 @@ constexpr const char* BlockCaptions[] = {QT_TRANSLATE_NOOP("ProfiSAFESlaveWidget
                                          QT_TRANSLATE_NOOP("ProfiSAFESlaveWidget", "Input")};
 constexpr int HeaderHeight = 32;
 constexpr int LightSize = 28;
-constexpr int RowHeight = 40;
+constexpr int RowHeight = 36;
 
 int command()
 {
@@ -76,7 +75,6 @@ void ProfiSAFESlaveWidget::buildTable()
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setMinimumSectionSize(RowHeight);
     table->verticalHeader()->setDefaultSectionSize(RowHeight);
-    QScroller::grabGesture(table->viewport(), QScroller::LeftMouseButtonGesture);
 
     QStringList captions;
     int column = 0;
