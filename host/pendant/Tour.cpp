@@ -73,8 +73,8 @@ const Tour::Station Tour::Stations[] = {
     {"panel", &Tour::visitPanel},
     {"mes", &Tour::visitMes},
     {"fins", &Tour::visitFins},
-    {"slave-states", &Tour::visitSlaveStates},
     {"exit", &Tour::visitExit},
+    {"slave-states", &Tour::visitSlaveStates},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
