@@ -5,6 +5,7 @@
 #include "FinsClient.h"
 #include "LinkStates.h"
 #include "MesServer.h"
+#include "ProfisafeDevice.h"
 
 namespace {
 
@@ -18,7 +19,8 @@ std::unique_ptr<Behaviour> make(ControllerParts& parts)
 
 // The manager first: the others come up with the roles that it switched on.
 constexpr Maker Makers[] = {
-    make<FieldbusManager>, make<ControllerClock>, make<LinkStates>, make<MesServer>, make<FinsClient>,
+    make<FieldbusManager>, make<ControllerClock>, make<LinkStates>,
+    make<MesServer>,       make<FinsClient>,      make<ProfisafeDevice>,
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ControllerPanel.h"
 
+#include "DeviceTab.h"
 #include "FaultTab.h"
 #include "HostLinkTab.h"
 #include "LinkTab.h"
@@ -30,6 +31,7 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
     addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
     addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
     addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));
+    addTab(new DeviceTab(controller), QStringLiteral("deviceTab"), tr("Devices"));
 
     connect(&m_timer, &QTimer::timeout, this, &ControllerPanel::refresh);
     connect(m_tabs, &QTabWidget::currentChanged, this, &ControllerPanel::refresh);

@@ -63,11 +63,17 @@ QString joined(const QStringList& texts)
 } // namespace
 
 const Tour::Station Tour::Stations[] = {
-    {"home", &Tour::visitHome},       {"menu", &Tour::visitMenu},
-    {"pages", &Tour::visitPages},     {"heartbeat-lights", &Tour::visitHeartbeatLights},
-    {"message", &Tour::visitMessage}, {"numeric-keyboard", &Tour::visitNumericKeyboard},
-    {"log-in", &Tour::visitLogIn},    {"panel", &Tour::visitPanel},
-    {"mes", &Tour::visitMes},         {"fins", &Tour::visitFins},
+    {"home", &Tour::visitHome},
+    {"menu", &Tour::visitMenu},
+    {"pages", &Tour::visitPages},
+    {"heartbeat-lights", &Tour::visitHeartbeatLights},
+    {"message", &Tour::visitMessage},
+    {"numeric-keyboard", &Tour::visitNumericKeyboard},
+    {"log-in", &Tour::visitLogIn},
+    {"panel", &Tour::visitPanel},
+    {"mes", &Tour::visitMes},
+    {"fins", &Tour::visitFins},
+    {"slave-states", &Tour::visitSlaveStates},
     {"exit", &Tour::visitExit},
 };
 
@@ -226,6 +232,37 @@ bool Tour::visitExit()
             return false;
     }
     return report(QStringLiteral("home-again"));
+}
+
+// What the slaves' pages show beside their settings: no port with the EtherNet/IP slave's address, and a
+// ProfiSAFE device. The pages are new ones, as the application is opened again for them.
+bool Tour::visitSlaveStates()
+{
+    const QString portsPath = QStringLiteral("/application/network/netports.xml");
+    const QString profisafe = QStringLiteral("io_man.profisafe_status");
+    ControllerLink& controller = m_subject.controller;
+    QByteArray ports;
+    if (!controller.fetchFile(portsPath, ports) ||
+        !controller.storeFile(portsPath, QByteArray(ports).replace(".22", ".23")))
+        return false;
+    controller.writeVariable(profisafe, 0, 1.0);
+
+    bool reached = pressAndSettle(find(QStringLiteral("applicationTile")));
+    const struct
+    {
+        const char* button;
+        const char* picture;
+    } stops[] = {{"etherNetBtn", "ethernet-ip-banner"},
+                 {"pfbPfnBtn", "profinet-with-profisafe"},
+                 {"btn_pfss", "profisafe"}};
+    for (const auto& stop : stops)
+        reached = reached && openPage(QLatin1String(stop.button)) && report(QLatin1String(stop.picture));
+    reached = reached && pressAndSettle(find(QStringLiteral("btn_errorConfir"))) &&
+              report(QStringLiteral("profisafe-command"));
+
+    controller.writeVariable(profisafe, 0, 0.0);
+    return controller.storeFile(portsPath, ports) && pressAndSettle(find(QStringLiteral("exitBtn"))) &&
+           reached;
 }
 
 bool Tour::openPage(const QString& button)

@@ -53,6 +53,7 @@ private:
     bool visitMes();
     bool visitFins();
     bool visitExit();
+    bool visitSlaveStates();
 
     bool openPage(const QString& button);
     bool pictureOfDialog(const QString& name, const QString& button);
