@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int RowHeight = 48;    // pixels
 constexpr int ColumnSpacing = 8; // pixels
 
 StatusLight::State phaseState(int phase, StatusLight::State failed)
@@ -45,7 +44,7 @@ MasterSlaveRow::MasterSlaveRow(int number, const Names& names, const Widths& wid
     , m_coupling(new QLabel(this))
     , m_decoupling(new QLabel(this))
 {
-    setMinimumHeight(RowHeight);
+    setFixedHeight(Height);
     auto* numberLabel = new QLabel(QString::number(number), this);
     const struct
     {

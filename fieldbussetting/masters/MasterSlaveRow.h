@@ -17,6 +17,7 @@ class MasterSlaveRow : public QWidget
 {
 public:
     static constexpr int ColumnCount = 6;
+    static constexpr int Height = 48; ///< pixels
     using Widths = std::array<int, ColumnCount>;
 
     /// Object names; "%1" stands for the number of the position.

@@ -1,34 +1,25 @@
 #include "MasterTablePage.h"
 
 #include "BusFileDataManager.h"
-#include "FingerScroll.h"
+#include "MasterSlaveList.h"
 #include "ui_MasterSettingsPanel.h"
 
-#include <QLabel>
-#include <QScrollArea>
-#include <QScrollBar>
+#include <QHeaderView>
+#include <QTableWidget>
 
 namespace {
 
 constexpr int ProfisafePresent = 1;
 constexpr double LongestTimeout = 999999;
-constexpr int RowSpacing = 8; // pixels
 
-struct Caption
-{
-    const char* name;
-    const char* text;
-};
+// The device table beside the settings, in pixels.
+constexpr int DeviceTableWidth = 518;
+constexpr int DeviceTableLeastHeight = 218;
+constexpr int NameColumn = 3; // takes what the others leave
+constexpr int ActivateColumn = 4;
+constexpr int ActivateWidth = 104;
 
-// A caption a column of a slave position.
-constexpr std::array<Caption, MasterSlaveRow::ColumnCount> Captions = {{
-    {"label_conneted", QT_TRANSLATE_NOOP("MasterTablePage", "Number")},
-    {"label_conneted_2", QT_TRANSLATE_NOOP("MasterTablePage", "Fixed  Status")},
-    {"label_conneted_3", QT_TRANSLATE_NOOP("MasterTablePage", " Dynamic Status")},
-    {"label_conneted_4", QT_TRANSLATE_NOOP("MasterTablePage", " Connected Status")},
-    {"label_conneted_5", QT_TRANSLATE_NOOP("MasterTablePage", "Coupling Status")},
-    {"label_conneted_6", QT_TRANSLATE_NOOP("MasterTablePage", "Decoupling Status")},
-}};
+constexpr int SlavesFirst = 100; // share of the height, against 1 of the device table
 
 TransferTexts deviceTexts()
 {
@@ -65,56 +56,24 @@ MasterTablePage::~MasterTablePage() = default;
 
 void MasterTablePage::build(QTableWidget* deviceTable, QBoxLayout* besideTable, QBoxLayout* page)
 {
+    m_deviceTable = deviceTable;
     m_devices = std::make_unique<DeviceTable>(deviceTable);
-    besideTable->addWidget(m_settingsPanel);
+    QHeaderView* columns = deviceTable->horizontalHeader();
+    columns->setSectionResizeMode(QHeaderView::ResizeToContents);
+    columns->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    columns->setSectionResizeMode(ActivateColumn, QHeaderView::Fixed);
+    columns->resizeSection(ActivateColumn, ActivateWidth);
+    deviceTable->setFixedWidth(DeviceTableWidth);
+    deviceTable->setMinimumHeight(DeviceTableLeastHeight);
+    m_settingsPanel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    besideTable->addWidget(m_settingsPanel, 0, Qt::AlignTop);
     applyStyle();
-    page->addWidget(makeSlaveArea(), 1);
+    m_slaveList = new MasterSlaveList(m_master.rowNames, this);
+    page->addWidget(m_slaveList, SlavesFirst);
+    page->setStretchFactor(besideTable, 1);
+    page->addStretch();
     showPositions(0);
     scheduleOnce(1, &MasterTablePage::slotGetFileToUi);
-}
-
-QWidget* MasterTablePage::makeSlaveArea()
-{
-    auto* area = new QWidget(this);
-    auto* lines = new QVBoxLayout(area);
-    lines->setContentsMargins(0, 0, 0, 0);
-
-    auto* captions = new QWidget(area);
-    MasterSlaveRow::Widths widths{};
-    auto* captionColumns = MasterSlaveRow::makeColumns(captions, widths);
-    for (std::size_t column = 0; column < Captions.size(); ++column) {
-        auto* caption = new QLabel(tr(Captions[column].text), captions);
-        caption->setObjectName(QLatin1String(Captions[column].name));
-        caption->setAlignment(Qt::AlignCenter);
-        caption->setWordWrap(true);
-        caption->ensurePolished();
-        widths[column] = caption->minimumSizeHint().width();
-        captionColumns->addWidget(caption, 0, static_cast<int>(column));
-    }
-    lines->addWidget(captions);
-
-    auto* scroll = new QScrollArea(area);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    auto* content = new QWidget;
-    auto* rows = new QVBoxLayout(content);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(RowSpacing);
-    for (int number = 1; number <= Positions; ++number) {
-        m_rows.push_back(new MasterSlaveRow(number, m_master.rowNames, widths, content));
-        rows->addWidget(m_rows.back());
-    }
-    rows->addStretch();
-    scroll->setWidget(content);
-    scrollByFinger(scroll);
-    lines->addWidget(scroll, 1);
-    // The captions stay above their columns when the scroll bar comes.
-    connect(scroll->verticalScrollBar(), &QScrollBar::rangeChanged, captions,
-            [captions, scroll](int /*minimum*/, int maximum) {
-                const int bar = maximum > 0 ? scroll->verticalScrollBar()->sizeHint().width() : 0;
-                captions->layout()->setContentsMargins(0, 0, bar, 0);
-            });
-    return area;
 }
 
 bool MasterTablePage::usesDevices() const
@@ -131,8 +90,17 @@ void MasterTablePage::slotGetFileToUi()
         return;
     if (fetchAndRead(m_master.slaveFile, plain(m_master.readSlaves), m_master.slaveTexts) == Outcome::Gone)
         return;
-    m_devices->fill(devices());
+    fillDevices();
     fillSlaves();
+}
+
+// The table is no higher than its rows.
+void MasterTablePage::fillDevices()
+{
+    m_devices->fill(devices());
+    const int height = m_deviceTable->horizontalHeader()->height() +
+                       m_deviceTable->verticalHeader()->length() + 2 * m_deviceTable->frameWidth();
+    m_deviceTable->setMaximumHeight(qMax(height, DeviceTableLeastHeight));
 }
 
 void MasterTablePage::on_btn_reset_clicked()
@@ -178,8 +146,7 @@ void MasterTablePage::fillSlaves()
     m_settings->lineEdit_enable_timeout->setText(record.EnableTimeout);
     // No file has this one: it is what the controller holds.
     m_settings->dynalm_checkbox->setChecked((lib()->*m_master.dynamicAlarm)());
-    for (MasterSlaveRow* row : m_rows)
-        row->fill(record);
+    m_slaveList->fill(record);
     refreshStatus();
 }
 
@@ -189,8 +156,7 @@ void MasterTablePage::storeSlaves() const
     record.SlaveNum = wholeNumber(m_settings->lineEdit_slave_count);
     record.DisableTimeout = wholeNumber(m_settings->lineEdit_disable_timeout);
     record.EnableTimeout = wholeNumber(m_settings->lineEdit_enable_timeout);
-    for (const MasterSlaveRow* row : m_rows)
-        row->store(record);
+    m_slaveList->store(record);
 }
 
 void MasterTablePage::refreshStatus()
@@ -198,10 +164,10 @@ void MasterTablePage::refreshStatus()
     const int count = shownCount();
     showPositions(count);
     for (int index = 0; index < Positions; ++index) {
-        MasterSlaveRow* row = m_rows[static_cast<std::size_t>(index)];
-        row->showPhases((lib()->*m_master.coupling)(index), (lib()->*m_master.decoupling)(index));
+        MasterSlaveRow& row = m_slaveList->row(index);
+        row.showPhases((lib()->*m_master.coupling)(index), (lib()->*m_master.decoupling)(index));
         if (index < count)
-            row->showConnected((lib()->*m_master.connected)(index));
+            row.showConnected((lib()->*m_master.connected)(index));
     }
 }
 
@@ -212,9 +178,9 @@ int MasterTablePage::shownCount() const
 
 void MasterTablePage::showPositions(int count)
 {
-    if (count == m_rowsInSight)
+    if (count == m_count)
         return;
-    m_rowsInSight = count;
+    m_count = count;
     QWidget* const withSlaves[] = {
         m_settings->label_dyn_alm,         m_settings->dynalm_checkbox,
         m_settings->label_disable_timeout, m_settings->lineEdit_disable_timeout,
@@ -222,6 +188,5 @@ void MasterTablePage::showPositions(int count)
     };
     for (QWidget* widget : withSlaves)
         widget->setVisible(count > 0);
-    for (int index = 0; index < Positions; ++index)
-        m_rows[static_cast<std::size_t>(index)]->setVisible(index < count);
+    m_slaveList->setCount(count);
 }

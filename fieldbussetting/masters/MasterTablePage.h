@@ -6,8 +6,8 @@
 #include "PageBase.h"
 
 #include <memory>
-#include <vector>
 
+class MasterSlaveList;
 class QBoxLayout;
 
 namespace Ui {
@@ -76,10 +76,10 @@ private slots:
 private:
     static constexpr int Positions = MasterSlaveTable::PositionCount;
 
-    QWidget* makeSlaveArea();
     bool usesDevices() const;
     OverrideRecord& devices() const { return lib()->*m_master.devices; }
     MasterSlaveTable& slaves() const { return lib()->*m_master.slaves; }
+    void fillDevices();
     void fillSlaves();
     void storeSlaves() const;
     /// Slave count of the page, within what can be shown.
@@ -89,9 +89,10 @@ private:
     const Master& m_master;
     std::unique_ptr<Ui::MasterSettingsPanel> m_settings;
     QWidget* m_settingsPanel;
+    QTableWidget* m_deviceTable = nullptr;
     std::unique_ptr<DeviceTable> m_devices;
-    std::vector<MasterSlaveRow*> m_rows;
-    int m_rowsInSight = Positions;
+    MasterSlaveList* m_slaveList = nullptr;
+    int m_count = -1; ///< slave positions in sight
 };
 
 #endif
