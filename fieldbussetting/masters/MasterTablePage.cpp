@@ -13,7 +13,7 @@ constexpr int ProfisafePresent = 1;
 constexpr double LongestTimeout = 999999;
 
 // The device table beside the settings, in pixels.
-constexpr int DeviceTableWidth = 518;
+constexpr int DeviceTableLeastWidth = 420;
 constexpr int DeviceTableLeastHeight = 218;
 constexpr int NameColumn = 3; // takes what the others leave
 constexpr int ActivateColumn = 4;
@@ -63,8 +63,8 @@ void MasterTablePage::build(QTableWidget* deviceTable, QBoxLayout* besideTable, 
     columns->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     columns->setSectionResizeMode(ActivateColumn, QHeaderView::Fixed);
     columns->resizeSection(ActivateColumn, ActivateWidth);
-    deviceTable->setFixedWidth(DeviceTableWidth);
-    deviceTable->setMinimumHeight(DeviceTableLeastHeight);
+    deviceTable->setMinimumSize(DeviceTableLeastWidth, DeviceTableLeastHeight);
+    besideTable->setStretch(0, 1);
     m_settingsPanel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     besideTable->addWidget(m_settingsPanel, 0, Qt::AlignTop);
     applyStyle();

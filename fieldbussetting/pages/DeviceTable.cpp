@@ -61,6 +61,7 @@ DeviceTable::DeviceTable(QTableWidget* table)
         m_table->setColumnWidth(column++, texts.width);
     }
     m_table->horizontalHeader()->setMinimumHeight(RowHeight);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
     m_table->horizontalHeader()->setVisible(true);
     m_table->verticalHeader()->setDefaultSectionSize(RowHeight);
     m_table->verticalHeader()->setVisible(false);
