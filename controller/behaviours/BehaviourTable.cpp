@@ -3,6 +3,7 @@
 #include "ControllerClock.h"
 #include "FieldbusManager.h"
 #include "LinkStates.h"
+#include "MasterSlaveStates.h"
 
 namespace {
 
@@ -19,6 +20,7 @@ constexpr Maker Makers[] = {
     make<FieldbusManager>,
     make<ControllerClock>,
     make<LinkStates>,
+    make<MasterSlaveStates>,
 };
 
 } // namespace
