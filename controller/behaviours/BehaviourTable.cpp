@@ -4,6 +4,7 @@
 #include "FieldbusManager.h"
 #include "FinsClient.h"
 #include "LinkStates.h"
+#include "MasterSlaveStates.h"
 #include "MesServer.h"
 #include "ProfisafeDevice.h"
 
@@ -19,8 +20,13 @@ std::unique_ptr<Behaviour> make(ControllerParts& parts)
 
 // The manager first: the others come up with the roles that it switched on.
 constexpr Maker Makers[] = {
-    make<FieldbusManager>, make<ControllerClock>, make<LinkStates>,
-    make<MesServer>,       make<FinsClient>,      make<ProfisafeDevice>,
+    make<FieldbusManager>,
+    make<ControllerClock>,
+    make<LinkStates>,
+    make<MesServer>,
+    make<FinsClient>,
+    make<ProfisafeDevice>,
+    make<MasterSlaveStates>,
 };
 
 } // namespace

