@@ -3,6 +3,8 @@
 #include "ControllerClock.h"
 #include "FieldbusManager.h"
 #include "LinkStates.h"
+#include "ModbusMaster.h"
+#include "ModbusSlave.h"
 
 namespace {
 
@@ -19,6 +21,8 @@ constexpr Maker Makers[] = {
     make<FieldbusManager>,
     make<ControllerClock>,
     make<LinkStates>,
+    make<ModbusSlave>,
+    make<ModbusMaster>,
 };
 
 } // namespace
