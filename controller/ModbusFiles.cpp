@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int HighestAddress = 0xffff;
 constexpr int HighestUnit = 255;
 constexpr int ShortestTimeoutMs = 100;
 constexpr int LongestTimeoutMs = 10000;
@@ -41,12 +40,13 @@ std::vector<RegisterBlock> readRegisterBlocks(const QByteArray& mappingXml, cons
                                    .find_child_by_attribute("Mode", "name", mode)
                                    .find_child_by_attribute("Bus", "name", "ModbusTcpSlave");
     for (const pugi::xml_node& area : bus.children("Area")) {
-        const long long first = area.attribute("start").as_llong() - FirstHoldingRegister;
-        const long long last = area.attribute("end").as_llong() - FirstHoldingRegister;
+        const long long first = area.attribute("start").as_llong();
+        const long long last = area.attribute("end").as_llong();
         // What the robot only sets ("wo") is not a client's to write.
         const bool writable = qstrcmp(area.attribute("direction").value(), "wo") != 0;
-        if (first >= 0 && first <= last && last <= HighestAddress)
-            blocks.push_back({static_cast<int>(first), static_cast<int>(last - first) + 1, writable});
+        if (first >= FirstHoldingRegister && first <= last && last <= LastHoldingRegister)
+            blocks.push_back({static_cast<int>(first) - FirstHoldingRegister,
+                              static_cast<int>(last - first) + 1, writable});
     }
     return blocks;
 }

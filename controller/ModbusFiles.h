@@ -9,6 +9,7 @@
 
 /// Holding registers are numbered from 40001 on; on the wire the first has the address 0.
 constexpr int FirstHoldingRegister = 40001;
+constexpr int LastHoldingRegister = FirstHoldingRegister + 0xffff;
 
 /// A block of registers of the Modbus TCP slave.
 struct RegisterBlock

@@ -13,6 +13,16 @@ const QString& role()
     return name;
 }
 
+bool isRegister(int number)
+{
+    return number >= FirstHoldingRegister && number <= LastHoldingRegister;
+}
+
+quint16 addressOf(int number)
+{
+    return static_cast<quint16>(number - FirstHoldingRegister);
+}
+
 } // namespace
 
 ModbusSlave::ModbusSlave(ControllerParts& controllerParts)
@@ -47,18 +57,16 @@ int ModbusSlave::clientCount() const
 std::optional<quint16> ModbusSlave::registerValue(int number) const
 {
     quint16 value = 0;
-    const auto address = static_cast<quint16>(number - FirstHoldingRegister);
-    if (!m_server || number < FirstHoldingRegister ||
-        !m_server->data(QModbusDataUnit::HoldingRegisters, address, &value))
+    if (!m_server || !isRegister(number) ||
+        !m_server->data(QModbusDataUnit::HoldingRegisters, addressOf(number), &value))
         return {};
     return value;
 }
 
 bool ModbusSlave::setRegister(int number, quint16 value)
 {
-    const auto address = static_cast<quint16>(number - FirstHoldingRegister);
-    return m_server && number >= FirstHoldingRegister &&
-           m_server->setData(QModbusDataUnit::HoldingRegisters, address, value);
+    return m_server && isRegister(number) &&
+           m_server->setData(QModbusDataUnit::HoldingRegisters, addressOf(number), value);
 }
 
 void ModbusSlave::restarted()
