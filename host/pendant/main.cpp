@@ -50,7 +50,7 @@ int makeTour(PendantWindow& window, SimulatedController& controller, QWidget& pa
         controller.traffic().clear();
         return fetches;
     };
-    return Tour({window, controller, &panel, takeFetches}, directory).run();
+    return Tour({window, controller, &panel, controller.modbusPort(), takeFetches}, directory).run();
 }
 } // namespace
 
