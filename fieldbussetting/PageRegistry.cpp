@@ -7,6 +7,7 @@
 #include "FinsTcpSettingWidget.h"
 #include "HeartbeatDetectionWidget.h"
 #include "MesSettingWidget.h"
+#include "MtcpMasterSetting.h"
 #include "MtcpSlaveSetting.h"
 #include "Pfb_PfnSettingWidget.h"
 #include "PfnMasterSetting.h"
@@ -54,7 +55,7 @@ const std::array<Entry, PageCount>& entries()
         {9, "deviceBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dns"), 9, Shown::WhenOn, "DeviceNetSlave", NoPage,
          true, false},
         {10, "mtcpMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mbc"), 3, Shown::WhenOn, "ModbusTcpMaster",
-         NoPage, true, false},
+         create<MtcpMasterSetting>, true, false},
         {11, "eipMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eim"), 10, Shown::WhenOn, "EtherNetIPMaster",
          create<EipMasterSettingWidget>, true, false},
         {12, "pnmBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pnm"), 11, Shown::WhenOn, "ProfinetMaster",

@@ -6,6 +6,8 @@
 #include "LinkStates.h"
 #include "MasterSlaveStates.h"
 #include "MesServer.h"
+#include "ModbusMaster.h"
+#include "ModbusSlave.h"
 #include "ProfisafeDevice.h"
 
 namespace {
@@ -27,6 +29,8 @@ constexpr Maker Makers[] = {
     make<FinsClient>,
     make<ProfisafeDevice>,
     make<MasterSlaveStates>,
+    make<ModbusSlave>,
+    make<ModbusMaster>,
 };
 
 } // namespace

@@ -4,6 +4,8 @@
 #include "ControllerLink.h"
 #include "Finger.h"
 #include "MsgBox.h"
+#include "MsgBoxScript.h"
+#include "NumericKeyboardScript.h"
 #include "PendantWindow.h"
 #include "ZelBaseWidget.h"
 
@@ -73,6 +75,7 @@ const Tour::Station Tour::Stations[] = {
     {"panel", &Tour::visitPanel},
     {"mes", &Tour::visitMes},
     {"fins", &Tour::visitFins},
+    {"modbus-master", &Tour::visitModbusMaster},
     {"exit", &Tour::visitExit},
     {"slave-states", &Tour::visitSlaveStates},
 };
@@ -222,6 +225,29 @@ bool Tour::visitFins()
     return settle() && seen;
 }
 
+// With the controller's own slave as the partner. The settings are put back: what is walked through is not
+// changed.
+bool Tour::visitModbusMaster()
+{
+    const QString file = QStringLiteral("/application/fidbus/mtcpMaster/mtcp_master.xml");
+    const QString announced = QStringLiteral("ifidbus.mbc_save_enable");
+    const QString connected = QStringLiteral("ifidbus.mbc_connected");
+    QByteArray settings;
+    if (!openPage(QStringLiteral("mtcpMasterBtn")) || !m_subject.controller.fetchFile(file, settings))
+        return false;
+    bool reached = type(QStringLiteral("le_masterIp"), QStringLiteral("127.0.0.1")) &&
+                   type(QStringLiteral("le_masterId"), QStringLiteral("1")) &&
+                   type(QStringLiteral("le_masterPort"), QString::number(m_subject.modbusPort));
+    MsgBoxScript::answerNext(MsgBox::Confirmed);
+    reached = reached && pressAndSettle(find(QStringLiteral("btn_save"))) &&
+              waitForVariable(announced, 0.0) && pressAndSettle(find(QStringLiteral("btn_connect"))) &&
+              waitForVariable(connected, 1.0) && settle() &&
+              report(QStringLiteral("modbus-master-connected"));
+    reached = m_subject.controller.storeFile(file, settings) && reached;
+    m_subject.controller.writeVariable(announced, 0, 1.0);
+    return reached;
+}
+
 bool Tour::visitExit()
 {
     // Opened again from the home screen, so that a second life of the application is seen as well.
@@ -283,6 +309,21 @@ bool Tour::pictureOfDialog(const QString& name, const QString& button)
 bool Tour::pressAndSettle(QWidget* target)
 {
     return Finger::press(target) && settle();
+}
+
+bool Tour::type(const QString& edit, const QString& text)
+{
+    NumericKeyboardScript::enterNext(text);
+    return pressAndSettle(find(edit));
+}
+
+bool Tour::waitForVariable(const QString& name, double value)
+{
+    QElapsedTimer limit;
+    limit.start();
+    while (m_subject.controller.readVariable(name) != value && limit.elapsed() < LoadingLimitMs)
+        wait(LookEveryMs);
+    return m_subject.controller.readVariable(name) == value;
 }
 
 // A page is loaded when it lets the finger through, asks nothing, and nothing was fetched for a while.

@@ -323,9 +323,9 @@ void TestPlant::panelFollowsAndDrives()
 
     tabs->setCurrentWidget(panel.findChild<QWidget*>("linkTab"));
     auto* const links = panel.findChild<QTableWidget*>(QStringLiteral("linkTable"));
-    QVERIFY(controller.readVariable(QStringLiteral("ifidbus.mtcp_link_state")) == 1.0);
-    links->item(0, 2)->setCheckState(Qt::Unchecked);
-    QCOMPARE(controller.readVariable(QStringLiteral("ifidbus.mtcp_link_state")), 0.0);
+    QVERIFY(controller.readVariable(QStringLiteral("ifidbus.ethcat_link_state")) == 1.0);
+    links->item(1, 2)->setCheckState(Qt::Unchecked);
+    QCOMPARE(controller.readVariable(QStringLiteral("ifidbus.ethcat_link_state")), 0.0);
 
     tabs->setCurrentWidget(panel.findChild<QWidget*>("variableTab"));
     auto* const variables = panel.findChild<QTableView*>(QStringLiteral("variableTable"))->model();
