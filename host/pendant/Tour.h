@@ -50,9 +50,11 @@ private:
     bool visitNumericKeyboard();
     bool visitLogIn();
     bool visitPanel();
+    bool visitMapping();
     bool visitExit();
 
     bool openPage(const QString& button);
+    bool reportMappingTabs(const QString& mode);
     bool pictureOfDialog(const QString& name, const QString& button);
     bool pressAndSettle(QWidget* target);
     bool settle();
