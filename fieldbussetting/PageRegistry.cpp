@@ -1,6 +1,7 @@
 #include "PageRegistry.h"
 
 #include "BusSettingWidget.h"
+#include "ConfigWidget.h"
 #include "EcatMasterSettingWidget.h"
 #include "EipMasterSettingWidget.h"
 #include "EtherCatSettingWidget.h"
@@ -49,8 +50,8 @@ const std::array<Entry, PageCount>& entries()
          create<BusSettingWidget>, true, false},
         {6, "heartbeatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Heartbeat"), 14, Shown::Always, NoBus,
          create<HeartbeatDetectionWidget>, true, false},
-        {7, "configBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Configuration"), 15, Shown::Always, NoBus, NoPage,
-         true, false},
+        {7, "configBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Configuration"), 15, Shown::Always, NoBus,
+         create<ConfigWidget>, true, false},
         {8, "etherCatMBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Ecm"), 8, Shown::WhenOn, "EtherCatMaster",
          create<EcatMasterSettingWidget>, true, false},
         {9, "deviceBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dns"), 9, Shown::WhenOn, "DeviceNetSlave", NoPage,

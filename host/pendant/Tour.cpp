@@ -1,6 +1,7 @@
 #include "Tour.h"
 
 #include "ApplicationSlot.h"
+#include "BusFileDataManager.h"
 #include "ControllerLink.h"
 #include "Finger.h"
 #include "MsgBox.h"
@@ -16,6 +17,7 @@
 #include <QEventLoop>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QTabWidget>
 #include <QTextStream>
 
 #include <algorithm>
@@ -76,8 +78,9 @@ const Tour::Station Tour::Stations[] = {
     {"mes", &Tour::visitMes},
     {"fins", &Tour::visitFins},
     {"modbus-master", &Tour::visitModbusMaster},
-    {"exit", &Tour::visitExit},
     {"slave-states", &Tour::visitSlaveStates},
+    {"mapping", &Tour::visitMapping},
+    {"exit", &Tour::visitExit},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
@@ -246,6 +249,44 @@ bool Tour::visitModbusMaster()
     reached = m_subject.controller.storeFile(file, settings) && reached;
     m_subject.controller.writeVariable(announced, 0, 1.0);
     return reached;
+}
+
+// Every bus in either mode, as if the roles had been switched on another page meanwhile.
+bool Tour::visitMapping()
+{
+    BusFileDataManager* service = BusFileDataManager::getInstance();
+    const QMap<QString, BusName> before = service->getAllBusName();
+    bool reached = true;
+    for (const bool isFree : {true, false}) {
+        QMap<QString, BusName> roles = before;
+        for (BusName& role : roles)
+            role.enabled = role.name != QLatin1String("FreeBus") || isFree;
+        service->setBusInfo(roles);
+        const QString mode = isFree ? QStringLiteral("free") : QStringLiteral("fixed");
+        reached = openPage(QStringLiteral("heartbeatBtn")) && openPage(QStringLiteral("configBtn")) &&
+                  reportMappingTabs(mode) && pressAndSettle(find(QStringLiteral("bt_EditOrSave"))) &&
+                  report(QStringLiteral("mapping-%1-editing").arg(mode)) && reached;
+    }
+    service->setBusInfo(before);
+    return reached && openPage(QStringLiteral("heartbeatBtn"));
+}
+
+bool Tour::reportMappingTabs(const QString& mode)
+{
+    auto* tabs = qobject_cast<QTabWidget*>(find(QStringLiteral("tabWidget_Bus")));
+    if (!tabs)
+        return false;
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        if (!tabs->isTabEnabled(tab))
+            continue;
+        tabs->setCurrentIndex(tab);
+        wait(LookEveryMs);
+        report(QStringLiteral("mapping-%1-%2").arg(mode, tabs->currentWidget()->objectName()));
+    }
+    tabs->setCurrentIndex(0);
+    return pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RW"))) &&
+           report(QStringLiteral("mapping-%1-read-and-write").arg(mode)) &&
+           pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RO")));
 }
 
 bool Tour::visitExit()

@@ -54,10 +54,12 @@ private:
     bool visitMes();
     bool visitFins();
     bool visitModbusMaster();
+    bool visitMapping();
     bool visitExit();
     bool visitSlaveStates();
 
     bool openPage(const QString& button);
+    bool reportMappingTabs(const QString& mode);
     bool pictureOfDialog(const QString& name, const QString& button);
     bool pressAndSettle(QWidget* target);
     bool type(const QString& edit, const QString& text);
