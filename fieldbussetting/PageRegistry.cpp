@@ -1,5 +1,7 @@
 #include "PageRegistry.h"
 
+#include "DeviceNetMasterSetting.h"
+#include "DeviceNetSlaverSetting.h"
 #include "HeartbeatDetectionWidget.h"
 
 #include <QCoreApplication>
@@ -40,8 +42,8 @@ const std::array<Entry, PageCount>& entries()
          true, false},
         {8, "etherCatMBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Ecm"), 8, Shown::WhenOn, "EtherCatMaster",
          NoPage, true, false},
-        {9, "deviceBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dns"), 9, Shown::WhenOn, "DeviceNetSlave", NoPage,
-         true, false},
+        {9, "deviceBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dns"), 9, Shown::WhenOn, "DeviceNetSlave",
+         create<DeviceNetSlaverSetting>, true, false},
         {10, "mtcpMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mbc"), 3, Shown::WhenOn, "ModbusTcpMaster",
          NoPage, true, false},
         {11, "eipMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eim"), 10, Shown::WhenOn, "EtherNetIPMaster",
@@ -49,7 +51,7 @@ const std::array<Entry, PageCount>& entries()
         {12, "pnmBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pnm"), 11, Shown::WhenOn, "ProfinetMaster", NoPage,
          true, false},
         {13, "devicemBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dnm"), 12, Shown::WhenOn, "DeviceNetMaster",
-         NoPage, true, false},
+         create<DeviceNetMasterSetting>, true, false},
         {14, "btn_pfss", QT_TRANSLATE_NOOP("FbMainWidget", "Pfss"), 13, Shown::WithProfisafe, NoBus, NoPage,
          false, false},
         {15, "btn_mtcp", QT_TRANSLATE_NOOP("FbMainWidget", "Mtcp"), 2, Shown::Always, NoBus, NoPage, false,

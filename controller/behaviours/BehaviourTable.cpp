@@ -1,6 +1,7 @@
 #include "BehaviourTable.h"
 
 #include "ControllerClock.h"
+#include "DeviceNetMaster.h"
 #include "FieldbusManager.h"
 #include "LinkStates.h"
 
@@ -19,6 +20,7 @@ constexpr Maker Makers[] = {
     make<FieldbusManager>,
     make<ControllerClock>,
     make<LinkStates>,
+    make<DeviceNetMaster>,
 };
 
 } // namespace
