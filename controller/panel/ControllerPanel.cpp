@@ -1,5 +1,6 @@
 #include "ControllerPanel.h"
 
+#include "DeviceNetTab.h"
 #include "FaultTab.h"
 #include "LinkTab.h"
 #include "LogTab.h"
@@ -25,6 +26,7 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
 
     addTab(new RobotTab(controller), QStringLiteral("robotTab"), tr("Robot"));
     addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
+    addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
     addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
     addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
     addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));

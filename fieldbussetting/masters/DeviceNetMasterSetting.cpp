@@ -27,16 +27,16 @@ constexpr TableColumn Columns[] = {
     {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "VENDOR"), 106},
     {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "PROD"), 86},
     {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "REVISION"), 116},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "CFG_FLAG"), 76},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "CONNECT"), 118},
+    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "CFG_FLAG"), 74},
+    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "CONNECT"), 120},
 };
 static_assert(std::size(Columns) == List::ColumnCount);
 
 constexpr int HeaderHeight = 35;
 constexpr int RowHeight = 40;
-// "Disconnected::12" and "CFG_FLAG" are wider than what the other columns leave: they are set narrower rather
-// than smaller.
-constexpr int NarrowStretch = 75; // per cent
+// Captions and states are wider than their columns: they are set narrower rather than smaller.
+constexpr int CaptionStretch = 75; // per cent
+constexpr int StateStretch = 70;
 
 constexpr double HighestStation = 63;
 constexpr double ShortestScan = 1; // ms
@@ -59,6 +59,13 @@ const char* refusalText(List::Verdict verdict)
         break;
     }
     return nullptr;
+}
+
+QFont stretched(int percent)
+{
+    QFont font;
+    font.setStretch(percent);
+    return font;
 }
 
 // A value that the combo does not offer leaves it as it is.
@@ -92,13 +99,10 @@ void DeviceNetMasterSetting::buildTable()
     table->verticalHeader()->hide();
     table->horizontalHeader()->setFixedHeight(HeaderHeight);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    QFont narrow;
-    narrow.setStretch(NarrowStretch);
+    table->horizontalHeader()->setStretchLastSection(true); // without a scroll bar
+    table->horizontalHeader()->setFont(stretched(CaptionStretch));
     for (int column = 0; column < List::ColumnCount; ++column) {
-        auto* header = new QTableWidgetItem(tr(Columns[column].caption));
-        if (column >= List::CfgFlag)
-            header->setFont(narrow);
-        table->setHorizontalHeaderItem(column, header);
+        table->setHorizontalHeaderItem(column, new QTableWidgetItem(tr(Columns[column].caption)));
         table->setColumnWidth(column, Columns[column].width);
     }
     connect(table, &QTableWidget::cellClicked, this, &DeviceNetMasterSetting::slotDeviceTableClicked);
@@ -162,9 +166,7 @@ void DeviceNetMasterSetting::showRow(int row)
             item->setTextAlignment(Qt::AlignCenter);
             table->setItem(row, column, item);
         }
-        QFont narrow;
-        narrow.setStretch(NarrowStretch);
-        table->item(row, List::Connect)->setFont(narrow);
+        table->item(row, List::Connect)->setFont(stretched(StateStretch));
     }
     for (int column = 0; column < List::Connect; ++column)
         table->item(row, column)->setText(m_list.text(row, column));

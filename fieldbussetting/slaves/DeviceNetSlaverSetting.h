@@ -35,7 +35,7 @@ private:
 
     std::unique_ptr<Ui::DeviceNetSlaverSetting> ui;
     std::optional<LinkLight> m_light;
-    QTimer m_handshake;
+    QTimer m_handshake{this};
     QString m_acceptedMacId; ///< comes back when another one is refused
     int m_communicationState = 0;
     int m_polls = 0;     ///< of the handshake that runs

@@ -50,9 +50,14 @@ private:
     bool visitNumericKeyboard();
     bool visitLogIn();
     bool visitPanel();
+    bool visitDeviceNetSlave();
+    bool visitDeviceNetMasterEditing();
     bool visitExit();
 
     bool openPage(const QString& button);
+    bool openHiddenPage(const QString& button);
+    bool leave();
+    bool reopen();
     bool pictureOfDialog(const QString& name, const QString& button);
     bool pressAndSettle(QWidget* target);
     bool settle();
