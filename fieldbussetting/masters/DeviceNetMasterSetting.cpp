@@ -34,9 +34,10 @@ static_assert(std::size(Columns) == List::ColumnCount);
 
 constexpr int HeaderHeight = 35;
 constexpr int RowHeight = 40;
-// Captions and states are wider than their columns: they are set narrower rather than smaller.
+// What is wider than its column is set narrower rather than smaller.
 constexpr int CaptionStretch = 75; // per cent
-constexpr int StateStretch = 70;
+constexpr int FlagStretch = 85;    // "0x4444"
+constexpr int StateStretch = 68;   // "Disconnected::12"
 
 constexpr double HighestStation = 63;
 constexpr double ShortestScan = 1; // ms
@@ -105,7 +106,9 @@ void DeviceNetMasterSetting::buildTable()
         table->setHorizontalHeaderItem(column, new QTableWidgetItem(tr(Columns[column].caption)));
         table->setColumnWidth(column, Columns[column].width);
     }
-    connect(table, &QTableWidget::cellClicked, this, &DeviceNetMasterSetting::slotDeviceTableClicked);
+    // Queued: the page may go while the keyboard is open, and a table does not survive that in its signal.
+    connect(table, &QTableWidget::cellClicked, this, &DeviceNetMasterSetting::slotDeviceTableClicked,
+            Qt::QueuedConnection);
 }
 
 // The settings reach the record as they are made; what is filled in from a file does not come back.
@@ -166,6 +169,7 @@ void DeviceNetMasterSetting::showRow(int row)
             item->setTextAlignment(Qt::AlignCenter);
             table->setItem(row, column, item);
         }
+        table->item(row, List::CfgFlag)->setFont(stretched(FlagStretch));
         table->item(row, List::Connect)->setFont(stretched(StateStretch));
     }
     for (int column = 0; column < List::Connect; ++column)
@@ -201,14 +205,19 @@ void DeviceNetMasterSetting::on_btn_delete_clicked()
 
 void DeviceNetMasterSetting::slotDeviceTableClicked(int row, int column)
 {
-    if (!m_editing || !List::isEditable(column))
+    // Presses may have queued up: one keyboard at a time, on a row that is still there.
+    if (!m_editing || m_keyboardOpen || row >= m_list.count() || !List::isEditable(column))
         return;
     m_row = row;
     m_column = column;
     const List::Range range = List::rangeOf(column);
     const QString caption = tr("Device %1: %2").arg(row + 1).arg(tr(Columns[column].caption));
+    const QPointer<DeviceNetMasterSetting> self(this);
+    m_keyboardOpen = true;
     ZelExecNumericKeyboard(m_list.number(row, column), range.minimum, range.maximum,
                            range.isHexadecimal ? "%lx" : "%li", caption, this, SLOT(slotSetValue(double)));
+    if (self)
+        m_keyboardOpen = false;
 }
 
 void DeviceNetMasterSetting::slotSetValue(double value)

@@ -44,6 +44,7 @@ private:
     std::unique_ptr<Ui::DeviceNetMasterSetting> ui;
     DeviceNetScanList m_list;
     bool m_editing = false;
+    bool m_keyboardOpen = false;
     int m_row = 0; ///< of the cell that is edited
     int m_column = 0;
 };

@@ -175,6 +175,7 @@ void TestDeviceNetSlave::savesWhatIsEntered()
     PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
     QVERIFY(pendant.press("btn_save"));
     QTRY_COMPARE(pendant.controller().traffic().restartRequests(), 1);
+    QTRY_VERIFY(!pendant.isOpen()); // the pendant restarts as well
     QCOMPARE(pendant.messages(),
              QStringList({SaveQuestion, SaveQuestion, RestartQuestion, SaveQuestion, RestartQuestion}));
 }
