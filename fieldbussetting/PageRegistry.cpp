@@ -2,6 +2,8 @@
 
 #include "BusSettingWidget.h"
 #include "ConfigWidget.h"
+#include "DeviceNetMasterSetting.h"
+#include "DeviceNetSlaverSetting.h"
 #include "EcatMasterSettingWidget.h"
 #include "EipMasterSettingWidget.h"
 #include "EtherCatSettingWidget.h"
@@ -54,8 +56,8 @@ const std::array<Entry, PageCount>& entries()
          create<ConfigWidget>, true, false},
         {8, "etherCatMBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Ecm"), 8, Shown::WhenOn, "EtherCatMaster",
          create<EcatMasterSettingWidget>, true, false},
-        {9, "deviceBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dns"), 9, Shown::WhenOn, "DeviceNetSlave", NoPage,
-         true, false},
+        {9, "deviceBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dns"), 9, Shown::WhenOn, "DeviceNetSlave",
+         create<DeviceNetSlaverSetting>, true, false},
         {10, "mtcpMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mbc"), 3, Shown::WhenOn, "ModbusTcpMaster",
          create<MtcpMasterSetting>, true, false},
         {11, "eipMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eim"), 10, Shown::WhenOn, "EtherNetIPMaster",
@@ -63,7 +65,7 @@ const std::array<Entry, PageCount>& entries()
         {12, "pnmBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pnm"), 11, Shown::WhenOn, "ProfinetMaster",
          create<PfnMasterSetting>, true, false},
         {13, "devicemBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dnm"), 12, Shown::WhenOn, "DeviceNetMaster",
-         NoPage, true, false},
+         create<DeviceNetMasterSetting>, true, false},
         {14, "btn_pfss", QT_TRANSLATE_NOOP("FbMainWidget", "Pfss"), 13, Shown::WithProfisafe, NoBus,
          create<ProfiSAFESlaveWidget>, false, false},
         {15, "btn_mtcp", QT_TRANSLATE_NOOP("FbMainWidget", "Mtcp"), 2, Shown::Always, NoBus,

@@ -1,6 +1,7 @@
 #include "BehaviourTable.h"
 
 #include "ControllerClock.h"
+#include "DeviceNetMaster.h"
 #include "FieldbusManager.h"
 #include "FinsClient.h"
 #include "LinkStates.h"
@@ -31,6 +32,7 @@ constexpr Maker Makers[] = {
     make<MasterSlaveStates>,
     make<ModbusSlave>,
     make<ModbusMaster>,
+    make<DeviceNetMaster>,
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "ControllerPanel.h"
 
 #include "DeviceTab.h"
+#include "DeviceNetTab.h"
 #include "FaultTab.h"
 #include "HostLinkTab.h"
 #include "LinkTab.h"
@@ -30,6 +31,7 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
     addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
     addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
     addTab(new SlaveTab(controller), QStringLiteral("slaveTab"), tr("Slaves"));
+    addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
     addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
     addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
     addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));

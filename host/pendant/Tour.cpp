@@ -78,9 +78,11 @@ const Tour::Station Tour::Stations[] = {
     {"mes", &Tour::visitMes},
     {"fins", &Tour::visitFins},
     {"modbus-master", &Tour::visitModbusMaster},
-    {"slave-states", &Tour::visitSlaveStates},
     {"mapping", &Tour::visitMapping},
+    {"devicenet-slave", &Tour::visitDeviceNetSlave},
+    {"devicenet-master-editing", &Tour::visitDeviceNetMasterEditing},
     {"exit", &Tour::visitExit},
+    {"slave-states", &Tour::visitSlaveStates},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
@@ -289,16 +291,57 @@ bool Tour::reportMappingTabs(const QString& mode)
            pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RO")));
 }
 
+bool Tour::visitDeviceNetSlave()
+{
+    constexpr double Linked = 32;
+    m_subject.controller.writeVariable(QStringLiteral("ifidbus.commun_state"), 0, Linked);
+    return openHiddenPage(QStringLiteral("deviceBtn")) && report(QStringLiteral("devicenet-slave"));
+}
+
+bool Tour::visitDeviceNetMasterEditing()
+{
+    const QString path = QStringLiteral("/fa/dnmst0.cfg");
+    constexpr int Devices = 16;
+    QByteArray before;
+    if (!m_subject.controller.fetchFile(path, before))
+        return fail(tr("%1 cannot be fetched").arg(path));
+    const auto store = [this, &path](const QByteArray& file, int devices) {
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_save_config"), 0, 1.0);
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_slave_num"), 0, devices);
+        return m_subject.controller.storeFile(path, file);
+    };
+    QByteArray full = before.left(before.indexOf(";=====")); // the header, and a long list below it
+    for (int device = 1; device <= Devices; ++device) {
+        full += QStringLiteral(";===================\n;   Device %1 MAC ID %2\nBLOCK_TO_RBX 0 0 %1\n"
+                               "BLOCK_FROM_RBX 0 0 4\nVENDOR_ID %3\nPROD_CODE %4\nREVISION 257\n")
+                    .arg(device)
+                    .arg(4 * device + 1)
+                    .arg(-4096 * device + 1)
+                    .arg(100 + device)
+                    .toLatin1();
+    }
+    m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_link_state"), 0, 1.0);
+    // The page fetches when it is built, so the application is opened anew.
+    const bool shown = store(full, Devices) && reopen() && openPage(QStringLiteral("devicemBtn")) &&
+                       pressAndSettle(find(QStringLiteral("btn_edit"))) &&
+                       report(QStringLiteral("devicenet-master-editing"));
+    return store(before, before.count(";   Device ")) && reopen() && shown;
+}
+
 bool Tour::visitExit()
 {
     // Opened again from the home screen, so that a second life of the application is seen as well.
-    for (int round = 0; round < 2; ++round) {
-        if (!pressAndSettle(find(QStringLiteral("exitBtn"))) || find(QStringLiteral("menusGroupBox")))
-            return false;
-        if (round == 0 && !pressAndSettle(find(QStringLiteral("applicationTile"))))
-            return false;
-    }
-    return report(QStringLiteral("home-again"));
+    return reopen() && leave() && report(QStringLiteral("home-again"));
+}
+
+bool Tour::leave()
+{
+    return pressAndSettle(find(QStringLiteral("exitBtn"))) && !find(QStringLiteral("menusGroupBox"));
+}
+
+bool Tour::reopen()
+{
+    return leave() && pressAndSettle(find(QStringLiteral("applicationTile")));
 }
 
 // What the slaves' pages show beside their settings: no port with the EtherNet/IP slave's address, and a
@@ -335,6 +378,16 @@ bool Tour::visitSlaveStates()
 bool Tour::openPage(const QString& button)
 {
     return pressAndSettle(find(button)) && !pageClass().isEmpty();
+}
+
+// The page of a role that is switched off has no button to be seen.
+bool Tour::openHiddenPage(const QString& button)
+{
+    auto* hidden = m_subject.window.findChild<QAbstractButton*>(button);
+    if (!hidden)
+        return false;
+    hidden->click();
+    return settle() && !pageClass().isEmpty();
 }
 
 bool Tour::pictureOfDialog(const QString& name, const QString& button)

@@ -55,11 +55,16 @@ private:
     bool visitFins();
     bool visitModbusMaster();
     bool visitMapping();
+    bool visitDeviceNetSlave();
+    bool visitDeviceNetMasterEditing();
     bool visitExit();
     bool visitSlaveStates();
 
     bool openPage(const QString& button);
     bool reportMappingTabs(const QString& mode);
+    bool openHiddenPage(const QString& button);
+    bool leave();
+    bool reopen();
     bool pictureOfDialog(const QString& name, const QString& button);
     bool pressAndSettle(QWidget* target);
     bool type(const QString& edit, const QString& text);
