@@ -32,7 +32,7 @@ RegisterServer::RegisterServer(const std::vector<RegisterBlock>& blocks, int uni
 {
     setServerAddress(unit);
     for (const RegisterBlock& block : blocks) {
-        const auto end = static_cast<std::size_t>(block.first + block.count);
+        const auto end = static_cast<std::size_t>(block.first) + static_cast<std::size_t>(block.count);
         m_access.resize(std::max(m_access.size(), end), None);
         std::fill_n(m_access.begin() + block.first, block.count, block.writable ? ReadAndWrite : Read);
     }

@@ -112,31 +112,29 @@ bool ModbusMaster::isAutomatic() const
     return parts().variables.value(QLatin1String(Automatic)) != 0.0;
 }
 
+bool ModbusMaster::isInService() const
+{
+    return m_controllerUp && parts().roles.isOn(role()) && parts().links.isPlugged(role());
+}
+
 // Brings the connection in line with what it hangs on.
 void ModbusMaster::follow()
 {
-    if (!m_controllerUp || !parts().roles.isOn(role()) || !parts().links.isPlugged(role()))
+    if (!isInService())
         hangUp();
     else if (isAutomatic() && !m_trying && !m_connected)
         begin();
 }
 
-bool ModbusMaster::canTry()
-{
-    if (!m_controllerUp || !parts().roles.isOn(role()) || !parts().links.isPlugged(role()))
-        return false;
-    if (!m_settings) {
-        note(QStringLiteral("the settings make no sense"));
-        return false;
-    }
-    return true;
-}
-
 void ModbusMaster::begin()
 {
     hangUp();
-    if (!canTry())
+    if (!isInService())
         return;
+    if (!m_settings) {
+        note(QStringLiteral("the settings make no sense"));
+        return;
+    }
     m_trying = true;
     later(
         Patience, m_settings->timeoutMs, [this] { giveUp(); }, Pace::Real);

@@ -36,7 +36,7 @@ private:
     void loadSettings();
     void follow();
     bool isAutomatic() const;
-    bool canTry();
+    bool isInService() const;
     void begin();
     void connectToSlave();
     void proveUnit();

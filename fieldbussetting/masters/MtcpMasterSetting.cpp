@@ -176,7 +176,7 @@ void MtcpMasterSetting::on_btn_save_clicked()
     tell(MsgBox::Information, tr("Successfully saved."));
 }
 
-void MtcpMasterSetting::slotCheckIpFormat(QString text)
+void MtcpMasterSetting::slotCheckIpFormat(const QString& text)
 {
     const QString address = text.trimmed();
     if (BusFileDataManager::checkIPv4Format(address))
@@ -185,7 +185,7 @@ void MtcpMasterSetting::slotCheckIpFormat(QString text)
         ui->le_masterIp->setText(m_goodIp);
 }
 
-void MtcpMasterSetting::slotCheckPortEffect(QString text)
+void MtcpMasterSetting::slotCheckPortEffect(const QString& text)
 {
     // The list is empty: the port is another machine's, of which nothing is known. The check is kept for the
     // day on which something is.

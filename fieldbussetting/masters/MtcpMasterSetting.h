@@ -28,9 +28,9 @@ public:
 private slots:
     void on_btn_save_clicked();
     /// Puts the last good address back when `text` is none.
-    void slotCheckIpFormat(QString text);
+    void slotCheckIpFormat(const QString& text);
     /// Puts the last good port back when `text` is the port of another service.
-    void slotCheckPortEffect(QString text);
+    void slotCheckPortEffect(const QString& text);
     void slotGetFileToUi();
     void on_btn_connect_clicked();
     void on_cBox_autoCon_clicked(bool checked);
