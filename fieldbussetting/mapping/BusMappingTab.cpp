@@ -169,37 +169,40 @@ int BusMappingTab::tableNumber() const
     return numberOf(m_bus, static_cast<Direction>(m_directions->checkedId()));
 }
 
-void BusMappingTab::showRows(const std::vector<MappingModel::Row>& rows)
+void BusMappingTab::setRowCount(int count)
 {
-    const int count = static_cast<int>(rows.size());
-    if (m_table->rowCount() != count) {
-        m_table->setRowCount(count);
-        for (int row = 0; row < count; ++row) {
-            for (int column = 0; column < MappingModel::ColumnCount; ++column)
-                m_table->setItem(row, column, makeItem(column));
-            m_table->setVerticalHeaderItem(row, new QTableWidgetItem);
-        }
-    }
-    int number = 0;
+    if (m_table->rowCount() == count)
+        return;
+    m_table->setRowCount(count);
     for (int row = 0; row < count; ++row) {
-        const MappingModel::Row& shown = rows[static_cast<std::size_t>(row)];
         for (int column = 0; column < MappingModel::ColumnCount; ++column)
-            setText(m_table->item(row, column), shown.cells[static_cast<std::size_t>(column)]);
-        if (m_table->isRowHidden(row) != shown.isHidden)
-            m_table->setRowHidden(row, shown.isHidden);
-        if (!shown.isHidden)
-            setText(m_table->verticalHeaderItem(row), QString::number(++number));
+            m_table->setItem(row, column, makeItem(column));
+        m_table->setVerticalHeaderItem(row, new QTableWidgetItem);
     }
 }
 
-void BusMappingTab::mark(const std::vector<std::pair<int, int>>& cells)
+void BusMappingTab::showTable(const MappingModel& model, bool editing)
 {
+    const int number = tableNumber();
+    const std::vector<MappingModel::Row> rows = model.rowsOf(number);
+    setRowCount(static_cast<int>(rows.size()));
     QItemSelection marked;
-    for (const auto& [row, column] : cells) {
-        const QModelIndex index = m_table->model()->index(row, column);
-        marked.select(index, index);
+    int rowNumber = 0; // of the rows on view
+    int row = 0;
+    for (const MappingModel::Row& shown : rows) {
+        for (int column = 0; column < MappingModel::ColumnCount; ++column) {
+            setText(m_table->item(row, column), shown.cells.at(static_cast<std::size_t>(column)));
+            if (editing && model.pressed(number, shown, column).kind != MappingModel::Press::Nothing)
+                marked.append(QItemSelectionRange(m_table->model()->index(row, column)));
+        }
+        if (m_table->isRowHidden(row) != shown.isHidden)
+            m_table->setRowHidden(row, shown.isHidden);
+        if (!shown.isHidden)
+            setText(m_table->verticalHeaderItem(row), QString::number(++rowNumber));
+        ++row;
     }
-    m_table->selectionModel()->select(marked, QItemSelectionModel::ClearAndSelect);
+    if (!marked.isEmpty() || m_table->selectionModel()->hasSelection())
+        m_table->selectionModel()->select(marked, QItemSelectionModel::ClearAndSelect);
 }
 
 void BusMappingTab::takeTips(QLabel* tips)

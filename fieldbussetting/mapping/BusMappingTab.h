@@ -29,15 +29,15 @@ public:
     int tableNumber() const;
     QTableWidget* table() const { return m_table; }
 
-    /// Brings the table to these rows; what is the same is not touched.
-    void showRows(const std::vector<MappingModel::Row>& rows);
-    /// Marks the cells of the rows on view that `isMarked` picks, and no others.
-    void mark(const std::vector<std::pair<int, int>>& cells);
+    /// Brings the table to what the model says, and marks what can be entered while it is edited. What is the
+    /// same is not touched.
+    void showTable(const MappingModel& model, bool editing);
     /// Puts the limits of the table beside its directions. A label can be in one tab only, the one on view.
     void takeTips(QLabel* tips);
 
 private:
     void buildTable();
+    void setRowCount(int count);
 
     Mapping::Bus m_bus;
     QButtonGroup* m_directions;

@@ -41,13 +41,13 @@ protected:
 private slots:
     void checkBtnsClicxkedSlot(int);
     void onTabWidgetBuscurrentChangedSlots(int index);
-    void onMtcpEdit(int row, int column) { editCell(row, column); }
-    void onEthcatEdit(int row, int column) { editCell(row, column); }
-    void onEipEdit(int row, int column) { editCell(row, column); }
-    void onPfnEdit(int row, int column) { editCell(row, column); }
-    void onDnsEdit(int row, int column) { editCell(row, column); }
-    void onMbcEdit(int row, int column) { editCell(row, column); }
-    void onDnmEdit(int row, int column) { editCell(row, column); }
+    void onMtcpEdit(int row, int column) { editCell(Mapping::Bus::MtcpSlave, row, column); }
+    void onEthcatEdit(int row, int column) { editCell(Mapping::Bus::EthcatSlave, row, column); }
+    void onEipEdit(int row, int column) { editCell(Mapping::Bus::EipSlave, row, column); }
+    void onPfnEdit(int row, int column) { editCell(Mapping::Bus::PfnSlave, row, column); }
+    void onDnsEdit(int row, int column) { editCell(Mapping::Bus::DnSlave, row, column); }
+    void onMbcEdit(int row, int column) { editCell(Mapping::Bus::MtcpMaster, row, column); }
+    void onDnmEdit(int row, int column) { editCell(Mapping::Bus::DnMaster, row, column); }
     void slotSetValue(double value) { enterQuantity(value); }
     void slotMbcSetValue(double value) { enterQuantity(value); }
     void slotMbcSetAddr(double value) { enterStart(value); }
@@ -61,19 +61,26 @@ private slots:
 private:
     void buildTabs();
     void enableTabs();
+    static QStringList switchedOnBuses();
     BusMappingTab* currentTab() const;
     /// Fills the table on view and its tips.
     void showCurrent();
     /// Fills the tables of all tabs.
     void showAll();
-    void fill(BusMappingTab* tab);
 
     void setEditing(bool editing);
-    void editCell(int row, int column);
+    void editCell(Mapping::Bus bus, int row, int column);
+    /// Opens the keyboard or says why not. The page may be gone afterwards.
+    void openEntry(Mapping::Bus bus, const MappingModel::Row& row, const MappingModel::Press& press);
     void enterQuantity(double value);
     void enterStart(double value);
     void take(const MappingModel::Entry& entry);
+    /// The page may be gone afterwards.
+    void refuse(const Mapping::Message& message);
 
+    /// Sets bits of "ifidbus.xml_update_state" beside those that are set.
+    static void addUpdateBits(int bits);
+    static void dropUpdateBits(int bits);
     void save();
     void endWaiting();
     void restartController();
@@ -84,13 +91,14 @@ private:
     std::vector<BusMappingTab*> m_tabs;
     bool m_loaded = false;
     bool m_editing = false;
+    bool m_entering = false;                // a keyboard or a refusal is open
     int m_editedTable = 0;                  // the one of the cell that was pressed last
     BusVariableType m_editedType = BusBool; // ... and its row's
 
     // A save under way: from its confirmation until the operator was told how it ended.
     std::optional<Busy> m_busy;
     WaitNotice m_notice;
-    QTimer m_timer;
+    QTimer m_timer{this};
     int m_ticks = 0;
     bool m_waiting = false; // for the controller's acknowledgement
 };
