@@ -1,7 +1,5 @@
 #include "MasterSlaveList.h"
 
-#include "FingerScroll.h"
-
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
@@ -54,7 +52,6 @@ MasterSlaveList::MasterSlaveList(const MasterSlaveRow::Names& names, QWidget* pa
     m_scroll->setWidgetResizable(true);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setWidget(content);
-    scrollByFinger(m_scroll);
     // The captions stay above their columns when the scroll bar comes.
     QScrollBar* bar = m_scroll->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, m_captions, [this, bar](int /*minimum*/, int maximum) {

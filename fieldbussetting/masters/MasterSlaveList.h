@@ -7,7 +7,7 @@
 
 class QScrollArea;
 
-/// The slave positions of a master under their captions; what does not fit scrolls by finger. It asks for no
+/// The slave positions of a master under their captions; what does not fit scrolls. It asks for no
 /// more height than the positions in sight need.
 class MasterSlaveList : public QWidget
 {

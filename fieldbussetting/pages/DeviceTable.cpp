@@ -1,7 +1,5 @@
 #include "DeviceTable.h"
 
-#include "FingerScroll.h"
-
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -69,7 +67,7 @@ DeviceTable::DeviceTable(QTableWidget* table)
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionMode(QAbstractItemView::NoSelection);
     m_table->setFocusPolicy(Qt::NoFocus);
-    scrollByFinger(m_table);
+    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel); // not a row at a time under a finger
     // A glove that misses the box still meets its cell.
     QObject::connect(m_table, &QTableWidget::cellClicked, m_table, [this](int row, int clickedColumn) {
         if (clickedColumn == ActivateColumn && box(row))

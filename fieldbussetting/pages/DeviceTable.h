@@ -15,7 +15,7 @@ class DeviceTable
 public:
     static constexpr int RowCount = OverrideRecord::MaxEntries;
 
-    /// Columns, row heights, finger scrolling; the size is the form's business.
+    /// Columns, row heights, scrolling; the size is the form's business.
     explicit DeviceTable(QTableWidget* table);
     DeviceTable(const DeviceTable&) = delete;
     DeviceTable& operator=(const DeviceTable&) = delete;

@@ -63,7 +63,8 @@ void TestEtherCatMaster::savesWithTheServoOn()
 
     PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
     QVERIFY(pendant.press("saveBt_Ecat"));
-    QTRY_COMPARE(pendant.controller().traffic().restartRequests(), 1);
+    QTRY_VERIFY(!pendant.isOpen());
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 1);
 }
 
 void TestEtherCatMaster::savesNothing_data()
@@ -125,7 +126,8 @@ void TestEtherCatMaster::transferFaults()
 
     pendant.controller().faults().clearAll();
     QVERIFY(pendant.press("saveBt_Ecat"));
-    QTRY_COMPARE(pendant.controller().traffic().restartRequests(), 1);
+    QTRY_VERIFY(!pendant.isOpen());
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 1);
 }
 
 void TestEtherCatMaster::userLevelDrops_data()
