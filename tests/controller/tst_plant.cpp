@@ -1,6 +1,7 @@
 #include "ControllerPanel.h"
 #include "FileStore.h"
 #include "MappingCheck.h"
+#include "NetPortsFile.h"
 #include "SimulatedController.h"
 #include "TestMain.h"
 
@@ -346,6 +347,18 @@ void TestPlant::panelFollowsAndDrives()
     QVERIFY(controller.storeFile(QStringLiteral("/fa/dns0.cfg"), "x"));
     QVERIFY(!controller.storeFile(QStringLiteral("/fa/pfb.cfg"), "x"));
     QTRY_COMPARE(faults->item(Faults::SendFails, 2)->text(), QStringLiteral("0"));
+
+    tabs->setCurrentWidget(panel.findChild<QWidget*>("deviceTab"));
+    auto* const bits = panel.findChild<QTableWidget*>(QStringLiteral("profisafeBits"));
+    bits->item(9, 1)->setCheckState(Qt::Checked);
+    QCOMPARE(int(controller.readVariable(QStringLiteral("io_man.profisafe_ext_ro"), 9)) & 2, 2);
+    auto* const address = panel.findChild<QLineEdit*>(QStringLiteral("ETH3Ip"));
+    QCOMPARE(address->text(), readNetPort(controller.files(), QStringLiteral("ETH3")).ip);
+    address->clear();
+    emit address->editingFinished();
+    QCOMPARE(readNetPort(controller.files(), QStringLiteral("ETH3")).ip, QString());
+    QVERIFY(!readNetPort(controller.files(), QStringLiteral("ETH3")).netmask.isEmpty());
+    QVERIFY(!writeNetPort(controller.files(), QStringLiteral("ETH4"), {}));
 }
 
 PENDANT_TEST_MAIN(TestPlant)
