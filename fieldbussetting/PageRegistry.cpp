@@ -2,7 +2,13 @@
 
 #include "DeviceNetMasterSetting.h"
 #include "DeviceNetSlaverSetting.h"
+#include "EtherNetSettingWidget.h"
+#include "FinsTcpSettingWidget.h"
 #include "HeartbeatDetectionWidget.h"
+#include "MesSettingWidget.h"
+#include "MtcpSlaveSetting.h"
+#include "Pfb_PfnSettingWidget.h"
+#include "ProfiSAFESlaveWidget.h"
 
 #include <QCoreApplication>
 
@@ -26,14 +32,15 @@ const std::array<Entry, PageCount>& entries()
 {
     // id, button, caption, row, shown, bus, page, blocks input, needs free mode
     static constexpr std::array<Entry, PageCount> table = {{
-        {0, "mesBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mes"), 1, Shown::WhenOn, "Mes", NoPage, true, false},
-        {1, "pfbPfnBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pfn"), 4, Shown::WhenOn, "ProfinetSlave", NoPage,
-         true, true},
-        {2, NoButton, "", 0, Shown::Never, NoBus, NoPage, false, false},
+        {0, "mesBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mes"), 1, Shown::WhenOn, "Mes",
+         create<MesSettingWidget>, true, false},
+        {1, "pfbPfnBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pfn"), 4, Shown::WhenOn, "ProfinetSlave",
+         create<Pfb_PfnSettingWidget>, true, true},
+        {2, NoButton, "", 0, Shown::Never, NoBus, create<FinsTcpSettingWidget>, false, false},
         {3, "etherCatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "EthCat"), 5, Shown::WhenOn, "EtherCatSlave",
          NoPage, true, false},
         {4, "etherNetBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eip"), 7, Shown::WhenOn, "EtherNetIPSlave",
-         NoPage, true, true},
+         create<EtherNetSettingWidget>, true, true},
         {5, "busSetting", QT_TRANSLATE_NOOP("FbMainWidget", "BusSetting"), 0, Shown::Always, NoBus, NoPage,
          true, false},
         {6, "heartbeatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Heartbeat"), 14, Shown::Always, NoBus,
@@ -52,10 +59,10 @@ const std::array<Entry, PageCount>& entries()
          true, false},
         {13, "devicemBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dnm"), 12, Shown::WhenOn, "DeviceNetMaster",
          create<DeviceNetMasterSetting>, true, false},
-        {14, "btn_pfss", QT_TRANSLATE_NOOP("FbMainWidget", "Pfss"), 13, Shown::WithProfisafe, NoBus, NoPage,
-         false, false},
-        {15, "btn_mtcp", QT_TRANSLATE_NOOP("FbMainWidget", "Mtcp"), 2, Shown::Always, NoBus, NoPage, false,
-         false},
+        {14, "btn_pfss", QT_TRANSLATE_NOOP("FbMainWidget", "Pfss"), 13, Shown::WithProfisafe, NoBus,
+         create<ProfiSAFESlaveWidget>, false, false},
+        {15, "btn_mtcp", QT_TRANSLATE_NOOP("FbMainWidget", "Mtcp"), 2, Shown::Always, NoBus,
+         create<MtcpSlaveSetting>, false, false},
     }};
     return table;
 }

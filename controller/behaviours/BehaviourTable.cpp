@@ -3,7 +3,10 @@
 #include "ControllerClock.h"
 #include "DeviceNetMaster.h"
 #include "FieldbusManager.h"
+#include "FinsClient.h"
 #include "LinkStates.h"
+#include "MesServer.h"
+#include "ProfisafeDevice.h"
 
 namespace {
 
@@ -17,10 +20,8 @@ std::unique_ptr<Behaviour> make(ControllerParts& parts)
 
 // The manager first: the others come up with the roles that it switched on.
 constexpr Maker Makers[] = {
-    make<FieldbusManager>,
-    make<ControllerClock>,
-    make<LinkStates>,
-    make<DeviceNetMaster>,
+    make<FieldbusManager>, make<ControllerClock>, make<LinkStates>,      make<MesServer>,
+    make<FinsClient>,      make<ProfisafeDevice>, make<DeviceNetMaster>,
 };
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "ControllerPanel.h"
 
 #include "DeviceNetTab.h"
+#include "DeviceTab.h"
 #include "FaultTab.h"
+#include "HostLinkTab.h"
 #include "LinkTab.h"
 #include "LogTab.h"
 #include "RobotTab.h"
@@ -27,9 +29,11 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
     addTab(new RobotTab(controller), QStringLiteral("robotTab"), tr("Robot"));
     addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
     addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
+    addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
     addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
     addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
     addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));
+    addTab(new DeviceTab(controller), QStringLiteral("deviceTab"), tr("Devices"));
 
     connect(&m_timer, &QTimer::timeout, this, &ControllerPanel::refresh);
     connect(m_tabs, &QTabWidget::currentChanged, this, &ControllerPanel::refresh);

@@ -5,22 +5,38 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace {
 
-// The box is the page's child, so that it goes when the page does; it may be gone before `exec` returns.
-int runBox(MsgBox::Kind kind, const QString& text, QWidget* page, MsgBox::Buttons buttons)
-{
-    const QPointer<MsgBox> box(new MsgBox(kind, text, page, buttons));
-    const int result = box->exec();
-    delete box.data();
-    return result;
-}
+QWidget* makerOfNextPage = nullptr;
 
 } // namespace
 
+class PageBase::Presence
+{
+public:
+    explicit Presence(PageBase* page)
+        : m_page(page)
+    {
+    }
+    /// A page that is not put anywhere yet is being made.
+    explicit operator bool() const { return m_page && (m_page->parentWidget() || m_page->m_maker); }
+
+private:
+    QPointer<PageBase> m_page;
+};
+
 PageBase::PageBase(const char* className)
     : m_className(className)
+    , m_maker(std::exchange(makerOfNextPage, nullptr))
 {
+}
+
+PageBase* PageBase::make(PageBase* (*create)(), QWidget* maker)
+{
+    makerOfNextPage = maker;
+    return create();
 }
 
 PageBase::Busy::Busy(PageBase* page)
@@ -51,18 +67,27 @@ QString PageBase::translated(const char* text) const
     return QCoreApplication::translate(m_className, text);
 }
 
+// The box is the page's child, so that it goes when the page does; it may be gone before `exec` returns.
+// While the page is made nobody owns it, and the box is its maker's.
+PageBase::Answer PageBase::runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons)
+{
+    const Presence self(this);
+    if (!self)
+        return Answer::Gone;
+    const QPointer<MsgBox> box(new MsgBox(kind, text, parentWidget() ? this : m_maker.data(), buttons));
+    const int result = box->exec();
+    delete box.data();
+    return self ? static_cast<Answer>(result) : Answer::Gone;
+}
+
 PageBase::Answer PageBase::tell(MsgBox::Kind kind, const QString& text)
 {
-    const QPointer<PageBase> self(this);
-    const int result = runBox(kind, text, this, MsgBox::Ok);
-    return self ? static_cast<Answer>(result) : Answer::Gone;
+    return runBox(kind, text, MsgBox::Ok);
 }
 
 PageBase::Answer PageBase::ask(const QString& text, MsgBox::Buttons buttons)
 {
-    const QPointer<PageBase> self(this);
-    const int result = runBox(MsgBox::Information, text, this, buttons);
-    return self ? static_cast<Answer>(result) : Answer::Gone;
+    return runBox(MsgBox::Information, text, buttons);
 }
 
 Outcome PageBase::failed(const TransferTexts& texts, const char* text)
@@ -72,7 +97,7 @@ Outcome PageBase::failed(const TransferTexts& texts, const char* text)
 
 Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const TransferTexts& texts)
 {
-    const QPointer<PageBase> self(this);
+    const Presence self(this);
     const FileLocation& location = FileLocations::of(file);
     const bool fetched = lib()->getFileFromCtrl(location.local, location.controller);
     if (!self)
@@ -86,7 +111,7 @@ Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const
 
 Outcome PageBase::write(ConfigFile file, const FileOperation& operation, const TransferTexts& texts)
 {
-    const QPointer<PageBase> self(this);
+    const Presence self(this);
     Busy busy(this);
     const bool written = operation(FileLocations::of(file).local);
     if (!self)

@@ -71,9 +71,12 @@ const Tour::Station Tour::Stations[] = {
     {"numeric-keyboard", &Tour::visitNumericKeyboard},
     {"log-in", &Tour::visitLogIn},
     {"panel", &Tour::visitPanel},
+    {"mes", &Tour::visitMes},
+    {"fins", &Tour::visitFins},
     {"devicenet-slave", &Tour::visitDeviceNetSlave},
     {"devicenet-master-editing", &Tour::visitDeviceNetMasterEditing},
     {"exit", &Tour::visitExit},
+    {"slave-states", &Tour::visitSlaveStates},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
@@ -190,9 +193,14 @@ bool Tour::visitPanel()
 
 bool Tour::visitDeviceNetSlave()
 {
-    constexpr double Linked = 32;
-    m_subject.controller.writeVariable(QStringLiteral("ifidbus.commun_state"), 0, Linked);
-    return openHiddenPage(QStringLiteral("deviceBtn")) && report(QStringLiteral("devicenet-slave"));
+    constexpr int Linked = 32;
+    const QString name = QStringLiteral("ifidbus.commun_state");
+    const double before = m_subject.controller.readVariable(name, 0);
+    m_subject.controller.writeVariable(name, 0, static_cast<int>(before) | Linked);
+    const bool shown =
+        openHiddenPage(QStringLiteral("deviceBtn")) && report(QStringLiteral("devicenet-slave"));
+    m_subject.controller.writeVariable(name, 0, before);
+    return shown;
 }
 
 bool Tour::visitDeviceNetMasterEditing()
@@ -225,6 +233,39 @@ bool Tour::visitDeviceNetMasterEditing()
     return store(before, before.count(";   Device ")) && reopen() && shown;
 }
 
+bool Tour::visitMes()
+{
+    if (!openPage(QStringLiteral("mesBtn")) || !pressAndSettle(find(QStringLiteral("monitorButton"))))
+        return false;
+    // Whether the port is free is the machine's business; the picture is the same.
+    m_subject.controller.writeVariable(QStringLiteral("imes.tcp_server_active"), 0, 1.0);
+    bool seen = settle() && report(QStringLiteral("mes-active"));
+    m_subject.controller.writeVariable(QStringLiteral("imes.tcp_server_connected"), 0, 1.0);
+    seen = settle() && report(QStringLiteral("mes-connected")) && seen;
+    return pressAndSettle(find(QStringLiteral("monitorButton"))) && seen;
+}
+
+bool Tour::visitFins()
+{
+    constexpr int FinsPage = 2; // without a menu button
+    const auto set = [this](const char* variable, bool on) {
+        m_subject.controller.writeVariable(QStringLiteral("ifins_tcp.%1").arg(QLatin1String(variable)), 0,
+                                           on ? 1.0 : 0.0);
+    };
+    QWidget* menu = find(QStringLiteral("FbMainWidget"));
+    if (!menu || !QMetaObject::invokeMethod(menu, "slotMenuBtnsClicked", Q_ARG(int, FinsPage)) || !settle() ||
+        !report(QStringLiteral("fins-off")))
+        return false;
+    // The factory settings name a server that a simulated controller does not call.
+    bool seen =
+        pressAndSettle(find(QStringLiteral("enable_checkBox"))) && report(QStringLiteral("fins-error"));
+    set("error", false);
+    set("connected", true);
+    seen = settle() && report(QStringLiteral("fins-on")) && seen;
+    set("enable", false);
+    return settle() && seen;
+}
+
 bool Tour::visitExit()
 {
     // Opened again from the home screen, so that a second life of the application is seen as well.
@@ -239,6 +280,37 @@ bool Tour::leave()
 bool Tour::reopen()
 {
     return leave() && pressAndSettle(find(QStringLiteral("applicationTile")));
+}
+
+// What the slaves' pages show beside their settings: no port with the EtherNet/IP slave's address, and a
+// ProfiSAFE device. The pages are new ones, as the application is opened again for them.
+bool Tour::visitSlaveStates()
+{
+    const QString portsPath = QStringLiteral("/application/network/netports.xml");
+    const QString profisafe = QStringLiteral("io_man.profisafe_status");
+    ControllerLink& controller = m_subject.controller;
+    QByteArray ports;
+    if (!controller.fetchFile(portsPath, ports) ||
+        !controller.storeFile(portsPath, QByteArray(ports).replace(".22", ".23")))
+        return false;
+    controller.writeVariable(profisafe, 0, 1.0);
+
+    bool reached = pressAndSettle(find(QStringLiteral("applicationTile")));
+    const struct
+    {
+        const char* button;
+        const char* picture;
+    } stops[] = {{"etherNetBtn", "ethernet-ip-banner"},
+                 {"pfbPfnBtn", "profinet-with-profisafe"},
+                 {"btn_pfss", "profisafe"}};
+    for (const auto& stop : stops)
+        reached = reached && openPage(QLatin1String(stop.button)) && report(QLatin1String(stop.picture));
+    reached = reached && pressAndSettle(find(QStringLiteral("btn_errorConfir"))) &&
+              report(QStringLiteral("profisafe-command"));
+
+    controller.writeVariable(profisafe, 0, 0.0);
+    return controller.storeFile(portsPath, ports) && pressAndSettle(find(QStringLiteral("exitBtn"))) &&
+           reached;
 }
 
 bool Tour::openPage(const QString& button)

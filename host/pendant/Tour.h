@@ -52,7 +52,10 @@ private:
     bool visitPanel();
     bool visitDeviceNetSlave();
     bool visitDeviceNetMasterEditing();
+    bool visitMes();
+    bool visitFins();
     bool visitExit();
+    bool visitSlaveStates();
 
     bool openPage(const QString& button);
     bool openHiddenPage(const QString& button);
