@@ -2,6 +2,8 @@
 
 #include "DeviceTab.h"
 #include "DeviceNetTab.h"
+#include "DeviceNetTab.h"
+#include "DeviceTab.h"
 #include "FaultTab.h"
 #include "HostLinkTab.h"
 #include "LinkTab.h"
@@ -32,6 +34,8 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
     addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
     addTab(new SlaveTab(controller), QStringLiteral("slaveTab"), tr("Slaves"));
     addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
+    addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
+    addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
     addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
     addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
     addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));

@@ -197,6 +197,48 @@ bool Tour::visitPanel()
     return reported;
 }
 
+bool Tour::visitDeviceNetSlave()
+{
+    constexpr int Linked = 32;
+    const QString name = QStringLiteral("ifidbus.commun_state");
+    const double before = m_subject.controller.readVariable(name, 0);
+    m_subject.controller.writeVariable(name, 0, static_cast<int>(before) | Linked);
+    const bool shown =
+        openHiddenPage(QStringLiteral("deviceBtn")) && report(QStringLiteral("devicenet-slave"));
+    m_subject.controller.writeVariable(name, 0, before);
+    return shown;
+}
+
+bool Tour::visitDeviceNetMasterEditing()
+{
+    const QString path = QStringLiteral("/fa/dnmst0.cfg");
+    constexpr int Devices = 16;
+    QByteArray before;
+    if (!m_subject.controller.fetchFile(path, before))
+        return fail(tr("%1 cannot be fetched").arg(path));
+    const auto store = [this, &path](const QByteArray& file, int devices) {
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_save_config"), 0, 1.0);
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_slave_num"), 0, devices);
+        return m_subject.controller.storeFile(path, file);
+    };
+    QByteArray full = before.left(before.indexOf(";=====")); // the header, and a long list below it
+    for (int device = 1; device <= Devices; ++device) {
+        full += QStringLiteral(";===================\n;   Device %1 MAC ID %2\nBLOCK_TO_RBX 0 0 %1\n"
+                               "BLOCK_FROM_RBX 0 0 4\nVENDOR_ID %3\nPROD_CODE %4\nREVISION 257\n")
+                    .arg(device)
+                    .arg(4 * device + 1)
+                    .arg(-4096 * device + 1)
+                    .arg(100 + device)
+                    .toLatin1();
+    }
+    m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_link_state"), 0, 1.0);
+    // The page fetches when it is built, so the application is opened anew.
+    const bool shown = store(full, Devices) && reopen() && openPage(QStringLiteral("devicemBtn")) &&
+                       pressAndSettle(find(QStringLiteral("btn_edit"))) &&
+                       report(QStringLiteral("devicenet-master-editing"));
+    return store(before, before.count(";   Device ")) && reopen() && shown;
+}
+
 bool Tour::visitMes()
 {
     if (!openPage(QStringLiteral("mesBtn")) || !pressAndSettle(find(QStringLiteral("monitorButton"))))
@@ -289,43 +331,6 @@ bool Tour::reportMappingTabs(const QString& mode)
     return pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RW"))) &&
            report(QStringLiteral("mapping-%1-read-and-write").arg(mode)) &&
            pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RO")));
-}
-
-bool Tour::visitDeviceNetSlave()
-{
-    constexpr double Linked = 32;
-    m_subject.controller.writeVariable(QStringLiteral("ifidbus.commun_state"), 0, Linked);
-    return openHiddenPage(QStringLiteral("deviceBtn")) && report(QStringLiteral("devicenet-slave"));
-}
-
-bool Tour::visitDeviceNetMasterEditing()
-{
-    const QString path = QStringLiteral("/fa/dnmst0.cfg");
-    constexpr int Devices = 16;
-    QByteArray before;
-    if (!m_subject.controller.fetchFile(path, before))
-        return fail(tr("%1 cannot be fetched").arg(path));
-    const auto store = [this, &path](const QByteArray& file, int devices) {
-        m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_save_config"), 0, 1.0);
-        m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_slave_num"), 0, devices);
-        return m_subject.controller.storeFile(path, file);
-    };
-    QByteArray full = before.left(before.indexOf(";=====")); // the header, and a long list below it
-    for (int device = 1; device <= Devices; ++device) {
-        full += QStringLiteral(";===================\n;   Device %1 MAC ID %2\nBLOCK_TO_RBX 0 0 %1\n"
-                               "BLOCK_FROM_RBX 0 0 4\nVENDOR_ID %3\nPROD_CODE %4\nREVISION 257\n")
-                    .arg(device)
-                    .arg(4 * device + 1)
-                    .arg(-4096 * device + 1)
-                    .arg(100 + device)
-                    .toLatin1();
-    }
-    m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_link_state"), 0, 1.0);
-    // The page fetches when it is built, so the application is opened anew.
-    const bool shown = store(full, Devices) && reopen() && openPage(QStringLiteral("devicemBtn")) &&
-                       pressAndSettle(find(QStringLiteral("btn_edit"))) &&
-                       report(QStringLiteral("devicenet-master-editing"));
-    return store(before, before.count(";   Device ")) && reopen() && shown;
 }
 
 bool Tour::visitExit()

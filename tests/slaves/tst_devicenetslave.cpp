@@ -1,6 +1,7 @@
 #include "Faults.h"
 #include "PendantFixture.h"
 #include "QTouchLineEdit.h"
+#include "SlavePage.h"
 #include "UserSession.h"
 
 #include <QComboBox>
@@ -27,22 +28,29 @@ QByteArray fileWith(const QByteArray& macId, const QByteArray& baudRate)
 }
 
 /// A pendant with the page opened on a file.
-class SlavePage : public PendantFixture
+class DeviceNetPage : public PendantFixture
 {
 public:
-    explicit SlavePage(const QByteArray& file = fileWith("12", "250"))
+    /// `loadFault` strikes while the page loads; its boxes are confirmed.
+    explicit DeviceNetPage(const QByteArray& file = fileWith("12", "250"), const QString& loadFault = {})
     {
         m_isReady = controller().setRoleOn("DeviceNetSlave", true) &&
-                    controller().files().write(FilePath, file) && open() && openPage(Button);
+                    controller().files().write(FilePath, file) && open();
+        if (!loadFault.isEmpty()) {
+            MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+            m_isReady = m_isReady && controller().faults().setFromText(loadFault);
+        }
+        m_isReady = m_isReady && openPage(Button);
     }
 
     bool isReady() const { return m_isReady; }
-    QString macId() { return find<QTouchLineEdit>("le_macid")->text(); }
-    QString baudRate() { return find<QComboBox>("cbb_baud")->currentText(); }
-    bool isLinked() { return find<QLabel>("led_status")->isEnabled(); }
-    QTimer* handshake() { return page()->findChild<QTimer*>(); }
-
-    QWidget* page() { return find("DeviceNetSlaverSetting"); }
+    QWidget* page() const { return find("DeviceNetSlaverSetting"); }
+    QString macId() const { return find<QTouchLineEdit>("le_macid")->text(); }
+    QString baudRate() const { return find<QComboBox>("cbb_baud")->currentText(); }
+    bool isLinked() const { return page()->findChild<QLabel*>("led_status")->isEnabled(); }
+    QWidget* saveButton() const { return onPage(*this, "DeviceNetSlaverSetting", "btn_save"); }
+    bool pressSave() const { return Finger::press(saveButton()); }
+    QTimer* handshake() const { return page()->findChild<QTimer*>(); }
 
     /// What the pendant wrote to the handshake's variable so far.
     QVector<int> asked()
@@ -58,14 +66,14 @@ public:
     bool save()
     {
         answer({MsgBox::Confirmed});
-        return press("btn_save");
+        return pressSave();
     }
 
     /// Lets the handshake poll, without its half seconds, until it ends; gives the number of polls.
     int pollToTheEnd()
     {
         int polls = 0;
-        for (; find("btn_save") && handshake()->isActive() && polls < 100; ++polls)
+        for (; page() && handshake()->isActive() && polls < 100; ++polls)
             QMetaObject::invokeMethod(page(), "getFileSaveStatus");
         return polls;
     }
@@ -112,7 +120,7 @@ void TestDeviceNetSlave::showsTheFile_data()
 void TestDeviceNetSlave::showsTheFile()
 {
     QFETCH(QByteArray, file);
-    SlavePage pendant(file);
+    DeviceNetPage pendant(file);
     QVERIFY(pendant.isReady());
     QTEST(pendant.baudRate(), "baudRate");
     QTEST(pendant.macId(), "macId");
@@ -121,7 +129,7 @@ void TestDeviceNetSlave::showsTheFile()
 
 void TestDeviceNetSlave::onlyEvenMacIds()
 {
-    SlavePage pendant(fileWith("7", "125"));
+    DeviceNetPage pendant(fileWith("7", "125"));
     QVERIFY(pendant.isReady());
     const struct
     {
@@ -146,7 +154,7 @@ void TestDeviceNetSlave::onlyEvenMacIds()
 
 void TestDeviceNetSlave::savesWhatIsEntered()
 {
-    SlavePage pendant;
+    DeviceNetPage pendant;
     QVERIFY(pendant.isReady());
     QVERIFY(pendant.enter("le_macid", "44"));
     auto* rates = pendant.find<QComboBox>("cbb_baud");
@@ -155,14 +163,14 @@ void TestDeviceNetSlave::savesWhatIsEntered()
 
     // Declined, nothing leaves the pendant.
     PendantFixture::answer({MsgBox::Second});
-    QVERIFY(pendant.press("btn_save"));
+    QVERIFY(pendant.pressSave());
     QVERIFY(pendant.settle());
     QCOMPARE(pendant.controller().traffic().stores(), QStringList());
 
     QVERIFY(pendant.save());
     QVERIFY(pendant.controllerFile(FilePath).contains(fileWith("44", "500")));
     QCOMPARE(pendant.asked(), QVector<int>({Asked}));
-    QVERIFY(!pendant.press("btn_save")); // one handshake at a time
+    QVERIFY(!pendant.pressSave()); // one handshake at a time
     QVERIFY(pendant.handshake()->isActive());
     QCOMPARE(pendant.handshake()->interval(), 500);
     PendantFixture::answer({MsgBox::Second});
@@ -173,7 +181,7 @@ void TestDeviceNetSlave::savesWhatIsEntered()
     QCOMPARE(pendant.variable(UpdateState), 0.0);
 
     PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
-    QVERIFY(pendant.press("btn_save"));
+    QVERIFY(pendant.pressSave());
     QTRY_COMPARE(pendant.controller().traffic().restartRequests(), 1);
     QTRY_VERIFY(!pendant.isOpen()); // the pendant restarts as well
     QCOMPARE(pendant.messages(),
@@ -198,44 +206,37 @@ void TestDeviceNetSlave::transferFaults()
     QFETCH(QString, fault);
     QFETCH(bool, whileLoading);
     QFETCH(QString, message);
-    PendantFixture pendant;
-    QVERIFY(pendant.controller().setRoleOn("DeviceNetSlave", true));
-    const QByteArray before = pendant.controllerFile(FilePath);
-    QVERIFY(pendant.open());
-    const QString localFile = "../Application/fieldbusSetting/devicenetSlave.xml";
-    const auto strike = [&] {
-        // A folder in the place of the file cannot be replaced by one.
-        return fault == "write" ? QFile::remove(localFile) && QDir().mkpath(localFile)
-                                : pendant.controller().faults().setFromText(fault);
-    };
-    if (whileLoading)
-        QVERIFY(strike());
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    QVERIFY(pendant.openPage(Button));
+    const QByteArray before = fileWith("12", "250");
+    DeviceNetPage pendant(before, whileLoading ? fault : QString());
+    QVERIFY(pendant.isReady());
     if (!whileLoading) {
-        QVERIFY(strike());
-        QVERIFY(pendant.press("btn_save"));
+        // A folder in the place of the file cannot be replaced by one.
+        const QString localFile = "../Application/fieldbusSetting/devicenetSlave.xml";
+        QVERIFY(fault == "write" ? QFile::remove(localFile) && QDir().mkpath(localFile)
+                                 : pendant.controller().faults().setFromText(fault));
+        PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
+        QVERIFY(pendant.pressSave());
         QVERIFY(pendant.settle());
-        QVERIFY(!pendant.find("DeviceNetSlaverSetting")->findChild<QTimer*>()->isActive());
+        QVERIFY(!pendant.handshake()->isActive());
     }
     QCOMPARE(pendant.messages().mid(whileLoading ? 0 : 1),
              message.isEmpty() ? QStringList() : QStringList(message));
     QCOMPARE(pendant.controllerFile(FilePath), before);
     QCOMPARE(pendant.variable(UpdateState), 0.0);
-    QVERIFY(pendant.find("btn_save")->isEnabled());
+    QVERIFY(pendant.saveButton()->isEnabled());
 }
 
 // Twelve polls are waited through at the first save and ten at each later one; the poll after that gives up.
 // A handshake that succeeds leaves nothing to the next one's count.
 void TestDeviceNetSlave::handshakeIsGivenUp()
 {
-    SlavePage pendant;
+    DeviceNetPage pendant;
     QVERIFY(pendant.isReady());
     pendant.controller().faults().set(Faults::SlaveNeverAnswered);
     MsgBoxScript::answerByDefault(MsgBox::Confirmed);
     int boxes = 0;
     for (const int polls : {13, 11, 11}) {
-        QVERIFY(pendant.press("btn_save"));
+        QVERIFY(pendant.pressSave());
         QCOMPARE(pendant.variable(UpdateState), double(Asked));
         QCOMPARE(pendant.pollToTheEnd(), polls);
         QVERIFY(pendant.settle());
@@ -247,7 +248,7 @@ void TestDeviceNetSlave::handshakeIsGivenUp()
     QCOMPARE(MsgBoxScript::shown().constLast().kind, int(MsgBox::Warning));
 
     // The answer comes with the last poll: it counts.
-    QVERIFY(pendant.press("btn_save"));
+    QVERIFY(pendant.pressSave());
     for (int poll = 0; poll < 10; ++poll)
         QMetaObject::invokeMethod(pendant.page(), "getFileSaveStatus");
     pendant.controller().variables().set(UpdateState, 0x2000);
@@ -256,14 +257,14 @@ void TestDeviceNetSlave::handshakeIsGivenUp()
     QMetaObject::invokeMethod(pendant.page(), "getFileSaveStatus");
     QCOMPARE(pendant.messages().constLast(), RestartQuestion);
     PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
-    QVERIFY(pendant.press("btn_save"));
+    QVERIFY(pendant.pressSave());
     QCOMPARE(pendant.pollToTheEnd(), 11);
 }
 
 // With the page's own clock and the controller's latest answer.
 void TestDeviceNetSlave::answeredLateInRealTime()
 {
-    SlavePage pendant;
+    DeviceNetPage pendant;
     QVERIFY(pendant.isReady());
     pendant.controller().faults().set(Faults::SlaveAnsweredLate);
     QElapsedTimer elapsed;
@@ -277,7 +278,7 @@ void TestDeviceNetSlave::answeredLateInRealTime()
 // The variable carries other handshakes too: asking adds bits.
 void TestDeviceNetSlave::otherBitsStay()
 {
-    SlavePage pendant;
+    DeviceNetPage pendant;
     QVERIFY(pendant.isReady());
     pendant.controller().variables().set(UpdateState, 0x4003);
     QTest::qWait(50);
@@ -288,7 +289,7 @@ void TestDeviceNetSlave::otherBitsStay()
 
 void TestDeviceNetSlave::lightFollowsItsBit()
 {
-    SlavePage pendant;
+    DeviceNetPage pendant;
     QVERIFY(pendant.isReady());
     QTRY_VERIFY(pendant.isLinked());
     QVERIFY(pendant.controller().setLinkUp("DeviceNetSlave", false));
@@ -315,7 +316,7 @@ void TestDeviceNetSlave::userLevelDrops_data()
 void TestDeviceNetSlave::userLevelDrops()
 {
     QFETCH(QString, box);
-    SlavePage pendant;
+    DeviceNetPage pendant;
     QVERIFY(pendant.isReady());
     if (box == SaveFailed || box.isEmpty())
         pendant.controller().faults().set(Faults::SlaveNeverAnswered);
@@ -329,7 +330,7 @@ void TestDeviceNetSlave::userLevelDrops()
     } else {
         if (box != SaveQuestion)
             PendantFixture::answer({MsgBox::Confirmed});
-        pendant.press("btn_save");
+        pendant.pressSave();
     }
     if (box.isEmpty())
         drop();
@@ -345,7 +346,7 @@ void TestDeviceNetSlave::userLevelDrops()
     UserSession::instance().setUserLevel(4);
     QVERIFY(pendant.open());
     QVERIFY(pendant.openPage(Button));
-    QVERIFY(pendant.find("btn_save")->isEnabled());
+    QVERIFY(pendant.saveButton()->isEnabled());
 }
 
 PENDANT_TEST_MAIN(TestDeviceNetSlave)
