@@ -1,5 +1,6 @@
 #include "PageRegistry.h"
 
+#include "BusSettingWidget.h"
 #include "HeartbeatDetectionWidget.h"
 
 #include <QCoreApplication>
@@ -32,8 +33,8 @@ const std::array<Entry, PageCount>& entries()
          NoPage, true, false},
         {4, "etherNetBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eip"), 7, Shown::WhenOn, "EtherNetIPSlave",
          NoPage, true, true},
-        {5, "busSetting", QT_TRANSLATE_NOOP("FbMainWidget", "BusSetting"), 0, Shown::Always, NoBus, NoPage,
-         true, false},
+        {5, "busSetting", QT_TRANSLATE_NOOP("FbMainWidget", "BusSetting"), 0, Shown::Always, NoBus,
+         create<BusSettingWidget>, true, false},
         {6, "heartbeatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Heartbeat"), 14, Shown::Always, NoBus,
          create<HeartbeatDetectionWidget>, true, false},
         {7, "configBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Configuration"), 15, Shown::Always, NoBus, NoPage,

@@ -16,6 +16,11 @@ int runBox(MsgBox::Kind kind, const QString& text, QWidget* page, MsgBox::Button
     return result;
 }
 
+QString fileName(ConfigFile file)
+{
+    return FileLocations::of(file).controller.section(QLatin1Char('/'), -1);
+}
+
 } // namespace
 
 PageBase::PageBase(const char* className)
@@ -65,9 +70,10 @@ PageBase::Answer PageBase::ask(const QString& text, MsgBox::Buttons buttons)
     return self ? static_cast<Answer>(result) : Answer::Gone;
 }
 
-Outcome PageBase::failed(const TransferTexts& texts, const char* text)
+Outcome PageBase::failed(const TransferTexts& texts, const char* text, const QString& file)
 {
-    return tell(texts.kind, translated(text)) == Answer::Gone ? Outcome::Gone : Outcome::Failed;
+    const QString message = translated(text).replace(QLatin1String("%1"), file);
+    return tell(texts.kind, message) == Answer::Gone ? Outcome::Gone : Outcome::Failed;
 }
 
 Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const TransferTexts& texts)
@@ -78,9 +84,9 @@ Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const
     if (!self)
         return Outcome::Gone;
     if (!fetched)
-        return failed(texts, texts.getFailed);
+        return failed(texts, texts.getFailed, location.controller);
     if (!read(location.local))
-        return failed(texts, texts.readFailed);
+        return failed(texts, texts.readFailed, location.local);
     return Outcome::Done;
 }
 
@@ -92,7 +98,7 @@ Outcome PageBase::write(ConfigFile file, const FileOperation& operation, const T
     if (!self)
         return Outcome::Gone;
     busy.release();
-    return written ? Outcome::Done : failed(texts, texts.writeFailed);
+    return written ? Outcome::Done : failed(texts, texts.writeFailed, fileName(file));
 }
 
 Outcome PageBase::send(ConfigFile file, const TransferTexts& texts)
@@ -101,7 +107,7 @@ Outcome PageBase::send(ConfigFile file, const TransferTexts& texts)
     Busy busy(this);
     const bool sent = lib()->sendFileToCtrl(location.local, location.controller);
     busy.release();
-    return sent ? Outcome::Done : failed(texts, texts.sendFailed);
+    return sent ? Outcome::Done : failed(texts, texts.sendFailed, fileName(file));
 }
 
 Outcome PageBase::writeAndSend(ConfigFile file, const FileOperation& operation, const TransferTexts& texts)
