@@ -79,8 +79,8 @@ TransferResult ConfigExport::fetch(const TransferFile& file)
     if (!DriveFiles::isThere(m_drive))
         return {TransferResult::DriveGone, QLatin1String(file.label)};
     for (int attempt = 0; attempt < FetchTries; ++attempt) {
-        const bool fetched = FieldbusSettingLib::getInstance()->getFileFromCtrl(
-            file.staging, QLatin1String(file.controller));
+        const bool fetched =
+            FieldbusSettingLib::getInstance()->getFileFromCtrl(file.staging, QLatin1String(file.controller));
         if (fetched)
             return stepped();
         if (m_watch.isWanted())

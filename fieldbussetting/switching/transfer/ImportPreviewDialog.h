@@ -1,0 +1,32 @@
+#ifndef IMPORTPREVIEWDIALOG_H
+#define IMPORTPREVIEWDIALOG_H
+
+#include "ImportRoles.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class ImportPreviewDialog;
+}
+
+/// Shows what an import would change: file by file, and the bus switches. Accepted when the operator wants
+/// it; where a rule would be broken, or nothing would change, only leaving is offered.
+class ImportPreviewDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    ImportPreviewDialog(const QString& folderName, const std::vector<ImportEntry>& entries,
+                        const ImportedRoles& roles, QWidget* parent);
+    ~ImportPreviewDialog() override;
+
+private:
+    void showFiles(const std::vector<ImportEntry>& entries);
+    void showRoles(const ImportedRoles& roles);
+
+    std::unique_ptr<Ui::ImportPreviewDialog> ui;
+};
+
+#endif

@@ -1,0 +1,38 @@
+#include "TransferTable.h"
+
+#include <QHeaderView>
+#include <QScroller>
+#include <QTableWidget>
+
+namespace {
+constexpr int RowHeight = 56;
+} // namespace
+
+void TransferTable::prepare(QTableWidget& table, QAbstractItemView::SelectionMode selection)
+{
+    table.setSelectionMode(selection);
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table.setFocusPolicy(Qt::NoFocus);
+    table.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table.verticalHeader()->hide();
+    table.verticalHeader()->setDefaultSectionSize(RowHeight);
+    table.horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table.horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    table.horizontalHeader()->setHighlightSections(false);
+    QScroller::grabGesture(table.viewport(), QScroller::LeftMouseButtonGesture);
+}
+
+void TransferTable::addRow(QTableWidget& table, const QStringList& texts, bool stressed)
+{
+    const int row = table.rowCount();
+    table.insertRow(row);
+    for (int column = 0; column < texts.size(); ++column) {
+        auto* item = new QTableWidgetItem(texts[column]);
+        QFont font = item->font();
+        font.setBold(stressed);
+        item->setData(Qt::FontRole, stressed ? QVariant(font) : QVariant());
+        table.setItem(row, column, item);
+    }
+}
