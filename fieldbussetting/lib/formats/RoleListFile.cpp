@@ -1,7 +1,10 @@
 #include "RoleListFile.h"
 
 #include "WholeFile.h"
-#include "XmlFile.h"
+
+#include <QRegularExpression>
+
+#include <pugixml.hpp>
 
 #include <algorithm>
 
@@ -13,22 +16,33 @@ constexpr const char* NameAttribute = "name";
 constexpr const char* EnableAttribute = "enable";
 constexpr int On = 1;
 
-// Comments and white space are kept: what is written back differs in one attribute only.
-bool load(const QString& path, pugi::xml_document& document)
+bool load(const QString& path, QByteArray& content, pugi::xml_document& document)
 {
-    QByteArray content;
     return WholeFile::read(path, content) &&
            document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
-                                (pugi::parse_full | pugi::parse_ws_pcdata) & ~pugi::parse_eol) &&
+                                pugi::parse_default, pugi::encoding_utf8) &&
            document.child(RootElement);
+}
+
+// Switches the element off whose name stands at `offset`. One without the attribute is off already.
+void switchOffAt(QByteArray& content, int offset)
+{
+    static const QRegularExpression enable(
+        QStringLiteral(
+            R"(^[^\s/>]+(?:\s+[^\s=/>]+\s*=\s*(?:"[^"]*"|'[^']*'))*?\s+%1\s*=\s*("[^"]*"|'[^']*'))")
+            .arg(QLatin1String(EnableAttribute)));
+    const QRegularExpressionMatch found = enable.match(QString::fromLatin1(content.mid(offset)));
+    if (found.hasMatch())
+        content.replace(offset + found.capturedStart(1) + 1, found.capturedLength(1) - 2, "0");
 }
 
 } // namespace
 
 bool RoleListFile::read(const QString& path, std::vector<ListedRole>& roles)
 {
+    QByteArray content;
     pugi::xml_document document;
-    if (!load(path, document))
+    if (!load(path, content, document))
         return false;
     roles.clear();
     for (const pugi::xml_node bus : document.child(RootElement).children(RoleElement)) {
@@ -41,14 +55,18 @@ bool RoleListFile::read(const QString& path, std::vector<ListedRole>& roles)
     return true;
 }
 
+// In the bytes, so that the file stays the same in all that is not switched; from the end, so that the
+// offsets before stay valid.
 bool RoleListFile::switchOff(const QString& path, const QString& role)
 {
+    QByteArray content;
     pugi::xml_document document;
-    if (!load(path, document))
+    if (!load(path, content, document))
         return false;
-    for (const pugi::xml_node bus : document.child(RootElement).children(RoleElement)) {
-        if (role == QString::fromUtf8(bus.attribute(NameAttribute).value()))
-            bus.attribute(EnableAttribute).set_value("0");
+    for (pugi::xml_node bus = document.child(RootElement).last_child(); bus; bus = bus.previous_sibling()) {
+        if (qstrcmp(bus.name(), RoleElement) == 0 &&
+            role == QString::fromUtf8(bus.attribute(NameAttribute).value()))
+            switchOffAt(content, static_cast<int>(bus.offset_debug()));
     }
-    return XmlFile::save(path, document, pugi::format_raw);
+    return WholeFile::replace(path, content);
 }

@@ -1,7 +1,6 @@
 #include "TransferTable.h"
 
 #include <QHeaderView>
-#include <QScroller>
 #include <QTableWidget>
 
 namespace {
@@ -21,7 +20,6 @@ void TransferTable::prepare(QTableWidget& table, QAbstractItemView::SelectionMod
     table.horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table.horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     table.horizontalHeader()->setHighlightSections(false);
-    QScroller::grabGesture(table.viewport(), QScroller::LeftMouseButtonGesture);
 }
 
 void TransferTable::addRow(QTableWidget& table, const QStringList& texts, bool stressed)
