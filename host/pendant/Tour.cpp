@@ -67,7 +67,7 @@ const Tour::Station Tour::Stations[] = {
     {"pages", &Tour::visitPages},     {"heartbeat-lights", &Tour::visitHeartbeatLights},
     {"message", &Tour::visitMessage}, {"numeric-keyboard", &Tour::visitNumericKeyboard},
     {"log-in", &Tour::visitLogIn},    {"panel", &Tour::visitPanel},
-    {"exit", &Tour::visitExit},
+    {"usb", &Tour::visitUsb},         {"exit", &Tour::visitExit},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
@@ -278,7 +278,7 @@ QString Tour::pageClass() const
 void Tour::answerDialog()
 {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog)
+    if (!dialog || (m_answer && m_answer(*dialog)))
         return;
     if (!m_wantedDialog.isEmpty() && !m_dialogTaken) {
         // A round later it is laid out and painted.

@@ -2,16 +2,14 @@
 
 #include "FileLocations.h"
 #include "TransferTable.h"
-#include "ZelFunctions.h"
 #include "ui_ImportFolderDialog.h"
 
 ImportFolderDialog::ImportFolderDialog(const std::vector<ExportFolder>& folders, QWidget* parent)
-    : QDialog(parent)
+    : ImportDialog(parent)
     , ui(std::make_unique<Ui::ImportFolderDialog>())
 {
     ui->setupUi(this);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    ZelSetUIStyleSheet(this, QStringLiteral("fieldbussetting/ImportFolderDialog"));
+    applyStyle();
 
     TransferTable::prepare(*ui->folderTable, QAbstractItemView::SingleSelection);
     const int complete = static_cast<int>(FileLocations::transferSet().size());

@@ -2,8 +2,7 @@
 #define IMPORTFOLDERDIALOG_H
 
 #include "ExportFolders.h"
-
-#include <QDialog>
+#include "ImportDialog.h"
 
 #include <memory>
 
@@ -12,7 +11,7 @@ class ImportFolderDialog;
 }
 
 /// Lets the operator choose one of the export folders on the drive. Accepted only with one chosen.
-class ImportFolderDialog : public QDialog
+class ImportFolderDialog : public ImportDialog
 {
     Q_OBJECT
 

@@ -1,7 +1,6 @@
 #include "ImportPreviewDialog.h"
 
 #include "TransferTable.h"
-#include "ZelFunctions.h"
 #include "ui_ImportPreviewDialog.h"
 
 #include <algorithm>
@@ -38,12 +37,11 @@ int count(const std::vector<ImportEntry>& entries, ImportEntry::State state)
 
 ImportPreviewDialog::ImportPreviewDialog(const QString& folderName, const std::vector<ImportEntry>& entries,
                                          const ImportedRoles& roles, QWidget* parent)
-    : QDialog(parent)
+    : ImportDialog(parent)
     , ui(std::make_unique<Ui::ImportPreviewDialog>())
 {
     ui->setupUi(this);
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    ZelSetUIStyleSheet(this, QStringLiteral("fieldbussetting/ImportPreviewDialog"));
+    applyStyle();
     ui->label_title->setText(tr("Import of %1").arg(folderName));
     showFiles(entries);
     showRoles(roles);

@@ -1,9 +1,8 @@
 #ifndef IMPORTPREVIEWDIALOG_H
 #define IMPORTPREVIEWDIALOG_H
 
+#include "ImportDialog.h"
 #include "ImportRoles.h"
-
-#include <QDialog>
 
 #include <memory>
 
@@ -13,7 +12,7 @@ class ImportPreviewDialog;
 
 /// Shows what an import would change: file by file, and the bus switches. Accepted when the operator wants
 /// it; where a rule would be broken, or nothing would change, only leaving is offered.
-class ImportPreviewDialog : public QDialog
+class ImportPreviewDialog : public ImportDialog
 {
     Q_OBJECT
 

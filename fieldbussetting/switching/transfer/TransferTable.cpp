@@ -4,7 +4,8 @@
 #include <QTableWidget>
 
 namespace {
-constexpr int RowHeight = 56;
+constexpr int TargetHeight = 56; // of a row that is chosen
+constexpr int TextHeight = 40;   // of one that is only read
 } // namespace
 
 void TransferTable::prepare(QTableWidget& table, QAbstractItemView::SelectionMode selection)
@@ -16,9 +17,13 @@ void TransferTable::prepare(QTableWidget& table, QAbstractItemView::SelectionMod
     table.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     table.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table.verticalHeader()->hide();
-    table.verticalHeader()->setDefaultSectionSize(RowHeight);
+    // A long name takes two lines.
+    const bool isTarget = selection != QAbstractItemView::NoSelection;
+    table.verticalHeader()->setMinimumSectionSize(isTarget ? TargetHeight : TextHeight);
+    table.verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table.horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table.horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.horizontalHeader()->setHighlightSections(false);
 }
 
