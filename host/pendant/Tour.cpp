@@ -81,8 +81,9 @@ const Tour::Station Tour::Stations[] = {
     {"mapping", &Tour::visitMapping},
     {"devicenet-slave", &Tour::visitDeviceNetSlave},
     {"devicenet-master-editing", &Tour::visitDeviceNetMasterEditing},
-    {"exit", &Tour::visitExit},
     {"slave-states", &Tour::visitSlaveStates},
+    {"usb", &Tour::visitUsb},
+    {"exit", &Tour::visitExit},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
@@ -489,7 +490,7 @@ QString Tour::pageClass() const
 void Tour::answerDialog()
 {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog)
+    if (!dialog || (m_answer && m_answer(*dialog)))
         return;
     if (!m_wantedDialog.isEmpty() && !m_dialogTaken) {
         // A round later it is laid out and painted.

@@ -10,6 +10,7 @@
 
 class ControllerLink;
 class PendantWindow;
+class QDialog;
 class QWidget;
 
 /// Walks through everything that the pendant shows, as an operator would, and takes a picture of each
@@ -59,6 +60,7 @@ private:
     bool visitDeviceNetMasterEditing();
     bool visitExit();
     bool visitSlaveStates();
+    bool visitUsb(); // TourUsb.cpp
 
     bool openPage(const QString& button);
     bool reportMappingTabs(const QString& mode);
@@ -81,12 +83,13 @@ private:
     QDir m_directory;
     QTimer m_answering;
     int m_pictures = 0;
-    QString m_wantedDialog;     ///< name of the picture that the next dialog is to give
-    bool m_dialogTaken = false; ///< ... and it was taken
-    bool m_dialogSeen = false;  ///< the dialog was on the screen for one round of the timer
-    QStringList m_fetches;      ///< of this stop
-    QStringList m_messages;     ///< of this stop
-    bool m_errorShown = false;  ///< one of them told of an error
+    QString m_wantedDialog;                 ///< name of the picture that the next dialog is to give
+    bool m_dialogTaken = false;             ///< ... and it was taken
+    bool m_dialogSeen = false;              ///< the dialog was on the screen for one round of the timer
+    std::function<bool(QDialog&)> m_answer; ///< answers a dialog in another way than leaving it
+    QStringList m_fetches;                  ///< of this stop
+    QStringList m_messages;                 ///< of this stop
+    bool m_errorShown = false;              ///< one of them told of an error
 };
 
 #endif
