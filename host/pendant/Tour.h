@@ -51,8 +51,12 @@ private:
     bool visitLogIn();
     bool visitPanel();
     bool visitExit();
+    bool visitMasters();
+    bool visitSlaveModule();
 
     bool openPage(const QString& button);
+    /// The same, whether or not the role of the page is switched on.
+    bool openAnyPage(const QString& button);
     bool pictureOfDialog(const QString& name, const QString& button);
     bool pressAndSettle(QWidget* target);
     bool settle();
