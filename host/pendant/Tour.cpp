@@ -1,9 +1,12 @@
 #include "Tour.h"
 
 #include "ApplicationSlot.h"
+#include "BusFileDataManager.h"
 #include "ControllerLink.h"
 #include "Finger.h"
 #include "MsgBox.h"
+#include "MsgBoxScript.h"
+#include "NumericKeyboardScript.h"
 #include "PendantWindow.h"
 #include "ZelBaseWidget.h"
 
@@ -14,6 +17,7 @@
 #include <QEventLoop>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QTabWidget>
 #include <QTextStream>
 
 #include <algorithm>
@@ -73,10 +77,13 @@ const Tour::Station Tour::Stations[] = {
     {"panel", &Tour::visitPanel},
     {"mes", &Tour::visitMes},
     {"fins", &Tour::visitFins},
+    {"modbus-master", &Tour::visitModbusMaster},
+    {"mapping", &Tour::visitMapping},
     {"devicenet-slave", &Tour::visitDeviceNetSlave},
     {"devicenet-master-editing", &Tour::visitDeviceNetMasterEditing},
-    {"exit", &Tour::visitExit},
     {"slave-states", &Tour::visitSlaveStates},
+    {"usb", &Tour::visitUsb},
+    {"exit", &Tour::visitExit},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
@@ -266,6 +273,67 @@ bool Tour::visitFins()
     return settle() && seen;
 }
 
+// With the controller's own slave as the partner. The settings are put back: what is walked through is not
+// changed.
+bool Tour::visitModbusMaster()
+{
+    const QString file = QStringLiteral("/application/fidbus/mtcpMaster/mtcp_master.xml");
+    const QString announced = QStringLiteral("ifidbus.mbc_save_enable");
+    const QString connected = QStringLiteral("ifidbus.mbc_connected");
+    QByteArray settings;
+    if (!openPage(QStringLiteral("mtcpMasterBtn")) || !m_subject.controller.fetchFile(file, settings))
+        return false;
+    bool reached = type(QStringLiteral("le_masterIp"), QStringLiteral("127.0.0.1")) &&
+                   type(QStringLiteral("le_masterId"), QStringLiteral("1")) &&
+                   type(QStringLiteral("le_masterPort"), QString::number(m_subject.modbusPort));
+    MsgBoxScript::answerNext(MsgBox::Confirmed);
+    reached = reached && pressAndSettle(find(QStringLiteral("btn_save"))) &&
+              waitForVariable(announced, 0.0) && pressAndSettle(find(QStringLiteral("btn_connect"))) &&
+              waitForVariable(connected, 1.0) && settle() &&
+              report(QStringLiteral("modbus-master-connected"));
+    reached = m_subject.controller.storeFile(file, settings) && reached;
+    m_subject.controller.writeVariable(announced, 0, 1.0);
+    return reached;
+}
+
+// Every bus in either mode, as if the roles had been switched on another page meanwhile.
+bool Tour::visitMapping()
+{
+    BusFileDataManager* service = BusFileDataManager::getInstance();
+    const QMap<QString, BusName> before = service->getAllBusName();
+    bool reached = true;
+    for (const bool isFree : {true, false}) {
+        QMap<QString, BusName> roles = before;
+        for (BusName& role : roles)
+            role.enabled = role.name != QLatin1String("FreeBus") || isFree;
+        service->setBusInfo(roles);
+        const QString mode = isFree ? QStringLiteral("free") : QStringLiteral("fixed");
+        reached = openPage(QStringLiteral("heartbeatBtn")) && openPage(QStringLiteral("configBtn")) &&
+                  reportMappingTabs(mode) && pressAndSettle(find(QStringLiteral("bt_EditOrSave"))) &&
+                  report(QStringLiteral("mapping-%1-editing").arg(mode)) && reached;
+    }
+    service->setBusInfo(before);
+    return reached && openPage(QStringLiteral("heartbeatBtn"));
+}
+
+bool Tour::reportMappingTabs(const QString& mode)
+{
+    auto* tabs = qobject_cast<QTabWidget*>(find(QStringLiteral("tabWidget_Bus")));
+    if (!tabs)
+        return false;
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        if (!tabs->isTabEnabled(tab))
+            continue;
+        tabs->setCurrentIndex(tab);
+        wait(LookEveryMs);
+        report(QStringLiteral("mapping-%1-%2").arg(mode, tabs->currentWidget()->objectName()));
+    }
+    tabs->setCurrentIndex(0);
+    return pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RW"))) &&
+           report(QStringLiteral("mapping-%1-read-and-write").arg(mode)) &&
+           pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RO")));
+}
+
 bool Tour::visitExit()
 {
     // Opened again from the home screen, so that a second life of the application is seen as well.
@@ -343,6 +411,21 @@ bool Tour::pressAndSettle(QWidget* target)
     return Finger::press(target) && settle();
 }
 
+bool Tour::type(const QString& edit, const QString& text)
+{
+    NumericKeyboardScript::enterNext(text);
+    return pressAndSettle(find(edit));
+}
+
+bool Tour::waitForVariable(const QString& name, double value)
+{
+    QElapsedTimer limit;
+    limit.start();
+    while (m_subject.controller.readVariable(name) != value && limit.elapsed() < LoadingLimitMs)
+        wait(LookEveryMs);
+    return m_subject.controller.readVariable(name) == value;
+}
+
 // A page is loaded when it lets the finger through, asks nothing, and nothing was fetched for a while.
 bool Tour::settle()
 {
@@ -407,7 +490,7 @@ QString Tour::pageClass() const
 void Tour::answerDialog()
 {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog)
+    if (!dialog || (m_answer && m_answer(*dialog)))
         return;
     if (!m_wantedDialog.isEmpty() && !m_dialogTaken) {
         // A round later it is laid out and painted.

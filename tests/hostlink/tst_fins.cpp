@@ -1,5 +1,6 @@
 #include "Faults.h"
 #include "FinsClient.h"
+#include "LoneController.h"
 #include "PaintCounter.h"
 #include "PendantFixture.h"
 #include "QTouchLineEdit.h"
@@ -75,23 +76,17 @@ QByteArray fileWith(const QByteArray& server, const QByteArray& port, const QByt
            "</ClientConfig>";
 }
 
-// A controller alone, with a PLC of its own.
-struct Robot
+struct Robot : LoneController
 {
-    explicit Robot(const QByteArray& file = {})
-        : controller(directory.path())
+    explicit Robot(const QByteArray& file)
+        : LoneController(FilePath, file, 10)
     {
-        controller.setTimeScale(10);
-        controller.files().write(
-            FilePath, file.isEmpty() ? fileWith("127.0.0.1", QByteArray::number(plc.serverPort())) : file);
     }
-    void enable(bool on = true) { controller.writeVariable(Enable, 0, on ? 1.0 : 0.0); }
-    double value(const QString& name) const { return controller.readVariable(name); }
-    FinsClient& client() const { return controller.behaviour<FinsClient>(); }
-
-    QTemporaryDir directory;
-    Plc plc;
-    SimulatedController controller;
+    explicit Robot(const Plc& plc)
+        : Robot(fileWith("127.0.0.1", QByteArray::number(plc.serverPort())))
+    {
+    }
+    FinsClient& client() { return controller().behaviour<FinsClient>(); }
 };
 
 } // namespace
@@ -146,7 +141,7 @@ void TestFins::pageFollowsTheClient()
     QVERIFY(pendant.enter("serverPort_edit", QString::number(plc.serverPort())));
     PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
     QVERIFY(pendant.press("saveFinsButton"));
-    QCOMPARE(pendant.variable(Update), 1.0);
+    QCOMPARE(pendant.controller().traffic().writes().constLast().name, Update);
     QTRY_COMPARE(pendant.variable(Update), 0.0);
     QCOMPARE(plc.requests.size(), 0); // saving alone calls nobody
 
@@ -378,22 +373,23 @@ void TestFins::userLevelDrops()
 
 void TestFins::clientAsksRightly()
 {
-    Robot robot;
-    robot.plc.bytewise = true;
-    robot.enable();
+    Plc plc;
+    Robot robot(plc);
+    plc.bytewise = true;
+    robot.set(Enable, true);
     QTRY_COMPARE(robot.client().wordsRead(), 2);
     QCOMPARE(robot.value(Connected), 1.0);
     QCOMPARE(robot.value(Error), 0.0);
     QCOMPARE(robot.client().word(), quint16(1234));
-    QCOMPARE(robot.plc.requests.at(0), Magic + "0000000c000000000000000000000016");
-    QCOMPARE(robot.plc.requests.at(1), Magic + "0000001a0000000200000000"
-                                               "80000200030000160001"
-                                               "01018203e8000001");
-    QCOMPARE(robot.plc.requests.at(2).mid(50, 2), QByteArray("02"));
+    QCOMPARE(plc.requests.at(0), Magic + "0000000c000000000000000000000016");
+    QCOMPARE(plc.requests.at(1), Magic + "0000001a0000000200000000"
+                                         "80000200030000160001"
+                                         "01018203e8000001");
+    QCOMPARE(plc.requests.at(2).mid(50, 2), QByteArray("02"));
 
-    robot.enable(false);
+    robot.set(Enable, false);
     QTRY_COMPARE(robot.value(Connected), 0.0);
-    QTRY_VERIFY(robot.plc.findChildren<QTcpSocket*>().isEmpty());
+    QTRY_VERIFY(plc.findChildren<QTcpSocket*>().isEmpty());
     QCOMPARE(robot.value(Error), 0.0);
 }
 
@@ -445,19 +441,20 @@ void TestFins::clientMeetsWrongAnswers()
     QFETCH(QByteArray, nodes);
     QFETCH(QByteArray, word);
     QFETCH(QString, complaint);
-    Robot robot;
-    robot.plc.nodes = nodes;
-    robot.plc.word = word;
-    robot.enable();
+    Plc plc;
+    Robot robot(plc);
+    plc.nodes = nodes;
+    plc.word = word;
+    robot.set(Enable, true);
     QTRY_COMPARE(robot.value(Error), 1.0);
     QCOMPARE(robot.value(Connected), 0.0);
     QCOMPARE(robot.client().state(), FinsClient::State::Failed);
     QVERIFY2(robot.client().complaint().startsWith(complaint), qPrintable(robot.client().complaint()));
-    QTRY_VERIFY(robot.plc.findChildren<QTcpSocket*>().isEmpty());
+    QTRY_VERIFY(plc.findChildren<QTcpSocket*>().isEmpty());
     // Nothing of it is left for the next connection.
-    robot.plc.nodes = GoodNodes;
-    robot.plc.word = GoodWord;
-    robot.controller.writeVariable(Update, 0, 1.0);
+    plc.nodes = GoodNodes;
+    plc.word = GoodWord;
+    robot.set(Update, true);
     QTRY_COMPARE(robot.value(Connected), 1.0);
     QCOMPARE(robot.value(Error), 0.0);
 }
@@ -481,44 +478,45 @@ void TestFins::clientRefusesSettings()
 {
     QFETCH(QByteArray, file);
     Robot robot(file);
-    robot.controller.setTimeScale(1000);
-    robot.enable();
+    robot.controller().setTimeScale(1000);
+    robot.set(Enable, true);
     QTRY_COMPARE(robot.value(Error), 1.0);
     const QString complaint = robot.client().complaint();
     QVERIFY(!complaint.isEmpty());
     QTest::qWait(30);
     QCOMPARE(robot.client().complaint(), complaint);
     QCOMPARE(robot.client().state(), FinsClient::State::Failed);
-    robot.enable(false);
+    robot.set(Enable, false);
     QTRY_COMPARE(robot.value(Error), 0.0);
     QCOMPARE(robot.client().state(), FinsClient::State::Off);
 }
 
 void TestFins::clientLosesAndFindsItsServer()
 {
-    Robot robot;
-    const quint16 port = robot.plc.serverPort();
-    robot.plc.close();
-    robot.enable();
+    Plc plc;
+    Robot robot(plc);
+    const quint16 port = plc.serverPort();
+    plc.close();
+    robot.set(Enable, true);
     QTRY_COMPARE(robot.value(Error), 1.0);
     QVERIFY2(robot.client().complaint().contains("refused"), qPrintable(robot.client().complaint()));
     // Announced settings are taken over at once, not at the next try.
     Plc other;
-    robot.controller.files().write(FilePath, fileWith("127.0.0.1", QByteArray::number(other.serverPort())));
-    robot.controller.writeVariable(Update, 0, 1.0);
+    robot.controller().files().write(FilePath, fileWith("127.0.0.1", QByteArray::number(other.serverPort())));
+    robot.set(Update, true);
     QTRY_COMPARE(robot.value(Connected), 1.0);
     QCOMPARE(robot.value(Update), 0.0);
     QCOMPARE(robot.value(Error), 0.0);
 
     // A restart ends it; "connect automatically" brings it up again.
-    robot.controller.files().write(
+    robot.controller().files().write(
         FilePath, fileWith("127.0.0.1", QByteArray::number(port), "<AutoConnect>1</AutoConnect>"));
-    QVERIFY(robot.plc.listen(QHostAddress::LocalHost, port));
-    robot.controller.requestRestart();
+    QVERIFY(plc.listen(QHostAddress::LocalHost, port));
+    robot.controller().requestRestart();
     QTRY_COMPARE(robot.value(Connected), 0.0);
     QTRY_COMPARE(robot.value(Connected), 1.0);
     QCOMPARE(robot.value(Enable), 1.0);
-    QVERIFY(!robot.plc.requests.isEmpty());
+    QVERIFY(!plc.requests.isEmpty());
 }
 
 PENDANT_TEST_MAIN(TestFins)

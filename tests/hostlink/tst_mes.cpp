@@ -1,4 +1,5 @@
 #include "Faults.h"
+#include "LoneController.h"
 #include "MesServer.h"
 #include "PaintCounter.h"
 #include "PendantFixture.h"
@@ -36,20 +37,13 @@ QByteArray fileWith(const QByteArray& port, const QByteArray& index = "1")
            index + "</IpPortIndex></TcpServerConfig>";
 }
 
-// A controller alone, with its settings file.
-struct Robot
+struct Robot : LoneController
 {
     explicit Robot(const QByteArray& file)
-        : controller(directory.path())
+        : LoneController(FilePath, file, 50)
     {
-        controller.setTimeScale(50);
-        controller.files().write(FilePath, file);
     }
-    double value(const QString& name) const { return controller.readVariable(name); }
-    MesServer& server() const { return controller.behaviour<MesServer>(); }
-
-    QTemporaryDir directory;
-    SimulatedController controller;
+    MesServer& server() { return controller().behaviour<MesServer>(); }
 };
 
 } // namespace
@@ -337,7 +331,7 @@ void TestMes::serverRefusesWhatIsNoPort()
 {
     QFETCH(QByteArray, file);
     Robot robot(file);
-    robot.controller.writeVariable(Listen, 0, 1.0);
+    robot.set(Listen, true);
     QCOMPARE(robot.value(Listen), 1.0);
     QTRY_COMPARE(robot.value(Listen), 0.0);
     QCOMPARE(robot.value(Active), 0.0);
@@ -349,11 +343,11 @@ void TestMes::serverOnItsOwn()
     const quint16 port = freePort();
     Robot robot(fileWith(QByteArray::number(port)));
     // A request that is taken back is none.
-    robot.controller.writeVariable(Listen, 0, 1.0);
-    robot.controller.writeVariable(Listen, 0, 0.0);
+    robot.set(Listen, true);
+    robot.set(Listen, false);
     QTest::qWait(50);
     QCOMPARE(robot.value(Active), 0.0);
-    robot.controller.writeVariable(Listen, 0, 1.0);
+    robot.set(Listen, true);
     QTRY_COMPARE(robot.value(Active), 1.0);
 
     // More clients than it serves, and one that talks without end.
@@ -373,16 +367,16 @@ void TestMes::serverOnItsOwn()
 
     // Announced settings move a server that runs.
     const quint16 other = freePort();
-    QVERIFY(robot.controller.files().write(FilePath, fileWith(QByteArray::number(other))));
-    robot.controller.writeVariable(Update, 0, 1.0);
+    QVERIFY(robot.controller().files().write(FilePath, fileWith(QByteArray::number(other))));
+    robot.set(Update, true);
     QTRY_COMPARE(robot.value(Update), 0.0);
     QCOMPARE(robot.server().port(), other);
     QCOMPARE(robot.value(Connected), 0.0);
 
     // A restart ends it.
-    robot.controller.requestRestart();
+    robot.controller().requestRestart();
     QTRY_COMPARE(robot.value(Active), 0.0);
-    QTRY_VERIFY(robot.controller.isUp());
+    QTRY_VERIFY(robot.controller().isUp());
     QCOMPARE(robot.server().port(), quint16(0));
 }
 
