@@ -1,10 +1,14 @@
 #include "BehaviourTable.h"
 
 #include "ControllerClock.h"
+#include "DeviceNetMaster.h"
 #include "FieldbusManager.h"
 #include "FinsClient.h"
 #include "LinkStates.h"
+#include "MasterSlaveStates.h"
 #include "MesServer.h"
+#include "ModbusMaster.h"
+#include "ModbusSlave.h"
 #include "ProfisafeDevice.h"
 
 namespace {
@@ -19,8 +23,16 @@ std::unique_ptr<Behaviour> make(ControllerParts& parts)
 
 // The manager first: the others come up with the roles that it switched on.
 constexpr Maker Makers[] = {
-    make<FieldbusManager>, make<ControllerClock>, make<LinkStates>,
-    make<MesServer>,       make<FinsClient>,      make<ProfisafeDevice>,
+    make<FieldbusManager>,
+    make<ControllerClock>,
+    make<LinkStates>,
+    make<MesServer>,
+    make<FinsClient>,
+    make<ProfisafeDevice>,
+    make<MasterSlaveStates>,
+    make<ModbusSlave>,
+    make<ModbusMaster>,
+    make<DeviceNetMaster>,
 };
 
 } // namespace

@@ -30,10 +30,10 @@ constexpr Echo Echoes[] = {{1, 1}, {3, 3}, {4, 2}};
 constexpr int OutputsAtStart[] = {1, 2, 4, 6, 7, 9};
 constexpr int InputsAtStart[] = {1, 2, 6, 8, 11, 12};
 
-std::size_t elementOf(ProfisafeDevice::Block block, int bit)
+int elementOf(ProfisafeDevice::Block block, int bit)
 {
     constexpr int ElementsPerBlock = ProfisafeDevice::BitsPerBlock / BitsPerElement;
-    return static_cast<std::size_t>(block * ElementsPerBlock + bit / BitsPerElement);
+    return static_cast<int>(block) * ElementsPerBlock + bit / BitsPerElement;
 }
 
 } // namespace
@@ -77,7 +77,7 @@ void ProfisafeDevice::setBit(Block block, int bit, bool on)
 {
     if (bit < 0 || bit >= BitsPerBlock)
         return;
-    int& element = m_processData[elementOf(block, bit)];
+    int& element = m_processData[static_cast<std::size_t>(elementOf(block, bit))];
     const int mask = 1 << bit % BitsPerElement;
     element = on ? element | mask : element & ~mask;
     publish();
@@ -88,7 +88,7 @@ void ProfisafeDevice::setBit(Block block, int bit, bool on)
 bool ProfisafeDevice::bit(Block block, int bit) const
 {
     return bit >= 0 && bit < BitsPerBlock &&
-           (m_processData[elementOf(block, bit)] >> bit % BitsPerElement & 1) != 0;
+           (m_processData[static_cast<std::size_t>(elementOf(block, bit))] >> bit % BitsPerElement & 1) != 0;
 }
 
 void ProfisafeDevice::followOutputs()

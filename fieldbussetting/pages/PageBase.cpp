@@ -11,6 +11,11 @@ namespace {
 
 QWidget* makerOfNextPage = nullptr;
 
+QString fileName(ConfigFile file)
+{
+    return FileLocations::of(file).controller.section(QLatin1Char('/'), -1);
+}
+
 } // namespace
 
 class PageBase::Presence
@@ -90,9 +95,10 @@ PageBase::Answer PageBase::ask(const QString& text, MsgBox::Buttons buttons)
     return runBox(MsgBox::Information, text, buttons);
 }
 
-Outcome PageBase::failed(const TransferTexts& texts, const char* text)
+Outcome PageBase::failed(const TransferTexts& texts, const char* text, const QString& file)
 {
-    return tell(texts.kind, translated(text)) == Answer::Gone ? Outcome::Gone : Outcome::Failed;
+    const QString message = translated(text).replace(QLatin1String("%1"), file);
+    return tell(texts.kind, message) == Answer::Gone ? Outcome::Gone : Outcome::Failed;
 }
 
 Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const TransferTexts& texts)
@@ -103,9 +109,9 @@ Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const
     if (!self)
         return Outcome::Gone;
     if (!fetched)
-        return failed(texts, texts.getFailed);
+        return failed(texts, texts.getFailed, location.controller);
     if (!read(location.local))
-        return failed(texts, texts.readFailed);
+        return failed(texts, texts.readFailed, location.local);
     return Outcome::Done;
 }
 
@@ -117,7 +123,7 @@ Outcome PageBase::write(ConfigFile file, const FileOperation& operation, const T
     if (!self)
         return Outcome::Gone;
     busy.release();
-    return written ? Outcome::Done : failed(texts, texts.writeFailed);
+    return written ? Outcome::Done : failed(texts, texts.writeFailed, fileName(file));
 }
 
 Outcome PageBase::send(ConfigFile file, const TransferTexts& texts)
@@ -126,7 +132,7 @@ Outcome PageBase::send(ConfigFile file, const TransferTexts& texts)
     Busy busy(this);
     const bool sent = lib()->sendFileToCtrl(location.local, location.controller);
     busy.release();
-    return sent ? Outcome::Done : failed(texts, texts.sendFailed);
+    return sent ? Outcome::Done : failed(texts, texts.sendFailed, fileName(file));
 }
 
 Outcome PageBase::writeAndSend(ConfigFile file, const FileOperation& operation, const TransferTexts& texts)

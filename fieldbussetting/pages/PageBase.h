@@ -17,7 +17,9 @@
 /// have been closed. `Gone` says so; the caller then returns at once without touching the page.
 enum class Outcome { Done, Failed, Gone };
 
-/// The messages of a file's transfer and the kind of box that shows them. Texts in the page's own context.
+/// The messages of a file's transfer and the kind of box that shows them. Texts in the page's own context. A
+/// "%1" in a text stands for the file: its path on the controller when it cannot be fetched, its local path
+/// when it cannot be read, else its name.
 struct TransferTexts
 {
     MsgBox::Kind kind = MsgBox::Warning;
@@ -117,7 +119,7 @@ private:
     class Presence;
 
     QString translated(const char* text) const;
-    Outcome failed(const TransferTexts& texts, const char* text);
+    Outcome failed(const TransferTexts& texts, const char* text, const QString& file);
     Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons);
 
     const char* m_className;
