@@ -81,9 +81,10 @@ const Tour::Station Tour::Stations[] = {
     {"mapping", &Tour::visitMapping},
     {"devicenet-slave", &Tour::visitDeviceNetSlave},
     {"devicenet-master-editing", &Tour::visitDeviceNetMasterEditing},
-    {"slave-states", &Tour::visitSlaveStates},
     {"usb", &Tour::visitUsb},
     {"exit", &Tour::visitExit},
+    // Begins at the home screen.
+    {"slave-states", &Tour::visitSlaveStates},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
