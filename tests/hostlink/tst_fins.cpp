@@ -1,3 +1,4 @@
+#include "ControllerPanel.h"
 #include "Faults.h"
 #include "FinsClient.h"
 #include "LoneController.h"
@@ -10,6 +11,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -96,6 +99,7 @@ class TestFins : public QObject
     Q_OBJECT
 
 private slots:
+    void pageIsReachedFromThePanel();
     void pageFollowsTheClient();
     void showsTheFile_data();
     void showsTheFile();
@@ -112,6 +116,29 @@ private slots:
     void clientRefusesSettings();
     void clientLosesAndFindsItsServer();
 };
+
+void TestFins::pageIsReachedFromThePanel()
+{
+    PendantFixture pendant;
+    ControllerPanel panel(pendant.controller());
+    panel.show();
+    auto* tabs = panel.findChild<QTabWidget*>();
+    tabs->setCurrentWidget(panel.findChild<QWidget*>("hostLinkTab"));
+    auto* show = panel.findChild<QPushButton*>("showFinsPage");
+    QVERIFY(!show->isEnabled()); // the application is not open
+    QVERIFY(pendant.open());
+    QVERIFY(pendant.openPage("mesBtn"));
+    QTRY_VERIFY(show->isEnabled());
+    show->click();
+    QTRY_VERIFY(pendant.find("FinsTcpSettingWidget") && pendant.find("FinsTcpSettingWidget")->isVisible());
+    // No menu button claims the page; the next one that is pressed is the only one that is down.
+    const auto isDown = [&pendant](const char* name) { return pendant.find<QPushButton>(name)->isChecked(); };
+    QVERIFY(!isDown("mesBtn") && !isDown("heartbeatBtn"));
+    for (const char* name : {"mesBtn", "heartbeatBtn"}) {
+        QVERIFY(pendant.openPage(name));
+        QVERIFY(isDown(name) && isDown("mesBtn") != isDown("heartbeatBtn"));
+    }
+}
 
 void TestFins::pageFollowsTheClient()
 {
