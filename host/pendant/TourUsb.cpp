@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QDirIterator>
+#include <QProgressBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
 
@@ -80,7 +81,12 @@ bool Tour::visitUsb()
     if (!openPage(QStringLiteral("busSetting")))
         return false;
     MsgBoxScript::answerNext(MsgBox::Confirmed);
+    m_answer = [](QDialog& dialog) {
+        const auto* bar = dialog.findChild<QProgressBar*>(QStringLiteral("progressBar"));
+        return bar && bar->value() < 30; // until there is something to see
+    };
     bool taken = pictureOfDialog(QStringLiteral("usb-progress"), QStringLiteral("btn_export"));
+    m_answer = nullptr;
     const QStringList exported = drive.directory().entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     if (exported.isEmpty())
         return false;
