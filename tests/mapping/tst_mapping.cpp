@@ -37,7 +37,7 @@ public:
     {
     }
 
-    bool openMapping() { return open() && openPage(Button); }
+    bool openMapping() { return openPastStartPage() && openPage(Button); }
     QWidget* page() const { return find("ConfigWidget"); }
     QPushButton* button() const { return find<QPushButton>("bt_EditOrSave"); }
     bool isEditing() const { return button()->text() == QLatin1String("Save"); }

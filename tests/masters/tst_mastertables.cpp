@@ -149,7 +149,10 @@ private slots:
 private:
     static void twins();
     const Twin& twin() const { return *m_twin; }
-    bool openPage(PendantFixture& pendant) const { return pendant.open() && pendant.selectPage(twin().page); }
+    bool openPage(PendantFixture& pendant) const
+    {
+        return pendant.openPastStartPage() && pendant.selectPage(twin().page);
+    }
     QStringList visibleRows(const PendantFixture& pendant) const;
     QString light(const PendantFixture& pendant, int kind, int number) const;
     bool isTicked(const PendantFixture& pendant, const char* pattern, int number) const;
@@ -207,7 +210,7 @@ void TestMasterTables::showsAndSaves()
     QVERIFY(
         pendant.controller().files().write(twin().file, tableFile(twin(), "4", "50", "60", 0b0101, 0b1010)));
     QVERIFY(openPage(pendant));
-    QCOMPARE(pendant.controller().traffic().fetches().mid(2), QStringList({Override, twin().file}));
+    QCOMPARE(pendant.controller().traffic().fetches(), QStringList({Override, twin().file}));
     const DeviceRows devices(pendant, twin().table);
     QCOMPARE(devices.shown(),
              QStringList({"1 2 2001 EIM_DEVICE x", "2 2 2002 PNM_DEVICE ", "3 2 2003 VALVE_ISLAND ",
@@ -363,7 +366,7 @@ void TestMasterTables::transferFaults()
     QFETCH(bool, overrideStored);
     PendantFixture pendant;
     const QByteArray before = pendant.controllerFile(twin().file);
-    QVERIFY(pendant.open());
+    QVERIFY(pendant.openPastStartPage());
     MsgBoxScript::answerByDefault(MsgBox::Confirmed);
     if (whileLoading)
         QVERIFY(pendant.controller().faults().setFromText(fault));
@@ -510,7 +513,7 @@ void TestMasterTables::slavesFollowTheSavedTable()
         const bool saved = pendant.enter("lineEdit_enable_timeout", enableTimeout) &&
                            pendant.press(twin().save) &&
                            QTest::qWaitFor([&] { return !pendant.isOpen() && controller.isUp(); });
-        return saved && QTest::qWaitFor([&] { return pendant.open(); }, 20000) &&
+        return saved && QTest::qWaitFor([&] { return pendant.openPastStartPage(); }, 20000) &&
                pendant.selectPage(twin().page);
     };
     QVERIFY(pendant.enter("lineEdit_slave_count", "4"));
@@ -572,7 +575,7 @@ void TestMasterTables::userLevelDrops()
 {
     QFETCH(QString, box);
     PendantFixture pendant;
-    QVERIFY(pendant.open());
+    QVERIFY(pendant.openPastStartPage());
     const auto drop = [] { UserSession::instance().setUserLevel(1); };
     if (box.isEmpty()) {
         pendant.controller().faults().set(Faults::FetchFails);

@@ -26,7 +26,7 @@ void fit(PendantFixture& pendant, int module)
 bool openPage(PendantFixture& pendant, int module = 0)
 {
     fit(pendant, module);
-    return pendant.open() && pendant.openPage(Button);
+    return pendant.openPastStartPage() && pendant.openPage(Button);
 }
 
 // The values that the pendant gave the variable of the role.
@@ -253,7 +253,7 @@ void TestEtherCatSlave::transferFaults()
     PendantFixture pendant;
     const QByteArray before = pendant.controllerFile(file);
     fit(pendant, module);
-    QVERIFY(pendant.open());
+    QVERIFY(pendant.openPastStartPage());
     MsgBoxScript::answerByDefault(MsgBox::Confirmed);
     if (whileLoading)
         QVERIFY(pendant.controller().faults().setFromText(fault));
@@ -355,7 +355,7 @@ void TestEtherCatSlave::userLevelDrops()
     PendantFixture pendant;
     const auto drop = [] { UserSession::instance().setUserLevel(1); };
     if (box.isEmpty()) {
-        QVERIFY(pendant.open());
+        QVERIFY(pendant.openPastStartPage());
         fit(pendant, 0);
         pendant.controller().faults().set(Faults::FetchFails);
         QTimer::singleShot(350, drop);

@@ -75,6 +75,16 @@ bool PendantFixture::open()
            settle();
 }
 
+bool PendantFixture::openPastStartPage()
+{
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    const bool opened = open();
+    MsgBoxScript::clear();
+    MsgBoxScript::failUnanswered(true);
+    m_controller->traffic().clear();
+    return opened;
+}
+
 bool PendantFixture::isOpen() const
 {
     return menuPage(*m_window) && m_window->application().state() == ApplicationSlot::State::Shown;

@@ -32,6 +32,9 @@ public:
 
     /// Opens the application and waits until the menu is there and the first page has loaded.
     bool open();
+    /// The same for tests of other pages: what the start page says of the roles that are on is confirmed, and
+    /// boxes, transfers and writes are counted from here on.
+    bool openPastStartPage();
     /// Whether the application is on the screen.
     bool isOpen() const;
     /// Presses a menu button and waits until its page has loaded; answers to come are queued before.
