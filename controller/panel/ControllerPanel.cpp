@@ -1,7 +1,5 @@
 #include "ControllerPanel.h"
 
-#include "DeviceTab.h"
-#include "DeviceNetTab.h"
 #include "DeviceNetTab.h"
 #include "DeviceTab.h"
 #include "FaultTab.h"
