@@ -241,7 +241,7 @@ Refusal saveRefusal(const std::vector<BusAddrNumInfo>& buses, const QStringList&
         if (!busNames.contains(QLatin1String(check.switchName), Qt::CaseInsensitive))
             continue;
         const BusAddrNumInfo& bus = buses.at(static_cast<std::size_t>(check.bus));
-        if (const Refusal refusal = savedBytesRefusal(check, freeMode, bus.readOnly.user))
+        if (Refusal refusal = savedBytesRefusal(check, freeMode, bus.readOnly.user))
             return refusal;
     }
     return {};

@@ -5,39 +5,9 @@
 #include "ZelFunctions.h"
 #include "ui_DeviceNetMasterSetting.h"
 
-#include <QHeaderView>
-
 namespace {
 
 using List = DeviceNetScanList;
-
-struct TableColumn
-{
-    const char* caption;
-    int width; // pixels
-};
-
-// In the order of DeviceNetScanList::Column. Together with the scroll bar and the frame they are as wide as
-// the table, 808 px.
-constexpr TableColumn Columns[] = {
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "DEVICEID"), 91},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "MACID"), 71},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "IN"), 56},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "OUT"), 56},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "VENDOR"), 106},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "PROD"), 86},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "REVISION"), 116},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "CFG_FLAG"), 74},
-    {QT_TRANSLATE_NOOP("DeviceNetMasterSetting", "CONNECT"), 120},
-};
-static_assert(std::size(Columns) == List::ColumnCount);
-
-constexpr int HeaderHeight = 35;
-constexpr int RowHeight = 40;
-// What is wider than its column is set narrower rather than smaller.
-constexpr int CaptionStretch = 75; // per cent
-constexpr int FlagStretch = 85;    // "0x4444"
-constexpr int StateStretch = 68;   // "Disconnected::12"
 
 constexpr double HighestStation = 63;
 constexpr double ShortestScan = 1; // ms
@@ -62,13 +32,6 @@ const char* refusalText(List::Verdict verdict)
     return nullptr;
 }
 
-QFont stretched(int percent)
-{
-    QFont font;
-    font.setStretch(percent);
-    return font;
-}
-
 // A value that the combo does not offer leaves it as it is.
 void choose(QComboBox* combo, const QString& text)
 {
@@ -84,7 +47,9 @@ DeviceNetMasterSetting::DeviceNetMasterSetting()
     , ui(std::make_unique<Ui::DeviceNetMasterSetting>())
 {
     ui->setupUi(this);
-    buildTable();
+    // Queued: the page may go while the keyboard is open, and a table does not survive that in its signal.
+    connect(ui->deviceTable, &QTableWidget::cellClicked, this,
+            &DeviceNetMasterSetting::slotDeviceTableClicked, Qt::QueuedConnection);
     connectSettings();
     setEditing(false);
     applyStyle();
@@ -92,24 +57,6 @@ DeviceNetMasterSetting::DeviceNetMasterSetting()
 }
 
 DeviceNetMasterSetting::~DeviceNetMasterSetting() = default;
-
-void DeviceNetMasterSetting::buildTable()
-{
-    QTableWidget* table = ui->deviceTable;
-    table->setColumnCount(List::ColumnCount);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setFixedHeight(HeaderHeight);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->horizontalHeader()->setStretchLastSection(true); // without a scroll bar
-    table->horizontalHeader()->setFont(stretched(CaptionStretch));
-    for (int column = 0; column < List::ColumnCount; ++column) {
-        table->setHorizontalHeaderItem(column, new QTableWidgetItem(tr(Columns[column].caption)));
-        table->setColumnWidth(column, Columns[column].width);
-    }
-    // Queued: the page may go while the keyboard is open, and a table does not survive that in its signal.
-    connect(table, &QTableWidget::cellClicked, this, &DeviceNetMasterSetting::slotDeviceTableClicked,
-            Qt::QueuedConnection);
-}
 
 // The settings reach the record as they are made; what is filled in from a file does not come back.
 void DeviceNetMasterSetting::connectSettings()
@@ -138,7 +85,7 @@ void DeviceNetMasterSetting::slotGetFileToUi()
     busy.release();
     m_list.load(lib()->deviceNetMaster);
     fillSettings();
-    fillTable();
+    ui->deviceTable->showList(m_list);
 }
 
 void DeviceNetMasterSetting::fillSettings()
@@ -148,32 +95,6 @@ void DeviceNetMasterSetting::fillSettings()
     ui->le_ratio->setText(QString::number(record.PACHET_RATIO));
     choose(ui->cbb_baudrate, QString::number(record.BAUDRATE));
     choose(ui->cbb_endian, record.ENDIAN);
-}
-
-void DeviceNetMasterSetting::fillTable()
-{
-    ui->deviceTable->setRowCount(0);
-    for (int row = 0; row < m_list.count(); ++row)
-        showRow(row);
-}
-
-// Appends the row when the table does not have it yet.
-void DeviceNetMasterSetting::showRow(int row)
-{
-    QTableWidget* table = ui->deviceTable;
-    if (row == table->rowCount()) {
-        table->insertRow(row);
-        table->setRowHeight(row, RowHeight);
-        for (int column = 0; column < List::ColumnCount; ++column) {
-            auto* item = new QTableWidgetItem;
-            item->setTextAlignment(Qt::AlignCenter);
-            table->setItem(row, column, item);
-        }
-        table->item(row, List::CfgFlag)->setFont(stretched(FlagStretch));
-        table->item(row, List::Connect)->setFont(stretched(StateStretch));
-    }
-    for (int column = 0; column < List::Connect; ++column)
-        table->item(row, column)->setText(m_list.text(row, column));
 }
 
 void DeviceNetMasterSetting::setEditing(bool on)
@@ -191,7 +112,7 @@ void DeviceNetMasterSetting::setEditing(bool on)
 void DeviceNetMasterSetting::on_btn_add_clicked()
 {
     m_list.append();
-    showRow(m_list.count() - 1);
+    ui->deviceTable->showRow(m_list, m_list.count() - 1);
     ui->deviceTable->scrollToBottom();
     ui->btn_add->setEnabled(!m_list.isFull());
 }
@@ -211,7 +132,7 @@ void DeviceNetMasterSetting::slotDeviceTableClicked(int row, int column)
     m_row = row;
     m_column = column;
     const List::Range range = List::rangeOf(column);
-    const QString caption = tr("Device %1: %2").arg(row + 1).arg(tr(Columns[column].caption));
+    const QString caption = tr("Device %1: %2").arg(row + 1).arg(DeviceNetTable::caption(column));
     const QPointer<DeviceNetMasterSetting> self(this);
     m_keyboardOpen = true;
     ZelExecNumericKeyboard(m_list.number(row, column), range.minimum, range.maximum,
@@ -228,7 +149,7 @@ void DeviceNetMasterSetting::slotSetValue(double value)
     takeLimits();
     const List::Verdict verdict = m_list.set(m_row, m_column, value);
     if (verdict == List::Verdict::Stored)
-        showRow(m_row);
+        ui->deviceTable->showRow(m_list, m_row);
     else
         tell(MsgBox::Warning, tr(refusalText(verdict)));
 }
@@ -286,8 +207,8 @@ void DeviceNetMasterSetting::refreshStatus()
 {
     for (int row = 0; row < ui->deviceTable->rowCount(); ++row) {
         const bool connected = lib()->get_ifidbus_dnm_status(row);
-        ui->deviceTable->item(row, List::Connect)
-            ->setText(connected ? tr("Connected")
-                                : tr("Disconnected::%1").arg(lib()->get_ifidbus_dnm_errorcode(row)));
+        ui->deviceTable->showConnection(
+            row,
+            connected ? tr("Connected") : tr("Disconnected::%1").arg(lib()->get_ifidbus_dnm_errorcode(row)));
     }
 }

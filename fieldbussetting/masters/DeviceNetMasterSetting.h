@@ -32,11 +32,8 @@ private slots:
     void on_btn_edit_clicked();
 
 private:
-    void buildTable();
     void connectSettings();
     void fillSettings();
-    void fillTable();
-    void showRow(int row);
     void setEditing(bool on);
     void takeLimits();
     void save();

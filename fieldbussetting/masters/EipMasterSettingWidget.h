@@ -18,7 +18,8 @@ public:
 
 private slots:
     void on_saveBt_EipM_clicked();
-    void on_dynalm_checkbox__clicked();
+    // Two underscores: the name of the check box ends in one.
+    void on_dynalm_checkbox__clicked(); // NOLINT(bugprone-reserved-identifier)
 
 private:
     static const Master& master();

@@ -54,7 +54,7 @@ void DeviceNetSlaverSetting::slotGetFileToUi()
 }
 
 // Only what is entered is checked: an odd MAC ID of the file is shown, and saved, as it stands.
-void DeviceNetSlaverSetting::slotCheckMACIDFormat(QString text)
+void DeviceNetSlaverSetting::slotCheckMACIDFormat(const QString& text)
 {
     if (text.trimmed().toInt() % 2 == 0)
         m_acceptedMacId = text;

@@ -25,7 +25,7 @@ public:
 
 private slots:
     void on_btn_save_clicked();
-    void slotCheckMACIDFormat(QString text); // NOLINT(performance-unnecessary-value-param): the signal's type
+    void slotCheckMACIDFormat(const QString& text);
     void getFileSaveStatus();
     void slotGetFileToUi();
 

@@ -15,6 +15,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -83,8 +84,9 @@ const Tour::Station Tour::Stations[] = {
     {"devicenet-master-editing", &Tour::visitDeviceNetMasterEditing},
     {"usb", &Tour::visitUsb},
     {"exit", &Tour::visitExit},
-    // Begins at the home screen.
     {"slave-states", &Tour::visitSlaveStates},
+    {"masters", &Tour::visitMasters},
+    {"slave-module", &Tour::visitSlaveModule},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
@@ -380,6 +382,49 @@ bool Tour::visitSlaveStates()
     controller.writeVariable(profisafe, 0, 0.0);
     return controller.storeFile(portsPath, ports) && pressAndSettle(find(QStringLiteral("exitBtn"))) &&
            reached;
+}
+
+bool Tour::visitMasters()
+{
+    if (!pressAndSettle(find(QStringLiteral("applicationTile"))))
+        return false;
+    for (const char* button : {"etherCatMBtn", "pnmBtn", "eipMasterBtn"}) {
+        if (!openHiddenPage(QLatin1String(button)) || !report(pageClass()))
+            return false;
+    }
+    // Every state of the lights, with all slaves and with none.
+    constexpr int Positions = 9;
+    for (int position = 0; position < Positions; ++position) {
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.eim_status"), position, position % 2);
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.eim_enable_status"), position,
+                                           position % 3);
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.eim_disable_status"), position,
+                                           (position + 1) % 3);
+    }
+    auto* count = qobject_cast<QLineEdit*>(find(QStringLiteral("lineEdit_slave_count")));
+    if (!count)
+        return false;
+    for (const int slaves : {Positions, 0}) {
+        count->setText(QString::number(slaves));
+        if (!settle() || !report(QStringLiteral("eip-master-%1-slaves").arg(slaves)))
+            return false;
+    }
+    return pressAndSettle(find(QStringLiteral("btn_reset")));
+}
+
+// The page of the EtherCAT slave decides for a face when it is built.
+bool Tour::visitSlaveModule()
+{
+    const QString module = QStringLiteral("ifidbus.anybus_fm");
+    constexpr int EtherCatModule = 13;
+    const double before = m_subject.controller.readVariable(module, 0);
+    m_subject.controller.writeVariable(module, 0, EtherCatModule);
+    const bool reported = pressAndSettle(find(QStringLiteral("exitBtn"))) &&
+                          pressAndSettle(find(QStringLiteral("applicationTile"))) &&
+                          openHiddenPage(QStringLiteral("etherCatBtn")) &&
+                          report(QStringLiteral("ethercat-slave-module"));
+    m_subject.controller.writeVariable(module, 0, before);
+    return reported && pressAndSettle(find(QStringLiteral("exitBtn")));
 }
 
 bool Tour::openPage(const QString& button)

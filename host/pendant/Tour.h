@@ -67,6 +67,9 @@ private:
     bool openHiddenPage(const QString& button);
     bool leave();
     bool reopen();
+    bool visitMasters();
+    bool visitSlaveModule();
+    /// The same, whether or not the role of the page is switched on.
     bool pictureOfDialog(const QString& name, const QString& button);
     bool pressAndSettle(QWidget* target);
     bool type(const QString& edit, const QString& text);

@@ -489,9 +489,8 @@ void TestMasterTables::lightsFollowTheStates()
         // A state of its own for each position, so that a light that follows another one shows.
         for (int index = 0; index < 9; ++index)
             pendant.controller().variables().set(name, index, States[(index + round) % 4]);
-        QTest::qWait(250);
         for (int index = 0; index < 9; ++index)
-            QCOMPARE(light(pendant, kind, index + 1), images[(index + round) % 4]);
+            QTRY_COMPARE(light(pendant, kind, index + 1), images[(index + round) % 4]);
     }
 }
 
@@ -562,14 +561,10 @@ void TestMasterTables::userLevelDrops_data()
     QTest::addColumn<int>("twin");
     QTest::addColumn<QString>("box");
     QTest::addColumn<QStringList>("stores");
-    for (int index = 0; index < 2; ++index) {
-        const Twin& twin = Twins[index];
-        QTest::addRow("%s: while fetching", twin.name) << index << "" << QStringList();
-        QTest::addRow("%s: in the question", twin.name) << index << Sure << QStringList();
-        QTest::addRow("%s: in the restart question", twin.name) << index << Restart << QStringList(Override);
-        QTest::addRow("%s: in the last failure", twin.name)
-            << index << twin.sendText << QStringList({Override, twin.file});
-    }
+    QTest::newRow("while fetching") << 0 << "" << QStringList();
+    QTest::newRow("in the question") << 1 << Sure << QStringList();
+    QTest::newRow("in the restart question") << 0 << Restart << QStringList(Override);
+    QTest::newRow("in the last failure") << 1 << Twins[1].sendText << QStringList({Override, Twins[1].file});
 }
 
 // The application goes away under a slot that waits; nothing may be touched afterwards.

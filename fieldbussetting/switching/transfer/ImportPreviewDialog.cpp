@@ -43,21 +43,24 @@ ImportPreviewDialog::ImportPreviewDialog(const QString& folderName, const std::v
     ui->setupUi(this);
     applyStyle();
     ui->label_title->setText(tr("Import of %1").arg(folderName));
-    showFiles(entries);
+    showFiles(entries, roles.brokenRules.isEmpty());
     showRoles(roles);
 
-    const bool changes =
+    const bool possible =
+        roles.brokenRules.isEmpty() &&
         std::any_of(entries.begin(), entries.end(), [](const ImportEntry& entry) { return entry.isSent(); });
-    ui->importButton->setVisible(changes && roles.brokenRules.isEmpty());
+    ui->importButton->setVisible(possible);
+    if (!possible)
+        ui->cancelButton->setText(tr("Close"));
     connect(ui->importButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(ui->cancelButton, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 ImportPreviewDialog::~ImportPreviewDialog() = default;
 
-void ImportPreviewDialog::showFiles(const std::vector<ImportEntry>& entries)
+void ImportPreviewDialog::showFiles(const std::vector<ImportEntry>& entries, bool possible)
 {
-    TransferTable::prepare(*ui->fileTable, QAbstractItemView::NoSelection);
+    TransferTable::prepare(*ui->fileTable, {tr("File"), tr("State")}, QAbstractItemView::NoSelection);
     QStringList summary;
     for (const StateRow& row : States) {
         summary << tr("%1: %2").arg(tr(row.text)).arg(count(entries, row.state));
@@ -72,18 +75,23 @@ void ImportPreviewDialog::showFiles(const std::vector<ImportEntry>& entries)
     }
     const QString outlook =
         count(entries, ImportEntry::Different) + count(entries, ImportEntry::New) == 0
-            ? tr("The controller holds this configuration already.")
-            : tr("Different and new files will replace those of the controller; the others stay.");
-    ui->label_summary->setText(tr("%1\nFiles  %2").arg(outlook, summary.join(QStringLiteral("    "))));
+            ? tr("The controller holds these files already.")
+            : tr("Different and new files replace those of the controller; the others stay.");
+    ui->label_summary->setText((possible ? outlook + QLatin1Char('\n') : QString()) +
+                               summary.join(QStringLiteral("    ")));
 }
 
 void ImportPreviewDialog::showRoles(const ImportedRoles& roles)
 {
-    TransferTable::prepare(*ui->roleTable, QAbstractItemView::NoSelection);
+    TransferTable::prepare(*ui->roleTable, {tr("Bus switch"), tr("Now"), tr("After")},
+                           QAbstractItemView::NoSelection);
     const auto text = [](bool on) { return on ? tr("ON") : tr("OFF"); };
-    for (const ImportedRole& role : roles.roles)
-        TransferTable::addRow(*ui->roleTable, {role.name, text(role.now), text(role.after)},
-                              role.now != role.after);
+    for (const bool changed : {true, false}) {
+        for (const ImportedRole& role : roles.roles) {
+            if ((role.now != role.after) == changed)
+                TransferTable::addRow(*ui->roleTable, {role.name, text(role.now), text(role.after)}, changed);
+        }
+    }
     ui->roleTable->setVisible(!roles.roles.empty());
 
     const bool refused = !roles.brokenRules.isEmpty();

@@ -22,7 +22,7 @@ public:
     ~ImportPreviewDialog() override;
 
 private:
-    void showFiles(const std::vector<ImportEntry>& entries);
+    void showFiles(const std::vector<ImportEntry>& entries, bool possible);
     void showRoles(const ImportedRoles& roles);
 
     std::unique_ptr<Ui::ImportPreviewDialog> ui;
