@@ -21,6 +21,9 @@ constexpr unsigned long IdlePauseUs = 500; // keeps a wait without events from o
 
 } // namespace
 
+// The interface hands paths over by value.
+// NOLINTBEGIN(performance-unnecessary-value-param)
+
 FieldbusSettingLib* FieldbusSettingLib::s_instance = nullptr;
 
 FieldbusSettingLib* FieldbusSettingLib::getInstance()
@@ -280,3 +283,5 @@ bool FieldbusSettingLib::writeFinsTcpFile(QString path)
 {
     return HandleBusFiles::getInstance()->writeFinsTcpFile(path, finsClient);
 }
+
+// NOLINTEND(performance-unnecessary-value-param)

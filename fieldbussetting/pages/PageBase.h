@@ -17,7 +17,9 @@
 /// have been closed. `Gone` says so; the caller then returns at once without touching the page.
 enum class Outcome { Done, Failed, Gone };
 
-/// The messages of a file's transfer and the kind of box that shows them. Texts in the page's own context.
+/// The messages of a file's transfer and the kind of box that shows them. Texts in the page's own context. A
+/// "%1" in a text stands for the file: its path on the controller when it cannot be fetched, its local path
+/// when it cannot be read, else its name.
 struct TransferTexts
 {
     MsgBox::Kind kind = MsgBox::Warning;
@@ -41,6 +43,10 @@ class PageBase : public QWidget
 public:
     /// `className` is the key of the page's style sheet and the context of its texts.
     explicit PageBase(const char* className);
+
+    /// Makes a page for `maker`, which owns it once it has been put into it. A page that waits in its
+    /// constructor counts as gone when `maker` goes meanwhile: it shows nothing more and is to be deleted.
+    static PageBase* make(PageBase* (*create)(), QWidget* maker);
 
     /// Called on each idle tick of the host while the page is visible.
     virtual void refreshStatus() {}
@@ -109,10 +115,15 @@ protected:
     void offerRestart(Restart::Way way);
 
 private:
+    /// Looks after the page while events are processed: false when the page is gone.
+    class Presence;
+
     QString translated(const char* text) const;
-    Outcome failed(const TransferTexts& texts, const char* text);
+    Outcome failed(const TransferTexts& texts, const char* text, const QString& file);
+    Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons);
 
     const char* m_className;
+    QPointer<QWidget> m_maker;
 };
 
 template <typename Page>

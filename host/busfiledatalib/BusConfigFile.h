@@ -23,6 +23,8 @@ public:
     bool isEnabled(const QString& role) const;
     /// Takes the roles that the file has over, by name.
     void setRoles(const QMap<QString, BusName>& roles);
+    /// Back to the file that was taken over last.
+    void revert() { parse(QByteArray(m_source)); }
 
 private:
     QByteArray m_source;

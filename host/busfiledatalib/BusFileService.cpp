@@ -39,6 +39,7 @@ void BusFileService::resetSession()
     m_observers.clear();
     m_notified.fill(false);
     m_queue = std::make_unique<QObject>();
+    m_watched.clear();
     g_lastBusType = -1;
 }
 
@@ -66,6 +67,7 @@ void BusFileService::fetch(File file)
                          (file == FieldbusXml ? config.parse(bytes) : mapping.parse(bytes));
     if (!success)
         qCWarning(lcHost) << "could not fetch and read" << Paths[file];
+    watchRestarts(link);
     notifyLater(file, 0, success);
 }
 
@@ -76,7 +78,28 @@ void BusFileService::send(File file)
     const bool success = link && !bytes.isEmpty() && link->storeFile(QLatin1String(Paths[file]), bytes);
     if (!success)
         qCWarning(lcHost) << "could not write and send" << Paths[file];
+    if (file == FieldbusXml) {
+        if (success)
+            config.parse(bytes);
+        else
+            config.revert();
+    }
     notifyLater(file, 1, success);
+}
+
+// A restart may bring up other files than those that were read. What is held stays for the application that
+// is open; the next one that opens reads anew.
+void BusFileService::watchRestarts(ControllerLink* link)
+{
+    if (!link || link == m_watched)
+        return;
+    m_watched = link;
+    m_wasUp = link->isUp();
+    QObject::connect(link, &ControllerLink::stateChanged, m_queue.get(), [this, link] {
+        if (link->isUp() && !m_wasUp)
+            m_notified.fill(false);
+        m_wasUp = link->isUp();
+    });
 }
 
 void BusFileService::notifyLater(File file, int kind, bool success)
@@ -116,7 +139,10 @@ int BusFileService::performanceValue(int bus, int current, bool on) const
         return current & ~bit;
     if (known->role && !config.isEnabled(QLatin1String(known->role)))
         return -1;
-    // One bus at a time: the page of the one that loses it unticks its box when it is shown next.
+    // One bus at a time: the page of the one that loses it unticks its box when it is shown next. A loser
+    // whose page was not shown since, and that takes it back, is none any more.
+    if (g_lastBusType == bus)
+        g_lastBusType = -1;
     for (const PerformanceBus& other : PerformanceBuses) {
         if (other.number != bus && (current & (1 << other.number)) != 0)
             g_lastBusType = other.number;

@@ -6,11 +6,13 @@
 #include "BusMappingFile.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <array>
 #include <vector>
 
 class BusObserver;
+class ControllerLink;
 
 /// What stands behind `BusFileDataManager`: the two files as they were last read or set, and the observers.
 /// Every result is notified on a later event-loop turn.
@@ -29,12 +31,13 @@ public:
     void attach(BusObserver* observer);
     void detach(BusObserver* observer);
 
-    /// Whether a file that was read is held and its result was notified. A failure does not count: the next
-    /// one who asks tries again.
+    /// Whether a file that was read is held and its result was notified. A failure does not count, and
+    /// neither does what was read before the controller restarted: the next one who asks tries again.
     bool isNotified(File file) const { return m_notified[file]; }
     void fetch(File file);
     /// Sends the file with what was set. Without a file that was read there is nothing to send, and the
-    /// notified result is false.
+    /// notified result is false. Roles that could not be sent are forgotten: the controller does not have
+    /// them.
     void send(File file);
 
     BusConfigFile config;
@@ -46,11 +49,14 @@ public:
 
 private:
     bool isAttached(const BusObserver* observer) const;
+    void watchRestarts(ControllerLink* link);
     void notifyLater(File file, int kind, bool success);
     void notify(File file, int kind, bool success);
 
     std::vector<BusObserver*> m_observers;
     std::array<bool, 2> m_notified{};
+    QPointer<ControllerLink> m_watched;
+    bool m_wasUp = true;
     std::unique_ptr<QObject> m_queue = std::make_unique<QObject>(); ///< receives the queued notifications
 };
 

@@ -86,18 +86,11 @@ QByteArray block(const QByteArray& macId, const QByteArray& lines)
 
 Q_DECLARE_METATYPE(DeviceNetMasterConfig)
 
-class TestDeviceNetFiles : public QObject
+class TestDeviceNetFiles : public LibTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_fixture = std::make_unique<LibFixture>();
-        QVERIFY(m_fixture->isReady());
-    }
-    void cleanup() { m_fixture.reset(); }
-
     void theSlaveIsRead_data();
     void theSlaveIsRead();
     void theSlaveIsWritten();
@@ -112,9 +105,6 @@ private slots:
     void writesThatFailLeaveTheFile();
     void aNewPathTakesTheLocalHeader();
     void thePlantsFileComesThroughUnchanged();
-
-private:
-    std::unique_ptr<LibFixture> m_fixture;
 };
 
 void TestDeviceNetFiles::theSlaveIsRead_data()

@@ -34,18 +34,11 @@ QString text(const FinsClientConfig& record)
 
 } // namespace
 
-class TestHostLinkFiles : public QObject
+class TestHostLinkFiles : public LibTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_fixture = std::make_unique<LibFixture>();
-        QVERIFY(m_fixture->isReady());
-    }
-    void cleanup() { m_fixture.reset(); }
-
     void filesAreRead_data();
     void filesAreRead();
     void numbersAreRead_data();
@@ -53,9 +46,6 @@ private slots:
     void mesIsWritten();
     void finsIsWritten();
     void filesCutShortLeaveTheRecord();
-
-private:
-    std::unique_ptr<LibFixture> m_fixture;
 };
 
 void TestHostLinkFiles::filesAreRead_data()

@@ -92,18 +92,11 @@ QByteArray sampleTableFile(const QByteArray& root)
 Q_DECLARE_METATYPE(Twin)
 Q_DECLARE_METATYPE(MtcpMasterConfig)
 
-class TestMasterFiles : public QObject
+class TestMasterFiles : public LibTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_fixture = std::make_unique<LibFixture>();
-        QVERIFY(m_fixture->isReady());
-    }
-    void cleanup() { m_fixture.reset(); }
-
     void mtcpIsRead_data();
     void mtcpIsRead();
     void mtcpIsWritten_data();
@@ -115,9 +108,6 @@ private slots:
     void filesCutShortLeaveTheRecord();
     void foldersOfOneLevelAreMade();
     void aFailedWriteLeavesTheFile();
-
-private:
-    std::unique_ptr<LibFixture> m_fixture;
 };
 
 void TestMasterFiles::mtcpIsRead_data()

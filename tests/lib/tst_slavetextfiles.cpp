@@ -40,18 +40,11 @@ bool writeEipFree(FieldbusSettingLib& lib)
 
 Q_DECLARE_METATYPE(Step)
 
-class TestSlaveTextFiles : public QObject
+class TestSlaveTextFiles : public LibTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_fixture = std::make_unique<LibFixture>();
-        QVERIFY(m_fixture->isReady());
-    }
-    void cleanup() { m_fixture.reset(); }
-
     void pfbIsReadUpToItsLines_data();
     void pfbIsReadUpToItsLines();
     void eipIsRead_data();
@@ -63,9 +56,6 @@ private slots:
     void anOlderCopyServesAsTemplateOnce();
     void aFailedWriteLeavesTheTarget_data();
     void aFailedWriteLeavesTheTarget();
-
-private:
-    std::unique_ptr<LibFixture> m_fixture;
 };
 
 void TestSlaveTextFiles::pfbIsReadUpToItsLines_data()

@@ -10,6 +10,9 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
 
 /// The bytes of a literal, the NULs in it too.
 template <int Size>
@@ -80,6 +83,23 @@ private:
     QString m_previous;
     QTemporaryDir m_root;
     bool m_entered = false;
+};
+
+/// A test of the library: a fresh fixture for each test function.
+class LibTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_fixture = std::make_unique<LibFixture>();
+        QVERIFY(m_fixture->isReady());
+    }
+    void cleanup() { m_fixture.reset(); }
+
+protected:
+    std::unique_ptr<LibFixture> m_fixture;
 };
 
 #endif

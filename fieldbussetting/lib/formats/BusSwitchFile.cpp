@@ -43,6 +43,21 @@ void clearAllButProfinetMaster(BusSwitchSet& switches)
     switches.ProfinetMaster = profinetMaster;
 }
 
+// Nothing is escaped when the file is saved, and values are put into double quotes: one of those in a value
+// has to be escaped before, or the file would be broken.
+struct QuoteEscaper : pugi::xml_tree_walker
+{
+    bool for_each(pugi::xml_node& node) override
+    {
+        for (pugi::xml_attribute attribute : node.attributes()) {
+            QByteArray value = attribute.value();
+            if (value.contains('"'))
+                attribute.set_value(value.replace('"', "&quot;").constData());
+        }
+        return true;
+    }
+};
+
 } // namespace
 
 bool HandleBusFiles::readFieldbusCfg(const QString& path, BusSwitchSet& switches, bool isImport)
@@ -79,5 +94,7 @@ bool HandleBusFiles::writeFieldbusCfg(const QString& path)
         if (name.compare(QLatin1String("ProfinetSlave"), Qt::CaseInsensitive) == 0)
             entry.child("enable").first_child().set_value("0");
     }
+    QuoteEscaper escaper;
+    document.traverse(escaper);
     return XmlFile::save(path, document, pugi::format_no_escapes);
 }

@@ -24,6 +24,7 @@ namespace {
 
 constexpr std::string_view MasterSlot = " 2 ";
 constexpr std::string_view SlaveSlot = " 1 ";
+
 std::string_view firstWord(std::string_view line, std::string_view separators)
 {
     const std::size_t begin = line.find_first_not_of(separators);
@@ -88,10 +89,11 @@ void readNumber(OverrideEntry& entry, Number OverrideEntry::*field, std::string_
 {
     bool isNumber = false;
     Number value{};
+    const QByteArray digits = bytes(AsciiText::trimmed(text)); // a tab may stand before the comment
     if constexpr (std::is_signed_v<Number>)
-        value = bytes(text).toInt(&isNumber);
+        value = digits.toInt(&isNumber);
     else
-        value = bytes(text).toUInt(&isNumber);
+        value = digits.toUInt(&isNumber);
     if (isNumber)
         entry.*field = value;
     else
@@ -190,9 +192,10 @@ private:
 bool switchOn(std::string_view line, QByteArray& out)
 {
     const std::string_view word = firstWord(line, Blanks);
-    if (isSelected(line, MasterSlot) && isDirective(word) && !contains(word, ";"))
-        out.append(';');
-    return TextTemplate::keep(line, out);
+    if (!isSelected(line, MasterSlot) || !isDirective(word) || contains(word, ";"))
+        return TextTemplate::keep(line, out);
+    appendActivated(line, true, out);
+    return true;
 }
 
 bool switchOff(std::string_view line, QByteArray& out)

@@ -7,7 +7,30 @@
 /// Reading and replacing of local files as a whole.
 namespace WholeFile {
 
-/// Reads all bytes; false when the file cannot be opened or is beyond what any controller file can be.
+/// An open file of known size, to be read into memory that the caller brings.
+class Reader
+{
+public:
+    explicit Reader(const QString& path);
+    ~Reader();
+    Reader(const Reader&) = delete;
+    Reader& operator=(const Reader&) = delete;
+
+    /// False when there is no such file, or one that is beyond what any controller file can be.
+    bool isOpen() const { return m_descriptor >= 0; }
+    /// In bytes.
+    std::size_t size() const { return m_size; }
+    /// Reads `size()` bytes; false when they cannot be had.
+    bool read(void* memory) const;
+
+private:
+    void close();
+
+    int m_descriptor;
+    std::size_t m_size = 0;
+};
+
+/// Reads all bytes; false as `Reader` says.
 bool read(const QString& path, QByteArray& content);
 
 /// Replaces the file in one step: it holds either the old bytes or the new ones. The buffer is flushed and

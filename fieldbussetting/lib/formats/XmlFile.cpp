@@ -7,8 +7,8 @@
 #include <QDir>
 #include <QTextCodec>
 
-#include <clocale>
 #include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale and uselocale are POSIX
+#include <memory>
 
 namespace XmlFile {
 
@@ -55,10 +55,14 @@ QByteArray encoded(QString text)
 
 bool load(const QString& path, pugi::xml_document& document)
 {
-    QByteArray content;
-    return WholeFile::read(path, content) &&
-           document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
-                                pugi::parse_pi);
+    const WholeFile::Reader file(path);
+    if (!file.isOpen())
+        return false;
+    // The document parses in place and keeps the memory.
+    std::unique_ptr<void, pugi::deallocation_function> memory(
+        pugi::get_memory_allocation_function()(file.size() + 1), pugi::get_memory_deallocation_function());
+    return memory && file.read(memory.get()) &&
+           document.load_buffer_inplace_own(memory.release(), file.size(), pugi::parse_pi);
 }
 
 void appendPrologue(pugi::xml_document& document)
