@@ -1,14 +1,9 @@
 // The I/O mapping page: opened, its largest table refilled, its tick while nothing is to be done.
-#include "BaseZelCustomData.h"
-#include "BusFileService.h"
-#include "CurrentLink.h"
-#include "MemoryLink.h"
-#include "PluginEntry.h"
+#include "PageBench.h"
 #include "ZelBaseWidget.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
-#include <QMetaMethod>
 
 #include <benchmark/benchmark.h>
 
@@ -16,6 +11,7 @@
 
 namespace {
 
+constexpr int HeartbeatPage = 6;
 constexpr int MappingPage = 7;
 
 QByteArray area(const char* direction, const QByteArray& quantity, const QByteArray& system)
@@ -30,70 +26,37 @@ QByteArray area(const char* direction, const QByteArray& quantity, const QByteAr
     return text + "</Area>";
 }
 
-// The application on a controller in memory, with every role on and the seven rows of the fixed Modbus TCP
-// slave, each of which differs between the directions.
-class Application
+// Every role on, and the seven rows of the fixed Modbus TCP slave, each of which differs between the
+// directions.
+QMap<QString, QByteArray> controllerFiles()
 {
-public:
-    Application()
-    {
-        QByteArray roles = "<Fieldbus>";
-        for (const char* role :
-             {"ModbusTcpSlave", "EtherCatSlave", "EtherNetIPSlave", "ProfinetSlave", "EtherCatMaster",
-              "DeviceNetSlave", "EtherNetIPMaster", "ProfinetMaster", "DeviceNetMaster"})
-            roles += QByteArray("<Bus name=\"") + role + "\" enable=\"1\"/>";
-        m_link.files["/application/fidbus/fieldbus.xml"] = roles + "</Fieldbus>";
-        m_link.files["/application/fidbus/fieldbus_config.xml"] =
-            "<FieldbusConfig><Mode name=\"fixed\"><Bus name=\"ModbusTcpSlave\">" + area("ro", "16", "2") +
-            area("wo", "32", "4") + "</Bus></Mode></FieldbusConfig>";
-        setCurrentLink(&m_link);
-        BusFileService::instance().resetSession();
-        m_data.reset(CreateZelCustomData());
-        m_widget.reset(CreateZelCustomWidget(m_data.get(), nullptr));
-        m_widget->resize(1024, 680);
-        m_data->currentWidget = m_widget.get();
-        m_widget->show();
-        while (!m_data->currentCentralWidget()->isVisible())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    ~Application()
-    {
-        m_widget.reset();
-        m_data.reset();
-        setCurrentLink(nullptr);
-    }
-    Application(const Application&) = delete;
-    Application& operator=(const Application&) = delete;
-
-    ZelBaseWidget* widget() const { return m_widget.get(); }
-
-    void openMapping()
-    {
-        QMetaObject::invokeMethod(m_data->currentCentralWidget(), "slotMenuBtnsClicked",
-                                  Q_ARG(int, MappingPage));
-        const auto* label = m_widget->findChild<QWidget*>(QStringLiteral("tableView_Dnm"));
-        const auto* tabs = m_widget->findChild<QWidget*>(QStringLiteral("tab_2"));
-        // Filled when the tab of the master, which the fixed mode does not have, is gone.
-        while (!label || !tabs || tabs->isEnabled())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-
-private:
-    MemoryLink m_link;
-    std::unique_ptr<BaseZelCustomData> m_data;
-    std::unique_ptr<ZelBaseWidget> m_widget;
-};
+    QByteArray roles = "<Fieldbus>";
+    for (const char* role :
+         {"ModbusTcpSlave", "EtherCatSlave", "EtherNetIPSlave", "ProfinetSlave", "EtherCatMaster",
+          "DeviceNetSlave", "EtherNetIPMaster", "ProfinetMaster", "DeviceNetMaster"})
+        roles += QByteArray("<Bus name=\"") + role + "\" enable=\"1\"/>";
+    return {{"/application/fidbus/fieldbus.xml", roles + "</Fieldbus>"},
+            {"/application/fidbus/fieldbus_config.xml",
+             "<FieldbusConfig><Mode name=\"fixed\"><Bus name=\"ModbusTcpSlave\">" + area("ro", "16", "2") +
+                 area("wo", "32", "4") + "</Bus></Mode></FieldbusConfig>"}};
+}
 
 // From the press on the menu button to a page that is filled.
 void openMappingPage(benchmark::State& state)
 {
     for (auto _ : state) {
         state.PauseTiming();
-        auto application = std::make_unique<Application>();
+        auto bench = std::make_unique<PageBench>(HeartbeatPage, controllerFiles());
+        QWidget& application = bench->application();
+        auto* menu = application.findChild<QWidget*>(QStringLiteral("FbMainWidget"));
         state.ResumeTiming();
-        application->openMapping();
+        QMetaObject::invokeMethod(menu, "slotMenuBtnsClicked", Q_ARG(int, MappingPage));
+        // Filled when the tab of the master, which the fixed mode does not have, is gone.
+        const auto* masterTab = application.findChild<QWidget*>(QStringLiteral("tab_2"));
+        while (masterTab->isEnabled())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         state.PauseTiming();
-        application.reset();
+        bench.reset();
         state.ResumeTiming();
     }
 }
@@ -101,11 +64,10 @@ void openMappingPage(benchmark::State& state)
 // Every cell of the seven rows, and the tips, by a change of direction; `paint` puts it on the screen.
 void refill(benchmark::State& state, bool paint)
 {
-    Application application;
-    application.openMapping();
-    auto* page = application.widget()->findChild<QWidget*>(QStringLiteral("ConfigWidget"));
-    auto* readOnly = page->findChild<QAbstractButton*>(QStringLiteral("checkBox_Mtcp_RO"));
-    auto* writeOnly = page->findChild<QAbstractButton*>(QStringLiteral("checkBox_Mtcp_WO"));
+    PageBench bench(MappingPage, controllerFiles());
+    const QWidget& application = bench.application();
+    auto* readOnly = application.findChild<QAbstractButton*>(QStringLiteral("checkBox_Mtcp_RO"));
+    auto* writeOnly = application.findChild<QAbstractButton*>(QStringLiteral("checkBox_Mtcp_WO"));
     bool write = false;
     for (auto _ : state) {
         write = !write;
@@ -128,17 +90,21 @@ void refillAndPaintLargestTable(benchmark::State& state)
 // The host's tick with the page in viewing mode and no save under way.
 void tickOfMappingPage(benchmark::State& state)
 {
-    Application application;
-    application.openMapping();
-    ZelBaseWidget* widget = application.widget();
-    const QMetaMethod idle = widget->metaObject()->method(widget->metaObject()->indexOfSlot("slotIdle()"));
+    PageBench bench(MappingPage, controllerFiles());
+    const WidgetWork work;
+    const long long before = allocationCount();
     for (auto _ : state)
-        idle.invoke(widget, Qt::DirectConnection);
+        bench.tick();
+    state.counters["allocations"] = benchmark::Counter(static_cast<double>(allocationCount() - before),
+                                                       benchmark::Counter::kAvgIterations);
+    QCoreApplication::processEvents();
+    state.counters["styles"] = work.styleChanges;
+    state.counters["paints"] = work.paints;
 }
 
 } // namespace
 
-BENCHMARK(openMappingPage)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(openMappingPage)->Unit(benchmark::kMillisecond)->Iterations(5);
 BENCHMARK(refillLargestTable)->Unit(benchmark::kMicrosecond);
 BENCHMARK(refillAndPaintLargestTable)->Unit(benchmark::kMicrosecond);
 BENCHMARK(tickOfMappingPage);

@@ -132,11 +132,11 @@ void BusMappingTab::buildTable()
     m_table->setFocusPolicy(Qt::NoFocus);
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_table->setWordWrap(false);
+    m_table->setWordWrap(true); // a row has room for two lines
     // As high as its rows when there is room, and scrolled when there is not.
     m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
     m_table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
-    m_table->setMinimumHeight(HeaderHeight + RowHeight + 2 * m_table->frameWidth());
+    m_table->setMinimumHeight(heightOf(1));
 
     QStringList captions;
     for (const ColumnLook& column : Columns)
@@ -158,6 +158,11 @@ void BusMappingTab::buildTable()
     numbers->setDefaultSectionSize(RowHeight);
     numbers->setFixedWidth(RowNumberWidth);
     numbers->setDefaultAlignment(Qt::AlignCenter);
+}
+
+int BusMappingTab::heightOf(int rows) const
+{
+    return HeaderHeight + rows * RowHeight + 2 * m_table->frameWidth();
 }
 
 QString BusMappingTab::captionOf(Bus bus)
@@ -202,6 +207,9 @@ void BusMappingTab::showTable(const MappingModel& model, bool editing)
             setText(m_table->verticalHeaderItem(row), QString::number(++rowNumber));
         ++row;
     }
+    // A table asks for more than a single row takes.
+    if (m_table->maximumHeight() != heightOf(rowNumber))
+        m_table->setMaximumHeight(heightOf(rowNumber));
     if (!marked.isEmpty() || m_table->selectionModel()->hasSelection())
         m_table->selectionModel()->select(marked, QItemSelectionModel::ClearAndSelect);
 }

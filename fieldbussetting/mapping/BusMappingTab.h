@@ -38,6 +38,7 @@ public:
 private:
     void buildTable();
     void setRowCount(int count);
+    int heightOf(int rows) const;
 
     Mapping::Bus m_bus;
     QButtonGroup* m_directions;
