@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int HeartbeatPage = 6;
+constexpr int EipMasterPage = 11;
 
 QByteArray heartbeatFile()
 {
@@ -16,9 +17,15 @@ QByteArray heartbeatFile()
            "Fidbus>";
 }
 
-void heartbeatTick(benchmark::State& state)
+// Nine slaves: 27 values and 27 lights.
+QByteArray masterFile()
 {
-    PageBench page(HeartbeatPage, {{"/application/fidbus/heartbeat.xml", heartbeatFile()}});
+    return "<EipMasterCommunication><Group><SlaveNum>9</SlaveNum></Group></EipMasterCommunication>";
+}
+
+void measureTick(benchmark::State& state, int id, const QMap<QString, QByteArray>& files)
+{
+    PageBench page(id, files);
     const WidgetWork work;
     const long long before = allocationCount();
     for (auto _ : state)
@@ -30,6 +37,19 @@ void heartbeatTick(benchmark::State& state)
     state.counters["paints"] = work.paints;
 }
 
+void heartbeatTick(benchmark::State& state)
+{
+    measureTick(state, HeartbeatPage, {{"/application/fidbus/heartbeat.xml", heartbeatFile()}});
+}
+
+void eipMasterTick(benchmark::State& state)
+{
+    measureTick(state, EipMasterPage,
+                {{"/application/fidbus/eipmaster/eip_master.xml", masterFile()},
+                 {"/fa/override.cfg", "ECAT_SLAVE_OFF 2 2001;EIM_DEVICE\n"}});
+}
+
 } // namespace
 
 BENCHMARK(heartbeatTick);
+BENCHMARK(eipMasterTick);
