@@ -25,6 +25,7 @@ public:
         PendantWindow& window;
         ControllerLink& controller;
         QWidget* panel; ///< the window that drives the controller
+        int modbusPort; ///< of a Modbus slave on this machine, whose unit id is 1
         /// The controller's files that were fetched since the last call.
         std::function<QStringList()> takeFetches;
     };
@@ -51,12 +52,28 @@ private:
     bool visitNumericKeyboard();
     bool visitLogIn();
     bool visitPanel();
+    bool visitMes();
+    bool visitFins();
+    bool visitModbusMaster();
+    bool visitMapping();
+    bool visitDeviceNetSlave();
+    bool visitDeviceNetMasterEditing();
     bool visitExit();
+    bool visitSlaveStates();
     bool visitUsb(); // TourUsb.cpp
 
     bool openPage(const QString& button);
+    bool reportMappingTabs(const QString& mode);
+    bool openHiddenPage(const QString& button);
+    bool leave();
+    bool reopen();
+    bool visitMasters();
+    bool visitSlaveModule();
+    /// The same, whether or not the role of the page is switched on.
     bool pictureOfDialog(const QString& name, const QString& button);
     bool pressAndSettle(QWidget* target);
+    bool type(const QString& edit, const QString& text);
+    bool waitForVariable(const QString& name, double value);
     bool settle();
     bool isBusy() const;
     QWidget* find(const QString& name) const;
