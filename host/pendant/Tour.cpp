@@ -9,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -63,10 +64,15 @@ QString joined(const QStringList& texts)
 } // namespace
 
 const Tour::Station Tour::Stations[] = {
-    {"home", &Tour::visitHome},       {"menu", &Tour::visitMenu},
-    {"pages", &Tour::visitPages},     {"heartbeat-lights", &Tour::visitHeartbeatLights},
-    {"message", &Tour::visitMessage}, {"numeric-keyboard", &Tour::visitNumericKeyboard},
-    {"log-in", &Tour::visitLogIn},    {"panel", &Tour::visitPanel},
+    {"home", &Tour::visitHome},
+    {"menu", &Tour::visitMenu},
+    {"pages", &Tour::visitPages},
+    {"heartbeat-lights", &Tour::visitHeartbeatLights},
+    {"message", &Tour::visitMessage},
+    {"numeric-keyboard", &Tour::visitNumericKeyboard},
+    {"log-in", &Tour::visitLogIn},
+    {"panel", &Tour::visitPanel},
+    {"bus-switches", &Tour::visitBusSwitches},
     {"exit", &Tour::visitExit},
 };
 
@@ -182,6 +188,29 @@ bool Tour::visitPanel()
     return reported;
 }
 
+bool Tour::visitBusSwitches()
+{
+    if (!openPage(QStringLiteral("busSetting")))
+        return false;
+    // Of the two DeviceNet roles one is refused while the other is on.
+    auto* master = qobject_cast<QComboBox*>(find(QStringLiteral("devnetmSwitch")));
+    auto* slave = qobject_cast<QComboBox*>(find(QStringLiteral("devnetSwitch")));
+    if (!master || !slave)
+        return false;
+    slave->setCurrentIndex(0);
+    master->setCurrentIndex(1);
+    const bool warned = pictureOfDialog(QStringLiteral("bus-switch-warning"), [slave] {
+        slave->setCurrentIndex(1);
+        return true;
+    });
+    // Cancelled, which takes the switches back; then confirmed, which changes nothing and shows the wait.
+    if (!warned || !pictureOfDialog(QStringLiteral("bus-switch-question"), QStringLiteral("saveBusBt")))
+        return false;
+    m_confirmNext = true;
+    return Finger::press(find(QStringLiteral("saveBusBt"))) && report(QStringLiteral("bus-switch-wait")) &&
+           settle() && report(QStringLiteral("bus-switch-saved"));
+}
+
 bool Tour::visitExit()
 {
     // Opened again from the home screen, so that a second life of the application is seen as well.
@@ -201,10 +230,15 @@ bool Tour::openPage(const QString& button)
 
 bool Tour::pictureOfDialog(const QString& name, const QString& button)
 {
+    return pictureOfDialog(name, [this, button] { return Finger::press(find(button)); });
+}
+
+bool Tour::pictureOfDialog(const QString& name, const std::function<bool()>& act)
+{
     m_wantedDialog = name;
     m_dialogTaken = false;
     m_dialogSeen = false;
-    const bool settled = pressAndSettle(find(button));
+    const bool settled = act() && settle();
     m_wantedDialog.clear();
     return settled && m_dialogTaken;
 }
@@ -291,7 +325,11 @@ void Tour::answerDialog()
         m_messages.append(box->text());
         m_errorShown = m_errorShown || box->kind() == MsgBox::Error;
     }
-    dialog->reject();
+    auto* confirm = dialog->findChild<QAbstractButton*>(QStringLiteral("confirmButton"));
+    if (std::exchange(m_confirmNext, false) && confirm)
+        confirm->click();
+    else
+        dialog->reject();
 }
 
 bool Tour::report(const QString& name, QWidget* shown)

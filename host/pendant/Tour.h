@@ -50,10 +50,12 @@ private:
     bool visitNumericKeyboard();
     bool visitLogIn();
     bool visitPanel();
+    bool visitBusSwitches();
     bool visitExit();
 
     bool openPage(const QString& button);
     bool pictureOfDialog(const QString& name, const QString& button);
+    bool pictureOfDialog(const QString& name, const std::function<bool()>& act);
     bool pressAndSettle(QWidget* target);
     bool settle();
     bool isBusy() const;
@@ -69,6 +71,7 @@ private:
     int m_pictures = 0;
     QString m_wantedDialog;     ///< name of the picture that the next dialog is to give
     bool m_dialogTaken = false; ///< ... and it was taken
+    bool m_confirmNext = false; ///< the next dialog is confirmed, not dismissed
     bool m_dialogSeen = false;  ///< the dialog was on the screen for one round of the timer
     QStringList m_fetches;      ///< of this stop
     QStringList m_messages;     ///< of this stop
