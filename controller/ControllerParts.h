@@ -4,6 +4,7 @@
 #include "BusRoles.h"
 #include "Faults.h"
 #include "FileStore.h"
+#include "Links.h"
 #include "SimulatedTime.h"
 #include "Traffic.h"
 #include "VariableStore.h"
@@ -19,6 +20,7 @@ struct ControllerParts
     FileStore files;
     VariableStore variables;
     BusRoles roles;
+    Links links;
     Faults faults;
     Traffic traffic;
     SimulatedTime time;

@@ -33,12 +33,12 @@ static_assert(std::size(Descriptions) == Faults::FaultCount, "a row a fault");
 
 } // namespace
 
-void Faults::set(Fault fault, int times, const QString& target)
+void Faults::set(Fault fault, int times, const QString& target, int spared)
 {
     if (times == 0)
         clear(fault);
     else
-        m_states.insert(fault, {times, target});
+        m_states.insert(fault, {times, target, spared});
 }
 
 void Faults::clear(Fault fault)
@@ -73,6 +73,10 @@ bool Faults::strikes(Fault fault, const QString& target)
     if (state == m_states.end() ||
         (!state->target.isEmpty() && state->target.compare(target, Qt::CaseInsensitive) != 0))
         return false;
+    if (state->spared > 0) {
+        --state->spared;
+        return false;
+    }
     if (state->times > 0 && --state->times == 0)
         m_states.erase(state);
     return true;

@@ -28,9 +28,9 @@ public:
         FaultCount
     };
 
-    /// Sets `fault` for the next `times` occurrences (-1: until cleared). With a `target` only what it
-    /// names (a controller path, a variable) is hit.
-    void set(Fault fault, int times = -1, const QString& target = QString());
+    /// Sets `fault` for the next `times` occurrences (-1: until cleared), after `spared` that go well. With a
+    /// `target` only what it names (a controller path, a variable) is hit and counted.
+    void set(Fault fault, int times = -1, const QString& target = QString(), int spared = 0);
     void clear(Fault fault);
     void clearAll();
     bool isSet(Fault fault) const;
@@ -54,6 +54,7 @@ private:
     {
         int times = 0;
         QString target;
+        int spared = 0;
     };
     QMap<int, State> m_states;
 };

@@ -3,6 +3,7 @@
 #include "BehaviourTable.h"
 #include "FieldbusManager.h"
 #include "LinkStates.h"
+#include "ModbusSlave.h"
 
 #include <utility>
 
@@ -214,4 +215,14 @@ bool SimulatedController::setRoleOn(const QString& role, bool on)
 bool SimulatedController::setLinkUp(const QString& role, bool up)
 {
     return behaviour<LinkStates>().setCablePlugged(role, up);
+}
+
+void SimulatedController::setModbusPort(int port)
+{
+    behaviour<ModbusSlave>().setPort(port);
+}
+
+int SimulatedController::modbusPort() const
+{
+    return behaviour<ModbusSlave>().port();
 }

@@ -62,6 +62,11 @@ public:
     bool setRoleOn(const QString& role, bool on);
     /// Plugs or unplugs the simulated cable of a bus role ("EtherCatSlave"); false when it has none.
     bool setLinkUp(const QString& role, bool up);
+    /// Opens the Modbus TCP slave to clients on this machine, at TCP port `port`, 0 for any free one. Until
+    /// then no port of the machine is taken.
+    void setModbusPort(int port);
+    /// The port that the Modbus TCP slave serves, 0 while it serves none.
+    int modbusPort() const;
 
     /// The behaviour of type `T`; every type in the table of behaviours is there.
     template <typename T>

@@ -45,6 +45,11 @@ void Traffic::addWrite(const QString& name, int element, double value)
     emit logged(QStringLiteral("write %1[%2] = %3").arg(name).arg(element).arg(value, 0, 'g', 10));
 }
 
+void Traffic::addNote(const QString& text)
+{
+    emit logged(text);
+}
+
 void Traffic::addRestartRequest(bool taken)
 {
     ++m_restartRequests;

@@ -40,6 +40,8 @@ public:
     void addTransfer(Kind kind, const QString& path, bool success);
     void addWrite(const QString& name, int element, double value);
     void addRestartRequest(bool taken);
+    /// Something that happened at the controller by itself; for the log only.
+    void addNote(const QString& text);
 
     static constexpr int MaxEntries = 10000;
 

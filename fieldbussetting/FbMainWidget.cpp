@@ -166,8 +166,11 @@ void FbMainWidget::slotMenuBtnsClicked(int id)
     if (!self || !page)
         return;
     ui->fieldbusSetSWidget->setCurrentWidget(page);
-    if (QAbstractButton* button = m_menuButtons->button(id))
-        button->setChecked(true);
+    // For a page without a button none is pressed, which an exclusive group does not allow.
+    QAbstractButton* button = m_menuButtons->button(id);
+    m_menuButtons->setExclusive(button != nullptr);
+    if (QAbstractButton* marked = button ? button : m_menuButtons->checkedButton())
+        marked->setChecked(button != nullptr);
     ZelSwitchWidgetVariablesContext();
 }
 
@@ -182,7 +185,7 @@ PageBase* FbMainWidget::pageOf(int id)
     // again, before it is there.
     const QPointer<FbMainWidget> self(this);
     const int outerPage = std::exchange(m_pageInTheMaking, id);
-    std::unique_ptr<PageBase> page(entry.create());
+    std::unique_ptr<PageBase> page(PageBase::make(entry.create, this));
     if (!self)
         return nullptr;
     m_pageInTheMaking = outerPage;

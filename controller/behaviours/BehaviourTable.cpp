@@ -1,8 +1,15 @@
 #include "BehaviourTable.h"
 
 #include "ControllerClock.h"
+#include "DeviceNetMaster.h"
 #include "FieldbusManager.h"
+#include "FinsClient.h"
 #include "LinkStates.h"
+#include "MasterSlaveStates.h"
+#include "MesServer.h"
+#include "ModbusMaster.h"
+#include "ModbusSlave.h"
+#include "ProfisafeDevice.h"
 
 namespace {
 
@@ -19,6 +26,13 @@ constexpr Maker Makers[] = {
     make<FieldbusManager>,
     make<ControllerClock>,
     make<LinkStates>,
+    make<MesServer>,
+    make<FinsClient>,
+    make<ProfisafeDevice>,
+    make<MasterSlaveStates>,
+    make<ModbusSlave>,
+    make<ModbusMaster>,
+    make<DeviceNetMaster>,
 };
 
 } // namespace

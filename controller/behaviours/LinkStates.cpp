@@ -16,7 +16,9 @@ LinkStates::LinkStates(ControllerParts& controllerParts)
     : Behaviour(controllerParts)
 {
     // A cell in which everything is well would not show what a lost link looks like.
-    m_unplugged.insert(QStringLiteral("EtherNetIPSlave"));
+    parts().links.setPlugged(QStringLiteral("EtherNetIPSlave"), false);
+    connect(&parts().links, &Links::cableChanged, this, &LinkStates::update);
+    connect(&parts().links, &Links::partnerChanged, this, &LinkStates::update);
 }
 
 bool LinkStates::setCablePlugged(const QString& role, bool plugged)
@@ -24,18 +26,25 @@ bool LinkStates::setCablePlugged(const QString& role, bool plugged)
     const bool known =
         std::any_of(LinkedBusRoles.begin(), LinkedBusRoles.end(),
                     [&role](const BusRole& candidate) { return role == QLatin1String(candidate.name); });
-    if (!known)
-        return false;
-    if (plugged)
-        m_unplugged.remove(role);
-    else
-        m_unplugged.insert(role);
+    if (known)
+        parts().links.setPlugged(role, plugged);
+    return known;
+}
+
+bool LinkStates::isCablePlugged(const QString& role) const
+{
+    return parts().links.isPlugged(role);
+}
+
+void LinkStates::restarted()
+{
+    m_controllerUp = true;
     update();
-    return true;
 }
 
 void LinkStates::wentDown()
 {
+    m_controllerUp = false;
     for (const BusRole& role : LinkedBusRoles)
         parts().variables.set(QLatin1String(role.linkVariable), 0.0);
     parts().variables.set(communicationState(), 0.0);
@@ -43,9 +52,11 @@ void LinkStates::wentDown()
 
 void LinkStates::update()
 {
+    if (!m_controllerUp)
+        return;
     int communication = 0;
     for (const BusRole& role : LinkedBusRoles) {
-        const bool up = parts().roles.isOn(role.name) && isCablePlugged(QLatin1String(role.name));
+        const bool up = parts().roles.isOn(role.name) && parts().links.isUp(QLatin1String(role.name));
         parts().variables.set(QLatin1String(role.linkVariable), up ? 1.0 : 0.0);
         if (up && role.communicationBit >= 0)
             communication |= 1 << role.communicationBit;

@@ -3,10 +3,8 @@
 
 #include "Behaviour.h"
 
-#include <QSet>
-
-/// The link states of the bus roles: a link is up when its role runs and its simulated cable is plugged in.
-/// A cable stays as it is over a restart.
+/// The link states of the bus roles: a link is up when its role runs, its simulated cable is plugged in and,
+/// where the partner is a real one (`Links`), that is connected. A cable stays as it is over a restart.
 class LinkStates : public Behaviour
 {
     Q_OBJECT
@@ -16,16 +14,16 @@ public:
 
     /// Plugs or unplugs the cable of a role ("EtherCatSlave"); false when there is no such role.
     bool setCablePlugged(const QString& role, bool plugged);
-    bool isCablePlugged(const QString& role) const { return !m_unplugged.contains(role); }
+    bool isCablePlugged(const QString& role) const;
 
-    void restarted() override { update(); }
+    void restarted() override;
     void rolesChanged() override { update(); }
     void wentDown() override;
 
 private:
     void update();
 
-    QSet<QString> m_unplugged;
+    bool m_controllerUp = false;
 };
 
 #endif

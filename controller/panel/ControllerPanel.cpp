@@ -1,9 +1,15 @@
 #include "ControllerPanel.h"
 
+#include "DeviceTab.h"
+#include "DeviceNetTab.h"
+#include "DeviceNetTab.h"
+#include "DeviceTab.h"
 #include "FaultTab.h"
+#include "HostLinkTab.h"
 #include "LinkTab.h"
 #include "LogTab.h"
 #include "RobotTab.h"
+#include "SlaveTab.h"
 #include "VariableTab.h"
 
 #include <QTabWidget>
@@ -25,9 +31,19 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
 
     addTab(new RobotTab(controller), QStringLiteral("robotTab"), tr("Robot"));
     addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
+    addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
+    addTab(new SlaveTab(controller), QStringLiteral("slaveTab"), tr("Slaves"));
+    addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
+    addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
+    addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
     addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
     addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
     addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));
+    addTab(new DeviceTab(controller), QStringLiteral("deviceTab"), tr("Devices"));
+    addTab(new VariableTab(controller), QStringLiteral("variableTab"), tr("Variables"));
+    addTab(new FaultTab(controller), QStringLiteral("faultTab"), tr("Faults"));
+    addTab(new LogTab(controller), QStringLiteral("logTab"), tr("Log"));
+    addTab(new SlaveTab(controller), QStringLiteral("slaveTab"), tr("Slaves"));
 
     connect(&m_timer, &QTimer::timeout, this, &ControllerPanel::refresh);
     connect(m_tabs, &QTabWidget::currentChanged, this, &ControllerPanel::refresh);

@@ -131,16 +131,9 @@ std::array<FileLocation, ConfigCount> configLocations()
 std::vector<TransferFile> transferFiles()
 {
     std::vector<TransferFile> files(std::begin(TransferRows), std::end(TransferRows));
-    for (TransferFile& file : files) {
-        // A sub-directory of the staging directory is localised on its own, after its name was appended;
-        // what lies deeper is not.
-        QStringList parts = QString(QLatin1String(file.folder)).split(QLatin1Char('/'), Qt::SkipEmptyParts);
-        const QString directory = parts.isEmpty()
-                                      ? stagingDirectory()
-                                      : localised(stagingDirectory() + QLatin1Char('/') + parts.takeFirst());
+    for (TransferFile& file : files)
         file.staging =
-            (QStringList(directory) + parts + QStringList(QLatin1String(file.name))).join(QLatin1Char('/'));
-    }
+            stagingFolder(QLatin1String(file.folder)) + QLatin1Char('/') + QLatin1String(file.name);
     return files;
 }
 
@@ -156,6 +149,17 @@ const QString& stagingDirectory()
 {
     static const QString path = localised(QStringLiteral("../Application/fidbus/im-export"));
     return path;
+}
+
+// A sub-directory of the staging directory is localised on its own, after its name was appended; what lies
+// deeper is not.
+QString stagingFolder(const QString& folder)
+{
+    QStringList parts = folder.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    const QString directory = parts.isEmpty()
+                                  ? stagingDirectory()
+                                  : localised(stagingDirectory() + QLatin1Char('/') + parts.takeFirst());
+    return (QStringList(directory) + parts).join(QLatin1Char('/'));
 }
 
 const FileLocation& of(ConfigFile file)

@@ -51,6 +51,9 @@ const FileLocation& of(ConfigFile file);
 const QString& workingDirectory();
 /// Staging directory of import and export, localised.
 const QString& stagingDirectory();
+/// Sub-folder of the staging directory, localised: "fixed", "SlaveConfig/EtherCAT"; the directory itself for
+/// "".
+QString stagingFolder(const QString& folder);
 
 /// The bus configuration and the I/O mapping belong to the bus file data service, which fetches them itself.
 extern const char* const FieldbusXml;

@@ -5,16 +5,11 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace {
 
-// The box is the page's child, so that it goes when the page does; it may be gone before `exec` returns.
-int runBox(MsgBox::Kind kind, const QString& text, QWidget* page, MsgBox::Buttons buttons)
-{
-    const QPointer<MsgBox> box(new MsgBox(kind, text, page, buttons));
-    const int result = box->exec();
-    delete box.data();
-    return result;
-}
+QWidget* makerOfNextPage = nullptr;
 
 QString fileName(ConfigFile file)
 {
@@ -23,9 +18,30 @@ QString fileName(ConfigFile file)
 
 } // namespace
 
+class PageBase::Presence
+{
+public:
+    explicit Presence(PageBase* page)
+        : m_page(page)
+    {
+    }
+    /// A page that is not put anywhere yet is being made.
+    explicit operator bool() const { return m_page && (m_page->parentWidget() || m_page->m_maker); }
+
+private:
+    QPointer<PageBase> m_page;
+};
+
 PageBase::PageBase(const char* className)
     : m_className(className)
+    , m_maker(std::exchange(makerOfNextPage, nullptr))
 {
+}
+
+PageBase* PageBase::make(PageBase* (*create)(), QWidget* maker)
+{
+    makerOfNextPage = maker;
+    return create();
 }
 
 PageBase::Busy::Busy(PageBase* page)
@@ -56,18 +72,27 @@ QString PageBase::translated(const char* text) const
     return QCoreApplication::translate(m_className, text);
 }
 
+// The box is the page's child, so that it goes when the page does; it may be gone before `exec` returns.
+// While the page is made nobody owns it, and the box is its maker's.
+PageBase::Answer PageBase::runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons)
+{
+    const Presence self(this);
+    if (!self)
+        return Answer::Gone;
+    const QPointer<MsgBox> box(new MsgBox(kind, text, parentWidget() ? this : m_maker.data(), buttons));
+    const int result = box->exec();
+    delete box.data();
+    return self ? static_cast<Answer>(result) : Answer::Gone;
+}
+
 PageBase::Answer PageBase::tell(MsgBox::Kind kind, const QString& text)
 {
-    const QPointer<PageBase> self(this);
-    const int result = runBox(kind, text, this, MsgBox::Ok);
-    return self ? static_cast<Answer>(result) : Answer::Gone;
+    return runBox(kind, text, MsgBox::Ok);
 }
 
 PageBase::Answer PageBase::ask(const QString& text, MsgBox::Buttons buttons)
 {
-    const QPointer<PageBase> self(this);
-    const int result = runBox(MsgBox::Information, text, this, buttons);
-    return self ? static_cast<Answer>(result) : Answer::Gone;
+    return runBox(MsgBox::Information, text, buttons);
 }
 
 Outcome PageBase::failed(const TransferTexts& texts, const char* text, const QString& file)
@@ -78,7 +103,7 @@ Outcome PageBase::failed(const TransferTexts& texts, const char* text, const QSt
 
 Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const TransferTexts& texts)
 {
-    const QPointer<PageBase> self(this);
+    const Presence self(this);
     const FileLocation& location = FileLocations::of(file);
     const bool fetched = lib()->getFileFromCtrl(location.local, location.controller);
     if (!self)
@@ -92,7 +117,7 @@ Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const
 
 Outcome PageBase::write(ConfigFile file, const FileOperation& operation, const TransferTexts& texts)
 {
-    const QPointer<PageBase> self(this);
+    const Presence self(this);
     Busy busy(this);
     const bool written = operation(FileLocations::of(file).local);
     if (!self)

@@ -44,6 +44,10 @@ public:
     /// `className` is the key of the page's style sheet and the context of its texts.
     explicit PageBase(const char* className);
 
+    /// Makes a page for `maker`, which owns it once it has been put into it. A page that waits in its
+    /// constructor counts as gone when `maker` goes meanwhile: it shows nothing more and is to be deleted.
+    static PageBase* make(PageBase* (*create)(), QWidget* maker);
+
     /// Called on each idle tick of the host while the page is visible.
     virtual void refreshStatus() {}
     /// Told once, right after construction, whether free bus configuration is switched on.
@@ -111,10 +115,15 @@ protected:
     void offerRestart(Restart::Way way);
 
 private:
+    /// Looks after the page while events are processed: false when the page is gone.
+    class Presence;
+
     QString translated(const char* text) const;
     Outcome failed(const TransferTexts& texts, const char* text, const QString& file);
+    Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons);
 
     const char* m_className;
+    QPointer<QWidget> m_maker;
 };
 
 template <typename Page>

@@ -380,11 +380,15 @@ void BusSettingWidget::announce()
                            "invalid."));
 }
 
+bool BusSettingWidget::canHaveProfinetSlave() const
+{
+    return m_running[PfnSlave] || m_profisafePresent ||
+           (lib()->get_ifidbus_ctr_type() && lib()->get_ifidbus_anybus_fm() == ProfinetModule);
+}
+
 void BusSettingWidget::refreshStatus()
 {
-    const bool managed = m_running[PfnSlave] || m_profisafePresent ||
-                         (lib()->get_ifidbus_ctr_type() && lib()->get_ifidbus_anybus_fm() == ProfinetModule);
-    if (managed && !m_pfnSlaveManaged) {
+    if (canHaveProfinetSlave() && !m_pfnSlaveManaged) {
         m_pfnSlaveManaged = true;
         combo(PfnSlave)->setEnabled(true);
         const QSignalBlocker blocker(combo(PfnSlave));
@@ -514,8 +518,3 @@ void BusSettingWidget::restart()
     m_exit.withdraw();
     tell(MsgBox::Information, tr("Please manually power off and restart the robot!"));
 }
-
-// Connected by the transfer from and to a drive.
-void BusSettingWidget::on_btn_import_clicked() {}
-
-void BusSettingWidget::on_btn_export_clicked() {}

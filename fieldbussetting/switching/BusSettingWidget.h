@@ -15,7 +15,13 @@
 #include <memory>
 #include <optional>
 
+class ImportTransfer;
+class ProgressDialog;
 class QComboBox;
+struct ExportFolder;
+struct ImportEntry;
+struct ImportedRoles;
+struct TransferResult;
 
 namespace Ui {
 class BusSettingWidget;
@@ -87,6 +93,24 @@ private:
     void giveSaveUp(const QStringList& messages);
     void sendSwitches();
     void restart();
+    /// Whether the controller can run the PROFINET slave.
+    bool canHaveProfinetSlave() const;
+
+    // The two buttons: BusSettingTransfer.cpp
+    ProgressDialog* progressDialog();
+    void importFolder(const QString& drive, const ExportFolder& folder);
+    // False: it ended, with its message, and the page may be gone.
+    bool prepareImport(const QString& drive, const ExportFolder& folder, ImportTransfer& transfer,
+                       std::vector<ImportEntry>& entries, ImportedRoles& roles);
+    bool isImportWanted(const ExportFolder& folder, const std::vector<ImportEntry>& entries,
+                        const ImportedRoles& roles);
+    TransferResult sendImport(ImportTransfer& transfer, int steps);
+    void finishImport();
+    void failImport(const TransferResult& result, ImportTransfer& transfer);
+    QString notPutBackText(const ImportTransfer& transfer) const;
+    void offerPutBack(ImportTransfer& transfer);
+    bool putBack(ImportTransfer& transfer);
+    bool settleUnfinishedImport();
 
     std::unique_ptr<Ui::BusSettingWidget> ui;
     std::array<QComboBox*, BusSwitches::Count> m_combos{};
@@ -109,6 +133,7 @@ private:
     std::optional<Busy> m_busy;
     WaitNotice m_notice;
     ExitPermission m_exit;
+    ProgressDialog* m_progress = nullptr; ///< made on first use, a child of the page
 };
 
 #endif

@@ -139,7 +139,10 @@ int BusFileService::performanceValue(int bus, int current, bool on) const
         return current & ~bit;
     if (known->role && !config.isEnabled(QLatin1String(known->role)))
         return -1;
-    // One bus at a time: the page of the one that loses it unticks its box when it is shown next.
+    // One bus at a time: the page of the one that loses it unticks its box when it is shown next. A loser
+    // whose page was not shown since, and that takes it back, is none any more.
+    if (g_lastBusType == bus)
+        g_lastBusType = -1;
     for (const PerformanceBus& other : PerformanceBuses) {
         if (other.number != bus && (current & (1 << other.number)) != 0)
             g_lastBusType = other.number;

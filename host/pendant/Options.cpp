@@ -45,7 +45,8 @@ Options Options::parse(const QStringList& arguments, const QStringList& faultNam
          "NAME[:N[:TARGET]]"},
         {"user-level", tr("User level at the start, 0 to %1.").arg(LogInDialog::HighestLevel), "N"},
         {"time-scale", tr("How much faster than real time the pendant and the controller wait."), "X"},
-        {"mtcp-port", tr("TCP port of the controller's Modbus server."), "N"},
+        {"mtcp-port",
+         tr("TCP port of the controller's Modbus slave (default: 1502, any free one for the tour)."), "N"},
         {"help", tr("Tell all options."), nullptr},
     };
 

@@ -1,9 +1,12 @@
 #include "Tour.h"
 
 #include "ApplicationSlot.h"
+#include "BusFileDataManager.h"
 #include "ControllerLink.h"
 #include "Finger.h"
 #include "MsgBox.h"
+#include "MsgBoxScript.h"
+#include "NumericKeyboardScript.h"
 #include "PendantWindow.h"
 #include "ZelBaseWidget.h"
 
@@ -13,8 +16,10 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QTabWidget>
 #include <QTextStream>
 
 #include <algorithm>
@@ -72,8 +77,18 @@ const Tour::Station Tour::Stations[] = {
     {"numeric-keyboard", &Tour::visitNumericKeyboard},
     {"log-in", &Tour::visitLogIn},
     {"panel", &Tour::visitPanel},
+    {"mes", &Tour::visitMes},
+    {"fins", &Tour::visitFins},
+    {"modbus-master", &Tour::visitModbusMaster},
+    {"mapping", &Tour::visitMapping},
+    {"devicenet-slave", &Tour::visitDeviceNetSlave},
+    {"devicenet-master-editing", &Tour::visitDeviceNetMasterEditing},
+    {"usb", &Tour::visitUsb},
     {"bus-switches", &Tour::visitBusSwitches},
     {"exit", &Tour::visitExit},
+    {"slave-states", &Tour::visitSlaveStates},
+    {"masters", &Tour::visitMasters},
+    {"slave-module", &Tour::visitSlaveModule},
 };
 
 Tour::Tour(Subject subject, const QString& directory)
@@ -206,26 +221,250 @@ bool Tour::visitBusSwitches()
     // Cancelled, which takes the switches back; then confirmed, which changes nothing and shows the wait.
     if (!warned || !pictureOfDialog(QStringLiteral("bus-switch-question"), QStringLiteral("saveBusBt")))
         return false;
-    m_confirmNext = true;
+    MsgBoxScript::answerNext(MsgBox::Confirmed);
     return Finger::press(find(QStringLiteral("saveBusBt"))) && report(QStringLiteral("bus-switch-wait")) &&
            settle() && report(QStringLiteral("bus-switch-saved"));
+}
+
+bool Tour::visitDeviceNetSlave()
+{
+    constexpr int Linked = 32;
+    const QString name = QStringLiteral("ifidbus.commun_state");
+    const double before = m_subject.controller.readVariable(name, 0);
+    m_subject.controller.writeVariable(name, 0, static_cast<int>(before) | Linked);
+    const bool shown =
+        openHiddenPage(QStringLiteral("deviceBtn")) && report(QStringLiteral("devicenet-slave"));
+    m_subject.controller.writeVariable(name, 0, before);
+    return shown;
+}
+
+bool Tour::visitDeviceNetMasterEditing()
+{
+    const QString path = QStringLiteral("/fa/dnmst0.cfg");
+    constexpr int Devices = 16;
+    QByteArray before;
+    if (!m_subject.controller.fetchFile(path, before))
+        return fail(tr("%1 cannot be fetched").arg(path));
+    const auto store = [this, &path](const QByteArray& file, int devices) {
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_save_config"), 0, 1.0);
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_slave_num"), 0, devices);
+        return m_subject.controller.storeFile(path, file);
+    };
+    QByteArray full = before.left(before.indexOf(";=====")); // the header, and a long list below it
+    for (int device = 1; device <= Devices; ++device) {
+        full += QStringLiteral(";===================\n;   Device %1 MAC ID %2\nBLOCK_TO_RBX 0 0 %1\n"
+                               "BLOCK_FROM_RBX 0 0 4\nVENDOR_ID %3\nPROD_CODE %4\nREVISION 257\n")
+                    .arg(device)
+                    .arg(4 * device + 1)
+                    .arg(-4096 * device + 1)
+                    .arg(100 + device)
+                    .toLatin1();
+    }
+    m_subject.controller.writeVariable(QStringLiteral("ifidbus.dnm_link_state"), 0, 1.0);
+    // The page fetches when it is built, so the application is opened anew.
+    const bool shown = store(full, Devices) && reopen() && openPage(QStringLiteral("devicemBtn")) &&
+                       pressAndSettle(find(QStringLiteral("btn_edit"))) &&
+                       report(QStringLiteral("devicenet-master-editing"));
+    return store(before, before.count(";   Device ")) && reopen() && shown;
+}
+
+bool Tour::visitMes()
+{
+    if (!openPage(QStringLiteral("mesBtn")) || !pressAndSettle(find(QStringLiteral("monitorButton"))))
+        return false;
+    // Whether the port is free is the machine's business; the picture is the same.
+    m_subject.controller.writeVariable(QStringLiteral("imes.tcp_server_active"), 0, 1.0);
+    bool seen = settle() && report(QStringLiteral("mes-active"));
+    m_subject.controller.writeVariable(QStringLiteral("imes.tcp_server_connected"), 0, 1.0);
+    seen = settle() && report(QStringLiteral("mes-connected")) && seen;
+    return pressAndSettle(find(QStringLiteral("monitorButton"))) && seen;
+}
+
+bool Tour::visitFins()
+{
+    constexpr int FinsPage = 2; // without a menu button
+    const auto set = [this](const char* variable, bool on) {
+        m_subject.controller.writeVariable(QStringLiteral("ifins_tcp.%1").arg(QLatin1String(variable)), 0,
+                                           on ? 1.0 : 0.0);
+    };
+    QWidget* menu = find(QStringLiteral("FbMainWidget"));
+    if (!menu || !QMetaObject::invokeMethod(menu, "slotMenuBtnsClicked", Q_ARG(int, FinsPage)) || !settle() ||
+        !report(QStringLiteral("fins-off")))
+        return false;
+    // The factory settings name a server that a simulated controller does not call.
+    bool seen =
+        pressAndSettle(find(QStringLiteral("enable_checkBox"))) && report(QStringLiteral("fins-error"));
+    set("error", false);
+    set("connected", true);
+    seen = settle() && report(QStringLiteral("fins-on")) && seen;
+    set("enable", false);
+    return settle() && seen;
+}
+
+// With the controller's own slave as the partner. The settings are put back: what is walked through is not
+// changed.
+bool Tour::visitModbusMaster()
+{
+    const QString file = QStringLiteral("/application/fidbus/mtcpMaster/mtcp_master.xml");
+    const QString announced = QStringLiteral("ifidbus.mbc_save_enable");
+    const QString connected = QStringLiteral("ifidbus.mbc_connected");
+    QByteArray settings;
+    if (!openPage(QStringLiteral("mtcpMasterBtn")) || !m_subject.controller.fetchFile(file, settings))
+        return false;
+    bool reached = type(QStringLiteral("le_masterIp"), QStringLiteral("127.0.0.1")) &&
+                   type(QStringLiteral("le_masterId"), QStringLiteral("1")) &&
+                   type(QStringLiteral("le_masterPort"), QString::number(m_subject.modbusPort));
+    MsgBoxScript::answerNext(MsgBox::Confirmed);
+    reached = reached && pressAndSettle(find(QStringLiteral("btn_save"))) &&
+              waitForVariable(announced, 0.0) && pressAndSettle(find(QStringLiteral("btn_connect"))) &&
+              waitForVariable(connected, 1.0) && settle() &&
+              report(QStringLiteral("modbus-master-connected"));
+    reached = m_subject.controller.storeFile(file, settings) && reached;
+    m_subject.controller.writeVariable(announced, 0, 1.0);
+    return reached;
+}
+
+// Every bus in either mode, as if the roles had been switched on another page meanwhile.
+bool Tour::visitMapping()
+{
+    BusFileDataManager* service = BusFileDataManager::getInstance();
+    const QMap<QString, BusName> before = service->getAllBusName();
+    bool reached = true;
+    for (const bool isFree : {true, false}) {
+        QMap<QString, BusName> roles = before;
+        for (BusName& role : roles)
+            role.enabled = role.name != QLatin1String("FreeBus") || isFree;
+        service->setBusInfo(roles);
+        const QString mode = isFree ? QStringLiteral("free") : QStringLiteral("fixed");
+        reached = openPage(QStringLiteral("heartbeatBtn")) && openPage(QStringLiteral("configBtn")) &&
+                  reportMappingTabs(mode) && pressAndSettle(find(QStringLiteral("bt_EditOrSave"))) &&
+                  report(QStringLiteral("mapping-%1-editing").arg(mode)) && reached;
+    }
+    service->setBusInfo(before);
+    return reached && openPage(QStringLiteral("heartbeatBtn"));
+}
+
+bool Tour::reportMappingTabs(const QString& mode)
+{
+    auto* tabs = qobject_cast<QTabWidget*>(find(QStringLiteral("tabWidget_Bus")));
+    if (!tabs)
+        return false;
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        if (!tabs->isTabEnabled(tab))
+            continue;
+        tabs->setCurrentIndex(tab);
+        wait(LookEveryMs);
+        report(QStringLiteral("mapping-%1-%2").arg(mode, tabs->currentWidget()->objectName()));
+    }
+    tabs->setCurrentIndex(0);
+    return pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RW"))) &&
+           report(QStringLiteral("mapping-%1-read-and-write").arg(mode)) &&
+           pressAndSettle(find(QStringLiteral("checkBox_Mtcp_RO")));
 }
 
 bool Tour::visitExit()
 {
     // Opened again from the home screen, so that a second life of the application is seen as well.
-    for (int round = 0; round < 2; ++round) {
-        if (!pressAndSettle(find(QStringLiteral("exitBtn"))) || find(QStringLiteral("menusGroupBox")))
-            return false;
-        if (round == 0 && !pressAndSettle(find(QStringLiteral("applicationTile"))))
+    return reopen() && leave() && report(QStringLiteral("home-again"));
+}
+
+bool Tour::leave()
+{
+    return pressAndSettle(find(QStringLiteral("exitBtn"))) && !find(QStringLiteral("menusGroupBox"));
+}
+
+bool Tour::reopen()
+{
+    return leave() && pressAndSettle(find(QStringLiteral("applicationTile")));
+}
+
+// What the slaves' pages show beside their settings: no port with the EtherNet/IP slave's address, and a
+// ProfiSAFE device. The pages are new ones, as the application is opened again for them.
+bool Tour::visitSlaveStates()
+{
+    const QString portsPath = QStringLiteral("/application/network/netports.xml");
+    const QString profisafe = QStringLiteral("io_man.profisafe_status");
+    ControllerLink& controller = m_subject.controller;
+    QByteArray ports;
+    if (!controller.fetchFile(portsPath, ports) ||
+        !controller.storeFile(portsPath, QByteArray(ports).replace(".22", ".23")))
+        return false;
+    controller.writeVariable(profisafe, 0, 1.0);
+
+    bool reached = pressAndSettle(find(QStringLiteral("applicationTile")));
+    const struct
+    {
+        const char* button;
+        const char* picture;
+    } stops[] = {{"etherNetBtn", "ethernet-ip-banner"},
+                 {"pfbPfnBtn", "profinet-with-profisafe"},
+                 {"btn_pfss", "profisafe"}};
+    for (const auto& stop : stops)
+        reached = reached && openPage(QLatin1String(stop.button)) && report(QLatin1String(stop.picture));
+    reached = reached && pressAndSettle(find(QStringLiteral("btn_errorConfir"))) &&
+              report(QStringLiteral("profisafe-command"));
+
+    controller.writeVariable(profisafe, 0, 0.0);
+    return controller.storeFile(portsPath, ports) && pressAndSettle(find(QStringLiteral("exitBtn"))) &&
+           reached;
+}
+
+bool Tour::visitMasters()
+{
+    if (!pressAndSettle(find(QStringLiteral("applicationTile"))))
+        return false;
+    for (const char* button : {"etherCatMBtn", "pnmBtn", "eipMasterBtn"}) {
+        if (!openHiddenPage(QLatin1String(button)) || !report(pageClass()))
             return false;
     }
-    return report(QStringLiteral("home-again"));
+    // Every state of the lights, with all slaves and with none.
+    constexpr int Positions = 9;
+    for (int position = 0; position < Positions; ++position) {
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.eim_status"), position, position % 2);
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.eim_enable_status"), position,
+                                           position % 3);
+        m_subject.controller.writeVariable(QStringLiteral("ifidbus.eim_disable_status"), position,
+                                           (position + 1) % 3);
+    }
+    auto* count = qobject_cast<QLineEdit*>(find(QStringLiteral("lineEdit_slave_count")));
+    if (!count)
+        return false;
+    for (const int slaves : {Positions, 0}) {
+        count->setText(QString::number(slaves));
+        if (!settle() || !report(QStringLiteral("eip-master-%1-slaves").arg(slaves)))
+            return false;
+    }
+    return pressAndSettle(find(QStringLiteral("btn_reset")));
+}
+
+// The page of the EtherCAT slave decides for a face when it is built.
+bool Tour::visitSlaveModule()
+{
+    const QString module = QStringLiteral("ifidbus.anybus_fm");
+    constexpr int EtherCatModule = 13;
+    const double before = m_subject.controller.readVariable(module, 0);
+    m_subject.controller.writeVariable(module, 0, EtherCatModule);
+    const bool reported = pressAndSettle(find(QStringLiteral("exitBtn"))) &&
+                          pressAndSettle(find(QStringLiteral("applicationTile"))) &&
+                          openHiddenPage(QStringLiteral("etherCatBtn")) &&
+                          report(QStringLiteral("ethercat-slave-module"));
+    m_subject.controller.writeVariable(module, 0, before);
+    return reported && pressAndSettle(find(QStringLiteral("exitBtn")));
 }
 
 bool Tour::openPage(const QString& button)
 {
     return pressAndSettle(find(button)) && !pageClass().isEmpty();
+}
+
+// The page of a role that is switched off has no button to be seen.
+bool Tour::openHiddenPage(const QString& button)
+{
+    auto* hidden = m_subject.window.findChild<QAbstractButton*>(button);
+    if (!hidden)
+        return false;
+    hidden->click();
+    return settle() && !pageClass().isEmpty();
 }
 
 bool Tour::pictureOfDialog(const QString& name, const QString& button)
@@ -246,6 +485,21 @@ bool Tour::pictureOfDialog(const QString& name, const std::function<bool()>& act
 bool Tour::pressAndSettle(QWidget* target)
 {
     return Finger::press(target) && settle();
+}
+
+bool Tour::type(const QString& edit, const QString& text)
+{
+    NumericKeyboardScript::enterNext(text);
+    return pressAndSettle(find(edit));
+}
+
+bool Tour::waitForVariable(const QString& name, double value)
+{
+    QElapsedTimer limit;
+    limit.start();
+    while (m_subject.controller.readVariable(name) != value && limit.elapsed() < LoadingLimitMs)
+        wait(LookEveryMs);
+    return m_subject.controller.readVariable(name) == value;
 }
 
 // A page is loaded when it lets the finger through, asks nothing, and nothing was fetched for a while.
@@ -312,7 +566,7 @@ QString Tour::pageClass() const
 void Tour::answerDialog()
 {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog)
+    if (!dialog || (m_answer && m_answer(*dialog)))
         return;
     if (!m_wantedDialog.isEmpty() && !m_dialogTaken) {
         // A round later it is laid out and painted.
@@ -325,11 +579,7 @@ void Tour::answerDialog()
         m_messages.append(box->text());
         m_errorShown = m_errorShown || box->kind() == MsgBox::Error;
     }
-    auto* confirm = dialog->findChild<QAbstractButton*>(QStringLiteral("confirmButton"));
-    if (std::exchange(m_confirmNext, false) && confirm)
-        confirm->click();
-    else
-        dialog->reject();
+    dialog->reject();
 }
 
 bool Tour::report(const QString& name, QWidget* shown)

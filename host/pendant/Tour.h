@@ -10,6 +10,7 @@
 
 class ControllerLink;
 class PendantWindow;
+class QDialog;
 class QWidget;
 
 /// Walks through everything that the pendant shows, as an operator would, and takes a picture of each
@@ -24,6 +25,7 @@ public:
         PendantWindow& window;
         ControllerLink& controller;
         QWidget* panel; ///< the window that drives the controller
+        int modbusPort; ///< of a Modbus slave on this machine, whose unit id is 1
         /// The controller's files that were fetched since the last call.
         std::function<QStringList()> takeFetches;
     };
@@ -50,13 +52,30 @@ private:
     bool visitNumericKeyboard();
     bool visitLogIn();
     bool visitPanel();
+    bool visitMes();
+    bool visitFins();
+    bool visitModbusMaster();
+    bool visitMapping();
+    bool visitDeviceNetSlave();
+    bool visitDeviceNetMasterEditing();
     bool visitBusSwitches();
     bool visitExit();
+    bool visitSlaveStates();
+    bool visitUsb(); // TourUsb.cpp
 
     bool openPage(const QString& button);
+    bool reportMappingTabs(const QString& mode);
+    bool openHiddenPage(const QString& button);
+    bool leave();
+    bool reopen();
+    bool visitMasters();
+    bool visitSlaveModule();
+    /// The same, whether or not the role of the page is switched on.
     bool pictureOfDialog(const QString& name, const QString& button);
     bool pictureOfDialog(const QString& name, const std::function<bool()>& act);
     bool pressAndSettle(QWidget* target);
+    bool type(const QString& edit, const QString& text);
+    bool waitForVariable(const QString& name, double value);
     bool settle();
     bool isBusy() const;
     QWidget* find(const QString& name) const;
@@ -69,13 +88,13 @@ private:
     QDir m_directory;
     QTimer m_answering;
     int m_pictures = 0;
-    QString m_wantedDialog;     ///< name of the picture that the next dialog is to give
-    bool m_dialogTaken = false; ///< ... and it was taken
-    bool m_confirmNext = false; ///< the next dialog is confirmed, not dismissed
-    bool m_dialogSeen = false;  ///< the dialog was on the screen for one round of the timer
-    QStringList m_fetches;      ///< of this stop
-    QStringList m_messages;     ///< of this stop
-    bool m_errorShown = false;  ///< one of them told of an error
+    QString m_wantedDialog;                 ///< name of the picture that the next dialog is to give
+    bool m_dialogTaken = false;             ///< ... and it was taken
+    bool m_dialogSeen = false;              ///< the dialog was on the screen for one round of the timer
+    std::function<bool(QDialog&)> m_answer; ///< answers a dialog in another way than leaving it
+    QStringList m_fetches;                  ///< of this stop
+    QStringList m_messages;                 ///< of this stop
+    bool m_errorShown = false;              ///< one of them told of an error
 };
 
 #endif

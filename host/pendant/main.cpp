@@ -1,6 +1,7 @@
 #include "ControllerPanel.h"
 #include "CurrentLink.h"
 #include "Faults.h"
+#include "ModbusSlave.h"
 #include "Options.h"
 #include "PendantApplication.h"
 #include "PendantWindow.h"
@@ -49,7 +50,7 @@ int makeTour(PendantWindow& window, SimulatedController& controller, QWidget& pa
         controller.traffic().clear();
         return fetches;
     };
-    return Tour({window, controller, &panel, takeFetches}, directory).run();
+    return Tour({window, controller, &panel, controller.modbusPort(), takeFetches}, directory).run();
 }
 } // namespace
 
@@ -88,6 +89,9 @@ int main(int argc, char* argv[])
     const Connection connection(controller);
     PendantWindow window(options.plugin);
     ControllerPanel panel(controller);
+    // After the panel, whose log tells when the port is taken. Several tours may be on the way at a time.
+    const int ownChoice = options.tour ? 0 : ModbusSlave::DefaultPort;
+    controller.setModbusPort(options.mtcpPort > 0 ? options.mtcpPort : ownChoice);
     window.show();
     if (options.panel) {
         panel.move(window.frameGeometry().topRight() + QPoint(16, 0));

@@ -386,7 +386,7 @@ void TestSimulatedController::changesArriveBetweenTurns()
     c().writeVariable(name, 0, 2.0);
     c().writeVariable(name, 0, 3.0);
     c().variables().set(name, 4.0);
-    c().setLinkUp(QStringLiteral("ModbusTcpSlave"), false); // not subscribed
+    c().setLinkUp(QStringLiteral("EtherCatSlave"), false); // not subscribed
     insideCall = false;
     QVERIFY(seen.isEmpty());
     QTRY_COMPARE(seen.size(), 2);

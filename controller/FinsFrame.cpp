@@ -1,0 +1,110 @@
+#include "FinsFrame.h"
+
+#include <QtEndian>
+
+namespace {
+
+constexpr char Magic[] = {'F', 'I', 'N', 'S'};
+constexpr int MagicSize = sizeof Magic;
+constexpr int NumberSize = sizeof(quint32);
+constexpr int LengthOffset = MagicSize;
+constexpr int CommandOffset = LengthOffset + NumberSize;
+constexpr int ErrorOffset = CommandOffset + NumberSize;
+constexpr int HeaderSize = ErrorOffset + NumberSize;
+// The length does not count the magic and itself.
+constexpr int LeastLength = HeaderSize - CommandOffset;
+
+// Header of a FINS message: ICF, RSV, GCT, DNA, DA1, DA2, SNA, SA1, SA2, SID.
+constexpr int MessageHeaderSize = 10;
+constexpr quint8 IsCommand = 0x80;
+constexpr quint8 IsResponse = 0x40;
+constexpr quint8 Gateways = 2;
+
+constexpr char MemoryAreaRead[] = {0x01, 0x01};
+constexpr quint8 DmWords = 0x82;
+constexpr int EndCodeOffset = MessageHeaderSize + static_cast<int>(sizeof MemoryAreaRead);
+constexpr int WordOffset = EndCodeOffset + 2;
+constexpr int ResponseSize = WordOffset + 2;
+// Of an end code; the other bits tell of a relay and of the state of the PLC, and are set beside a good
+// answer.
+constexpr int EndCodeBits = 0x7f3f;
+
+quint8 byteAt(const QByteArray& bytes, int offset)
+{
+    return static_cast<quint8>(bytes.at(offset));
+}
+
+quint16 wordAt(const QByteArray& bytes, int offset)
+{
+    return qFromBigEndian<quint16>(bytes.constData() + offset);
+}
+
+template <std::size_t Size>
+QByteArray raw(const quint8 (&bytes)[Size])
+{
+    return {reinterpret_cast<const char*>(bytes), static_cast<int>(Size)};
+}
+
+} // namespace
+
+QByteArray FinsFrame::number(quint32 value)
+{
+    QByteArray bytes(NumberSize, '\0');
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+
+quint32 FinsFrame::numberAt(const QByteArray& bytes, int offset)
+{
+    return qFromBigEndian<quint32>(bytes.constData() + offset);
+}
+
+QByteArray FinsFrame::bytes() const
+{
+    return QByteArray(Magic, MagicSize) + number(static_cast<quint32>(LeastLength + data.size())) +
+           number(command) + number(error) + data;
+}
+
+FinsFrame::Taken FinsFrame::take(QByteArray& received, FinsFrame& frame)
+{
+    if (!received.startsWith(QByteArray::fromRawData(Magic, qMin(MagicSize, received.size()))))
+        return Taken::Garbage;
+    if (received.size() < CommandOffset)
+        return Taken::Incomplete;
+    const quint32 length = numberAt(received, LengthOffset);
+    if (length < LeastLength || length > LeastLength + MostData)
+        return Taken::Garbage;
+    const int size = CommandOffset + static_cast<int>(length);
+    if (received.size() < size)
+        return Taken::Incomplete;
+    frame = {numberAt(received, CommandOffset), numberAt(received, ErrorOffset),
+             received.mid(HeaderSize, size - HeaderSize)};
+    received.remove(0, size);
+    return Taken::Whole;
+}
+
+QByteArray FinsWordRead::request() const
+{
+    const quint8 header[MessageHeaderSize] = {IsCommand, 0, Gateways,   0, serverNode,
+                                              0,         0, clientNode, 0, service};
+    const quint8 place[] = {
+        DmWords, static_cast<quint8>(address >> 8), static_cast<quint8>(address & 0xff), 0 /* bit */, 0,
+        1 /* one word */};
+    return raw(header) + QByteArray(MemoryAreaRead, sizeof MemoryAreaRead) + raw(place);
+}
+
+std::optional<FinsWordRead::Response> FinsWordRead::response(const QByteArray& data) const
+{
+    if (data.size() < WordOffset || (byteAt(data, 0) & IsResponse) == 0 ||
+        byteAt(data, MessageHeaderSize - 1) != service ||
+        data.mid(MessageHeaderSize, sizeof MemoryAreaRead) !=
+            QByteArray(MemoryAreaRead, sizeof MemoryAreaRead))
+        return std::nullopt;
+    // Together with an error there is no word.
+    const int endCode = wordAt(data, EndCodeOffset) & EndCodeBits;
+    if (endCode != 0)
+        return Response{endCode, 0};
+    if (data.size() != ResponseSize)
+        return std::nullopt;
+    return Response{0, wordAt(data, WordOffset)};
+}

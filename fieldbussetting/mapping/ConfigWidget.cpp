@@ -1,0 +1,212 @@
+#include "ConfigWidget.h"
+
+#include "BusFileDataManager.h"
+#include "BusMappingTab.h"
+#include "ZelFunctions.h"
+#include "ui_ConfigWidget.h"
+
+#include <QButtonGroup>
+#include <QTableWidget>
+
+using namespace Mapping;
+
+namespace {
+
+constexpr int SlaveBlocksMoved = 0x1; // bit of "ifidbus.xml_update_state"
+
+BusFileDataManager* service()
+{
+    return BusFileDataManager::getInstance();
+}
+
+} // namespace
+
+ConfigWidget::ConfigWidget()
+    : PageBase("ConfigWidget")
+    , ui(std::make_unique<Ui::ConfigWidget>())
+{
+    ui->setupUi(this);
+    buildTabs();
+    applyStyle();
+    showCurrent();
+
+    connect(&m_timer, &QTimer::timeout, this, &ConfigWidget::slotRestoreUi);
+    connect(this, &ConfigWidget::sendSaveSignal, this, &ConfigWidget::slotSaveAndReboot);
+    lib()->set_freebus_busconfig_xml_update(0);
+    setIsFieldbusCfg(true);
+    service()->attach(this);
+    scheduleOnce(1, &ConfigWidget::slotGetFileToUi);
+}
+
+ConfigWidget::~ConfigWidget()
+{
+    service()->detach(this);
+}
+
+void ConfigWidget::buildTabs()
+{
+    for (std::size_t bus = 0; bus < BusCount; ++bus) {
+        auto* tab = new BusMappingTab(static_cast<Bus>(bus));
+        connect(tab->directions(), &QButtonGroup::idClicked, this, &ConfigWidget::checkBtnsClicxkedSlot);
+        ui->tabWidget_Bus->addTab(tab, BusMappingTab::captionOf(tab->bus()));
+        m_tabs.push_back(tab);
+    }
+    connect(ui->tabWidget_Bus, &QTabWidget::currentChanged, this,
+            &ConfigWidget::onTabWidgetBuscurrentChangedSlots);
+}
+
+void ConfigWidget::enableTabs()
+{
+    for (const BusMappingTab* tab : m_tabs) {
+        const bool isOn = m_busNames.contains(QLatin1String(infoOf(tab->bus()).name), Qt::CaseInsensitive);
+        const bool isEnabled =
+            tab->bus() == Bus::MtcpSlave || (isOn && (tab->bus() != Bus::MtcpMaster || m_model.isFree()));
+        // Visibility too: the tab bar gives a tab that is only disabled its place again at the next layout,
+        // if at all.
+        ui->tabWidget_Bus->setTabEnabled(static_cast<int>(tab->bus()), isEnabled);
+        ui->tabWidget_Bus->setTabVisible(static_cast<int>(tab->bus()), isEnabled);
+    }
+}
+
+QStringList ConfigWidget::switchedOnBuses()
+{
+    QStringList names;
+    for (const BusName& bus : service()->getBusNameList(true, true))
+        names << bus.name;
+    return names;
+}
+
+BusMappingTab* ConfigWidget::currentTab() const
+{
+    return m_tabs.at(static_cast<std::size_t>(ui->tabWidget_Bus->currentIndex()));
+}
+
+void ConfigWidget::checkBtnsClicxkedSlot(int)
+{
+    showCurrent();
+}
+
+void ConfigWidget::onTabWidgetBuscurrentChangedSlots(int index)
+{
+    Q_UNUSED(index)
+    showCurrent();
+}
+
+void ConfigWidget::showCurrent()
+{
+    BusMappingTab* tab = currentTab();
+    tab->showTable(m_model, m_editing);
+    tab->takeTips(ui->lab_Tips);
+    ui->lab_Tips->setText(tipsOf(tab->tableNumber(), m_model.isFree()));
+}
+
+void ConfigWidget::showAll()
+{
+    for (BusMappingTab* tab : m_tabs)
+        tab->showTable(m_model, m_editing);
+    showCurrent();
+}
+
+void ConfigWidget::slotGetFileToUi()
+{
+    m_model.load(service()->getBusNumAndAddr(), service()->isOpenFreeBus());
+    m_busNames = switchedOnBuses();
+    m_loaded = true;
+    enableTabs();
+    showAll();
+}
+
+// Another page may have switched the mode or a bus meanwhile: what was loaded before would be saved to a mode
+// that it does not belong to.
+void ConfigWidget::showEvent(QShowEvent* event)
+{
+    PageBase::showEvent(event);
+    if (!m_loaded || m_busy ||
+        (m_model.isFree() == service()->isOpenFreeBus() && m_busNames == switchedOnBuses()))
+        return;
+    setEditing(false);
+    slotGetFileToUi();
+}
+
+void ConfigWidget::setEditing(bool editing)
+{
+    const std::pair<Bus, void (ConfigWidget::*)(int, int)> handlers[] = {
+        {Bus::MtcpSlave, &ConfigWidget::onMtcpEdit}, {Bus::EthcatSlave, &ConfigWidget::onEthcatEdit},
+        {Bus::EipSlave, &ConfigWidget::onEipEdit},   {Bus::PfnSlave, &ConfigWidget::onPfnEdit},
+        {Bus::DnSlave, &ConfigWidget::onDnsEdit},    {Bus::MtcpMaster, &ConfigWidget::onMbcEdit},
+        {Bus::DnMaster, &ConfigWidget::onDnmEdit},
+    };
+    m_editing = editing;
+    ui->bt_EditOrSave->setText(editing ? tr("Save") : tr("Edit"));
+    for (const auto& [bus, handler] : handlers) {
+        const QTableWidget* table = m_tabs.at(static_cast<std::size_t>(bus))->table();
+        disconnect(table, &QTableWidget::cellClicked, this, nullptr);
+        // Queued: the box that a cell opens may outlast the page, and the table is not done with the press
+        // while it tells of it.
+        if (editing)
+            connect(table, &QTableWidget::cellClicked, this, handler, Qt::QueuedConnection);
+    }
+    showAll();
+}
+
+void ConfigWidget::editCell(Bus bus, int row, int column)
+{
+    // A second press may come before the first one has opened its box.
+    if (!m_editing || m_entering)
+        return;
+    const int number = m_tabs.at(static_cast<std::size_t>(bus))->tableNumber();
+    const std::vector<MappingModel::Row> rows = m_model.rowsOf(number);
+    if (row < 0 || row >= static_cast<int>(rows.size()))
+        return;
+    const MappingModel::Row& pressedRow = rows[static_cast<std::size_t>(row)];
+    m_editedTable = number;
+    m_editedType = pressedRow.type;
+
+    const QPointer<ConfigWidget> self(this);
+    m_entering = true;
+    openEntry(bus, pressedRow, m_model.pressed(number, pressedRow, column));
+    if (self)
+        m_entering = false;
+}
+
+void ConfigWidget::openEntry(Bus bus, const MappingModel::Row& row, const MappingModel::Press& press)
+{
+    if (press.refusal)
+        refuse(*press.refusal);
+    if (press.kind == MappingModel::Press::Nothing)
+        return;
+    const bool isQuantity = press.kind == MappingModel::Press::EnterQuantity;
+    const char* slot = SLOT(slotSetValue(double));
+    if (bus == Bus::MtcpMaster)
+        slot = isQuantity ? SLOT(slotMbcSetValue(double)) : SLOT(slotMbcSetAddr(double));
+    else if (bus == Bus::MtcpSlave && m_model.isFree())
+        slot = isQuantity ? SLOT(slotSetMtcpFreeValue(double)) : SLOT(slotSetMtcpFreeByteAndAddr(double));
+    const QString caption = isQuantity ? row.cells[MappingModel::TypeColumn] : tr("Start Address");
+    ZelExecNumericKeyboard(press.value, press.range.least, press.range.most, "%li", caption, this, slot);
+}
+
+void ConfigWidget::enterQuantity(double value)
+{
+    take(m_model.enterQuantity(m_editedTable, m_editedType, value));
+}
+
+void ConfigWidget::enterStart(double value)
+{
+    take(m_model.enterStart(m_editedTable, value));
+}
+
+void ConfigWidget::take(const MappingModel::Entry& entry)
+{
+    if (entry.refusal) {
+        refuse(*entry.refusal);
+        return;
+    }
+    if (entry.movedSlaveBlock)
+        addUpdateBits(SlaveBlocksMoved);
+    showAll();
+}
+
+void ConfigWidget::refuse(const Message& message)
+{
+    tell(static_cast<MsgBox::Kind>(message.severity), message.text);
+}

@@ -1,0 +1,103 @@
+#include "DeviceNetTable.h"
+
+#include <QHeaderView>
+
+namespace {
+
+using List = DeviceNetScanList;
+
+struct TableColumn
+{
+    const char* caption;
+    int width; // pixels
+};
+
+// In the order of DeviceNetScanList::Column. Together with the scroll bar and the frame they are as wide as
+// the table, 808 px.
+constexpr TableColumn Columns[] = {
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "DEVICEID"), 91},
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "MACID"), 71},
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "IN"), 56},
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "OUT"), 56},
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "VENDOR"), 106},
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "PROD"), 86},
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "REVISION"), 116},
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "CFG_FLAG"), 74},
+    {QT_TRANSLATE_NOOP("DeviceNetTable", "CONNECT"), 120},
+};
+static_assert(std::size(Columns) == List::ColumnCount);
+
+constexpr int TableWidth = 808;
+constexpr int HeaderHeight = 35;
+constexpr int RowHeight = 40;
+
+// What is wider than its column is set narrower rather than smaller.
+constexpr int CaptionStretch = 75; // per cent
+constexpr int FlagStretch = 85;    // "0x4444"
+constexpr int StateStretch = 68;   // "Disconnected::12"
+
+QFont stretched(int percent)
+{
+    QFont font;
+    font.setStretch(percent);
+    return font;
+}
+
+} // namespace
+
+DeviceNetTable::DeviceNetTable(QWidget* parent)
+    : QTableWidget(0, List::ColumnCount, parent)
+{
+    setFixedWidth(TableWidth);
+    setFocusPolicy(Qt::NoFocus);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(NoSelection);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Of a state that is still too long the code at its end is what matters.
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideLeft);
+    verticalHeader()->hide();
+    horizontalHeader()->setFixedHeight(HeaderHeight);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setStretchLastSection(true); // without a scroll bar
+    horizontalHeader()->setFont(stretched(CaptionStretch));
+    for (int column = 0; column < List::ColumnCount; ++column) {
+        setHorizontalHeaderItem(column, new QTableWidgetItem(caption(column)));
+        setColumnWidth(column, Columns[column].width);
+    }
+}
+
+QString DeviceNetTable::caption(int column)
+{
+    return tr(Columns[column].caption);
+}
+
+void DeviceNetTable::showList(const DeviceNetScanList& list)
+{
+    setRowCount(0);
+    for (int row = 0; row < list.count(); ++row)
+        showRow(list, row);
+}
+
+void DeviceNetTable::showRow(const DeviceNetScanList& list, int row)
+{
+    if (row == rowCount()) {
+        insertRow(row);
+        setRowHeight(row, RowHeight);
+        for (int column = 0; column < List::ColumnCount; ++column) {
+            auto* cell = new QTableWidgetItem;
+            cell->setTextAlignment(Qt::AlignCenter);
+            setItem(row, column, cell);
+        }
+        item(row, List::CfgFlag)->setFont(stretched(FlagStretch));
+        item(row, List::Connect)->setFont(stretched(StateStretch));
+    }
+    for (int column = 0; column < List::Connect; ++column)
+        item(row, column)->setText(list.text(row, column));
+}
+
+void DeviceNetTable::showConnection(int row, const QString& text)
+{
+    item(row, List::Connect)->setText(text);
+}

@@ -1,0 +1,29 @@
+#ifndef PFNMASTERSETTING_H
+#define PFNMASTERSETTING_H
+
+#include "MasterTablePage.h"
+
+namespace Ui {
+class PfnMasterSetting;
+}
+
+/// The page of the PROFINET master.
+class PfnMasterSetting : public MasterTablePage
+{
+    Q_OBJECT
+
+public:
+    PfnMasterSetting();
+    ~PfnMasterSetting() override;
+
+private slots:
+    void on_btn_save_clicked();
+    void on_dynalm_checkbox_clicked();
+
+private:
+    static const Master& master();
+
+    std::unique_ptr<Ui::PfnMasterSetting> ui;
+};
+
+#endif

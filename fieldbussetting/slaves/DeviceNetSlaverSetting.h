@@ -1,0 +1,46 @@
+#ifndef DEVICENETSLAVERSETTING_H
+#define DEVICENETSLAVERSETTING_H
+
+#include "LinkLight.h"
+#include "PageBase.h"
+
+#include <memory>
+#include <optional>
+
+namespace Ui {
+class DeviceNetSlaverSetting;
+}
+
+/// The page of the DeviceNet slave role: MAC ID, baud rate and a light for its link. A save is complete when
+/// the controller has acknowledged the file.
+class DeviceNetSlaverSetting : public PageBase
+{
+    Q_OBJECT
+
+public:
+    DeviceNetSlaverSetting();
+    ~DeviceNetSlaverSetting() override;
+
+    void refreshStatus() override;
+
+private slots:
+    void on_btn_save_clicked();
+    void slotCheckMACIDFormat(const QString& text);
+    void getFileSaveStatus();
+    void slotGetFileToUi();
+
+private:
+    void beginHandshake();
+    void endHandshake();
+
+    std::unique_ptr<Ui::DeviceNetSlaverSetting> ui;
+    std::optional<LinkLight> m_light;
+    QTimer m_handshake{this};
+    QString m_acceptedMacId; ///< comes back when another one is refused
+    int m_communicationState = 0;
+    int m_polls = 0;     ///< of the handshake that runs
+    int m_pollLimit = 0; ///< unanswered polls before it is given up
+    bool m_firstSave = true;
+};
+
+#endif

@@ -1,0 +1,264 @@
+// The two buttons of the page that carry the whole bus configuration to a USB drive and back.
+#include "BusSettingWidget.h"
+
+#include "BusFileDataManager.h"
+#include "ConfigExport.h"
+#include "ExportFolders.h"
+#include "ImportFolderDialog.h"
+#include "ImportJudge.h"
+#include "ImportPreviewDialog.h"
+#include "ImportRoles.h"
+#include "ImportTransfer.h"
+#include "ProgressDialog.h"
+#include "TransferProgress.h"
+#include "ZelFunctions.h"
+
+namespace {
+
+constexpr int LongestList = 8;     // lines of a message box
+constexpr int ImportAtTheEnd = 99; // of the progress bar
+
+// Why a transfer failed, by TransferResult::Code. Nothing where there is nobody to tell.
+constexpr const char* Reasons[] = {
+    nullptr,
+    QT_TRANSLATE_NOOP("BusSettingWidget", "The USB drive was removed."),
+    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be read."),
+    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be fetched from the controller."),
+    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 of the controller has changed meanwhile."),
+    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be sent to the controller."),
+    nullptr,
+};
+static_assert(std::size(Reasons) == TransferResult::Unwanted + 1, "a row a code");
+
+QString listed(const QStringList& lines)
+{
+    QStringList shown = lines.mid(0, LongestList);
+    if (lines.size() > shown.size())
+        shown << BusSettingWidget::tr("... and %1 more").arg(lines.size() - shown.size());
+    return shown.join(QLatin1Char('\n'));
+}
+
+// Shows a dialog that is a child of the page; false also when the page was closed meanwhile.
+template <typename Dialog, typename Chosen>
+bool isAccepted(Dialog* made, const Chosen& chosen)
+{
+    const QPointer<Dialog> dialog(made);
+    const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
+    if (accepted)
+        chosen(*dialog);
+    delete dialog.data();
+    return accepted;
+}
+
+} // namespace
+
+ProgressDialog* BusSettingWidget::progressDialog()
+{
+    if (!m_progress)
+        m_progress = new ProgressDialog(this);
+    return m_progress;
+}
+
+void BusSettingWidget::on_btn_export_clicked()
+{
+    if (m_busy || !checkServoOff())
+        return;
+    if (!confirmed(tr("Do you want to export the current robot\n bus related configuration file to the USB "
+                      "drive?")))
+        return;
+    const QString drive = ZelGetUSBDrives();
+    if (drive.isEmpty()) {
+        tell(MsgBox::Error, tr("No device found!"));
+        return;
+    }
+    Busy busy(this);
+    TransferProgress progress(progressDialog(), tr("Exporting..."));
+    const TransferResult result = ConfigExport(drive, progress).run();
+    if (!progress.isWanted())
+        return;
+    if (result.isDone())
+        progress.setValue(TransferProgress::Full);
+    // How far it came stays in sight when the controller did not answer.
+    if (result.code == TransferResult::FetchFailed)
+        progress.leaveOpen();
+    else
+        progress.close();
+    busy.release();
+    if (result.isDone())
+        tell(MsgBox::Information, tr("Export file success!"));
+    else
+        tell(MsgBox::Error, tr("Export file failed!"));
+}
+
+void BusSettingWidget::on_btn_import_clicked()
+{
+    if (m_busy || !checkServoOff() || !settleUnfinishedImport())
+        return;
+    const QString drive = ZelGetUSBDrives();
+    if (drive.isEmpty()) {
+        tell(MsgBox::Error, tr("No device found!"));
+        return;
+    }
+    const std::vector<ExportFolder> folders = exportFoldersOn(drive);
+    if (folders.empty()) {
+        tell(MsgBox::Error, tr("No exported bus configuration found on the USB drive!"));
+        return;
+    }
+    int chosen = -1;
+    if (isAccepted(new ImportFolderDialog(folders, this),
+                   [&chosen](const ImportFolderDialog& dialog) { chosen = dialog.chosen(); }))
+        importFolder(drive, folders[static_cast<std::size_t>(chosen)]);
+}
+
+void BusSettingWidget::importFolder(const QString& drive, const ExportFolder& folder)
+{
+    std::vector<ImportEntry> entries;
+    ImportedRoles roles;
+    ImportTransfer transfer(entries);
+    if (!prepareImport(drive, folder, transfer, entries, roles) || !isImportWanted(folder, entries, roles) ||
+        !checkServoOff())
+        return;
+    const QPointer<BusSettingWidget> self(this);
+    const TransferResult result = sendImport(transfer, 2 * static_cast<int>(entries.size()) + 1);
+    if (!self)
+        return; // what was sent is put back when the transfer goes
+    if (result.isDone())
+        finishImport();
+    else
+        failImport(result, transfer);
+}
+
+// Up to the preview: nothing is sent yet.
+bool BusSettingWidget::prepareImport(const QString& drive, const ExportFolder& folder,
+                                     ImportTransfer& transfer, std::vector<ImportEntry>& entries,
+                                     ImportedRoles& roles)
+{
+    Busy busy(this);
+    TransferProgress progress(progressDialog(), tr("Importing..."), 2 * static_cast<int>(importSet().size()));
+    TransferResult result = copyFromDrive(drive, folder.path, progress, entries);
+    QStringList faults;
+    if (result.isDone()) {
+        faults = judgeImport(entries);
+        if (faults.isEmpty() && !planRoles(entries, canHaveProfinetSlave(), roles))
+            faults << tr("Its bus switches cannot be read.");
+        if (faults.isEmpty())
+            result = transfer.keep(progress);
+    }
+    if (!progress.isWanted())
+        return false;
+    progress.close();
+    busy.release();
+    if (!result.isDone())
+        failImport(result, transfer);
+    else if (!faults.isEmpty())
+        tell(MsgBox::Error, tr("The folder %1 cannot be imported:\n%2").arg(folder.name, listed(faults)));
+    return result.isDone() && faults.isEmpty();
+}
+
+bool BusSettingWidget::isImportWanted(const ExportFolder& folder, const std::vector<ImportEntry>& entries,
+                                      const ImportedRoles& roles)
+{
+    return isAccepted(new ImportPreviewDialog(folder.name, entries, roles, this),
+                      [](const ImportPreviewDialog& /*dialog*/) {});
+}
+
+TransferResult BusSettingWidget::sendImport(ImportTransfer& transfer, int steps)
+{
+    const Busy busy(this);
+    TransferProgress progress(progressDialog(), tr("Importing..."), steps);
+    TransferResult result = transfer.confirmKept(progress);
+    if (result.isDone())
+        result = transfer.send(progress);
+    if (result.isDone()) {
+        transfer.finish();
+        progress.setValue(ImportAtTheEnd);
+    } else if (progress.isWanted() && transfer.hasSent()) {
+        transfer.putBack();
+    }
+    return result;
+}
+
+void BusSettingWidget::finishImport()
+{
+    // The service holds what it read before, and would write that back with the next save.
+    const QPointer<BusSettingWidget> self(this);
+    BusFileDataManager::getInstance()->emitGetFieldXml();
+    if (self)
+        BusFileDataManager::getInstance()->emitGetFieldbusCfg();
+    if (!self)
+        return;
+    switch (askRestart()) {
+    case Answer::Confirmed:
+        if (Restart::isAllowed())
+            Restart::perform(Restart::Way::WhenAllowed);
+        else
+            tell(MsgBox::Information, tr("Please manually power off and restart the robot!"));
+        break;
+    case Answer::Gone:
+        break;
+    default:
+        tell(MsgBox::Information, tr("The imported configuration takes effect with the next restart.\n"
+                                     "Until then the pages may show the former one."));
+        break;
+    }
+}
+
+void BusSettingWidget::failImport(const TransferResult& result, ImportTransfer& transfer)
+{
+    const QString outcome = transfer.hasSent() ? notPutBackText(transfer)
+                            : result.code == TransferResult::SendFailed
+                                ? tr("The former files were put back.")
+                                : tr("Nothing was changed on the controller.");
+    const QString reason = tr(Reasons[result.code]).replace(QLatin1String("%1"), result.file);
+    const QStringList lines = {tr("Import file failed!"), reason, outcome};
+    if (tell(MsgBox::Error, lines.join(QLatin1Char('\n'))) != Answer::Gone)
+        offerPutBack(transfer);
+}
+
+QString BusSettingWidget::notPutBackText(const ImportTransfer& transfer) const
+{
+    return tr("These files could not be put back:\n%1").arg(listed(transfer.notPutBack()));
+}
+
+// For as long as something is to be put back and the operator wants to try.
+void BusSettingWidget::offerPutBack(ImportTransfer& transfer)
+{
+    while (transfer.hasSent()) {
+        const Answer answer = ask(tr("Try again to put the former files back?"), MsgBox::YesNo);
+        if (answer == Answer::Gone)
+            return;
+        if (answer != Answer::Confirmed)
+            transfer.leaveUnfinished();
+        else if (!putBack(transfer))
+            return;
+    }
+}
+
+bool BusSettingWidget::putBack(ImportTransfer& transfer)
+{
+    const QPointer<BusSettingWidget> self(this);
+    Busy busy(this);
+    const bool isBack = transfer.putBack();
+    if (!self)
+        return false;
+    busy.release();
+    return (isBack ? tell(MsgBox::Information, tr("The former files were put back."))
+                   : tell(MsgBox::Error, notPutBackText(transfer))) != Answer::Gone;
+}
+
+bool BusSettingWidget::settleUnfinishedImport()
+{
+    std::vector<ImportEntry> entries = ImportTransfer::unfinished();
+    if (entries.empty())
+        return true;
+    const Answer answer = ask(tr("An earlier import was neither finished nor undone.\n"
+                                 "Put the former files of the controller back now?"),
+                              MsgBox::YesNo);
+    if (answer == Answer::Confirmed) {
+        ImportTransfer transfer(entries);
+        transfer.resume();
+        if (putBack(transfer))
+            offerPutBack(transfer);
+    }
+    return answer == Answer::Second;
+}

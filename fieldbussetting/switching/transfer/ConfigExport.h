@@ -1,0 +1,35 @@
+#ifndef CONFIGEXPORT_H
+#define CONFIGEXPORT_H
+
+#include "TransferWatch.h"
+
+#include <QString>
+
+struct TransferFile;
+
+/// Copies the controller's whole bus configuration into a new folder on a USB drive: every file of the
+/// transfer set into the staging directory, then the staging directory onto the drive.
+///
+/// Nothing on the drive is removed when it fails; the staging directory keeps what was fetched until the next
+/// export.
+class ConfigExport
+{
+public:
+    /// `drive`: path under which the host named the drive.
+    ConfigExport(const QString& drive, TransferWatch& watch);
+
+    TransferResult run();
+
+private:
+    TransferResult fetchAll();
+    TransferResult fetch(const TransferFile& file);
+    TransferResult writeAll();
+    TransferResult makeFolder(const QString& path);
+    TransferResult copyFolder(const QString& source, const QString& target);
+    TransferResult stepped();
+
+    QString m_drive;
+    TransferWatch& m_watch;
+};
+
+#endif

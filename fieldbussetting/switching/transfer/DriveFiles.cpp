@@ -1,0 +1,27 @@
+#include "DriveFiles.h"
+
+#include "Logging.h"
+#include "WholeFile.h"
+#include "ZelFunctions.h"
+
+bool DriveFiles::isThere(const QString& drive)
+{
+    // The host fills in an empty path; a copy, so that the drive stays the one of the start.
+    QString path = drive;
+    if (!drive.isEmpty() && ZelMountFloppy(path) == 0)
+        return true;
+    qCDebug(fieldbusLog, "Usb path is not exist!");
+    return false;
+}
+
+bool DriveFiles::copy(const QString& source, const QString& target)
+{
+    return ZelFileCopy(source, target, true) != 0 && areSame(source, target);
+}
+
+bool DriveFiles::areSame(const QString& one, const QString& other)
+{
+    QByteArray first;
+    QByteArray second;
+    return WholeFile::read(one, first) && WholeFile::read(other, second) && first == second;
+}

@@ -1,0 +1,53 @@
+#ifndef IMPORTTRANSFER_H
+#define IMPORTTRANSFER_H
+
+#include "ImportSet.h"
+
+#include <QStringList>
+
+/// Replaces files of the controller by those of the import directory, all of them or none: what was sent is
+/// put back when a later file fails, and also when this object goes before `finish()`. It knows no page, so
+/// that it ends its work when the page that began is closed in the middle.
+///
+/// A journal beside the kept files names what is being replaced, from before the first file is sent until the
+/// import is finished or undone. It survives the pendant: what it names can be put back later.
+class ImportTransfer
+{
+public:
+    /// `entries` outlive the transfer.
+    explicit ImportTransfer(std::vector<ImportEntry>& entries);
+    ~ImportTransfer();
+    ImportTransfer(const ImportTransfer&) = delete;
+    ImportTransfer& operator=(const ImportTransfer&) = delete;
+
+    /// Fetches the controller's present files, keeps them, and says in the entries what would change.
+    TransferResult keep(TransferWatch& watch);
+    /// Fetches them once more: whether they are what was kept, and what the operator was shown.
+    TransferResult confirmKept(TransferWatch& watch);
+    /// Sends what would change, and reads back what arrived.
+    TransferResult send(TransferWatch& watch);
+    /// The files that were sent stay.
+    void finish();
+    /// What was sent stays for now, and the journal too, so that it can be put back later.
+    void leaveUnfinished() { m_sent.clear(); }
+    /// Whether anything was sent that is neither finished nor put back.
+    bool hasSent() const { return !m_sent.empty(); }
+    /// Puts the former files back, the last one first. False when some could not be; may be tried again.
+    bool putBack();
+    /// Names of the files that are still to be put back.
+    QStringList notPutBack() const;
+
+    /// The files of an import that was neither finished nor undone, from its journal; none when there is no
+    /// such import.
+    static std::vector<ImportEntry> unfinished();
+    /// Takes the entries, which are those of an unfinished import, as sent, so that they can be put back.
+    void resume();
+
+private:
+    bool writeJournal() const;
+
+    std::vector<ImportEntry>& m_entries;
+    std::vector<const ImportEntry*> m_sent; ///< the one that failed on the way too: it may have arrived
+};
+
+#endif

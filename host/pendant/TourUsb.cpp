@@ -1,0 +1,120 @@
+// The stations of the tour that carry a configuration to a drive and back.
+#include "Finger.h"
+#include "MsgBox.h"
+#include "MsgBoxScript.h"
+#include "Tour.h"
+#include "UsbDrive.h"
+
+#include <QDialog>
+#include <QDirIterator>
+#include <QProgressBar>
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+namespace {
+
+/// A drive of the tour's own, in place of one that is inserted.
+class ScratchDrive
+{
+public:
+    ScratchDrive()
+        : m_former(UsbDrive::instance().isInserted() ? UsbDrive::instance().path() : QString())
+    {
+        UsbDrive::instance().insert(m_directory.path());
+    }
+    ~ScratchDrive()
+    {
+        UsbDrive::instance().pullOut();
+        if (!m_former.isEmpty())
+            UsbDrive::instance().insert(m_former);
+    }
+    ScratchDrive(const ScratchDrive&) = delete;
+    ScratchDrive& operator=(const ScratchDrive&) = delete;
+
+    QDir directory() const { return QDir(m_directory.path()); }
+
+private:
+    QTemporaryDir m_directory;
+    QString m_former;
+};
+
+bool copyTree(const QString& source, const QString& target)
+{
+    bool copied = true;
+    QDirIterator files(source, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString from = files.next();
+        const QString to = target + from.mid(source.size());
+        copied = QDir().mkpath(QFileInfo(to).path()) && QFile::copy(from, to) && copied;
+    }
+    return copied;
+}
+
+bool change(const QString& path, const QByteArray& before, const QByteArray& after)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite))
+        return false;
+    const QByteArray content = file.readAll().replace(before, after);
+    return file.resize(0) && file.seek(0) && file.write(content) == content.size();
+}
+
+// Chooses the first folder of the list, and lets a copy in progress go on.
+bool chooseFirstFolder(QDialog& dialog)
+{
+    auto* folders = dialog.findChild<QTableWidget*>(QStringLiteral("folderTable"));
+    if (!folders)
+        return dialog.objectName() == QLatin1String("ProgressDialog");
+    folders->selectRow(0);
+    Finger::press(dialog.findChild<QWidget*>(QStringLiteral("chooseButton")));
+    return true;
+}
+
+} // namespace
+
+// Folders of another robot, the newest of which is tried: first one that is fit, then one whose switches
+// break a rule, then one with a broken file.
+bool Tour::visitUsb()
+{
+    const ScratchDrive drive;
+    const QString button = QStringLiteral("btn_import");
+    if (!openPage(QStringLiteral("busSetting")))
+        return false;
+    MsgBoxScript::answerNext(MsgBox::Confirmed);
+    m_answer = [](QDialog& dialog) {
+        const auto* bar = dialog.findChild<QProgressBar*>(QStringLiteral("progressBar"));
+        return bar && bar->value() < 30; // until there is something to see
+    };
+    bool taken = pictureOfDialog(QStringLiteral("usb-progress"), QStringLiteral("btn_export"));
+    m_answer = nullptr;
+    const QStringList exported = drive.directory().entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    if (exported.isEmpty())
+        return false;
+    const QString source = drive.directory().filePath(exported.constFirst());
+
+    struct Stop
+    {
+        const char* picture;
+        const char* folder;
+        const char* file; // that is changed
+        const char* before;
+        const char* after;
+    };
+    const Stop stops[] = {
+        {"usb-preview", "/fidbus_21000101_080000", "/heartbeat.xml", "<Fidbus>", "<Fidbus><!-- other -->"},
+        {"usb-rule-broken", "/fidbus_21000102_080000", "/fieldbus.xml", "\"EtherCatMaster\" enable=\"0\"",
+         "\"EtherCatMaster\" enable=\"1\""},
+        {"usb-refused", "/fidbus_21000103_080000", "/fieldbus_config.xml", "</FieldbusConfig>", ""},
+    };
+    for (const Stop& stop : stops) {
+        const QString folder = drive.directory().path() + QLatin1String(stop.folder);
+        taken = copyTree(source, folder) && taken;
+        taken = change(folder + QLatin1String(stop.file), stop.before, stop.after) && taken;
+        taken = change(folder + QStringLiteral("/fa/pfb.cfg"), "cell 7", "cell 8") && taken;
+        taken = QFile::remove(folder + QStringLiteral("/rs232/rs232FileConfig.xml")) && taken;
+        m_answer = chooseFirstFolder;
+        taken = pictureOfDialog(QLatin1String(stop.picture), button) && taken;
+        m_answer = nullptr;
+    }
+    return pictureOfDialog(QStringLiteral("usb-folders"), button) && taken;
+}

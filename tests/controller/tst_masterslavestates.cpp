@@ -1,0 +1,140 @@
+#include "ControllerPanel.h"
+#include "MasterSlaveStates.h"
+#include "SimulatedController.h"
+#include "TestMain.h"
+
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+namespace {
+
+struct MasterUnderTest
+{
+    MasterSlaveStates::Master master;
+    const char* role;
+    const char* file;
+    const char* root;
+    QString variable;
+};
+
+const MasterUnderTest Masters[] = {
+    {MasterSlaveStates::EtherNetIp, "EtherNetIPMaster", "/application/fidbus/eipMaster/eip_master.xml",
+     "EipMasterCommunication", "ifidbus.eim"},
+    {MasterSlaveStates::Profinet, "ProfinetMaster", "/application/fidbus/pfnMaster/pfn_master.xml",
+     "PfnMasterCommunication", "ifidbus.pnm"},
+};
+
+constexpr int Position = 4;
+constexpr int ServedMs = 200; // longer than anything takes at the time scale
+
+QByteArray table(const MasterUnderTest& master, const QString& service, const QByteArray& count, int enable,
+                 int disable)
+{
+    const auto flag = [&](const char* name) { return service.contains(QLatin1String(name)) ? "1" : "0"; };
+    return QByteArray("<") + master.root + "><Group><SlaveNum>" + count + "</SlaveNum><DisableTimeout>" +
+           QByteArray::number(disable) + "</DisableTimeout><EnableTimeout>" + QByteArray::number(enable) +
+           "</EnableTimeout><SlaveFixed><FixSlave5>" + flag("fixed") +
+           "</FixSlave5></SlaveFixed><SlaveDynamic><DynSlave5>" + flag("dynamic") +
+           "</DynSlave5></SlaveDynamic></Group></" + master.root + ">";
+}
+
+} // namespace
+
+class TestMasterSlaveStates : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void states_data();
+    void states();
+    void panelDrives();
+};
+
+void TestMasterSlaveStates::states_data()
+{
+    QTest::addColumn<QString>("service");
+    QTest::addColumn<QByteArray>("count");
+    QTest::addColumn<int>("enable");
+    QTest::addColumn<int>("disable");
+    QTest::addColumn<QVector<bool>>("plugged"); // one after the other
+    QTest::addColumn<QVector<int>>("states");   // connected, coupling, decoupling
+    const auto add = [](const char* name, const char* service, const char* count, int enable, int disable,
+                        const QVector<bool>& plugged, const QVector<int>& states) {
+        QTest::newRow(name) << QString(service) << QByteArray(count) << enable << disable << plugged
+                            << states;
+    };
+    add("fixed", "fixed", "5", 0, 0, {true}, {1, 0, 0});
+    add("fixed, taken away", "fixed", "9", 0, 0, {true, false}, {0, 0, 0});
+    add("fixed, back again", "fixed", "9", 0, 0, {false, true}, {1, 0, 0});
+    add("beyond the count", "fixed", "4", 5000, 5000, {true}, {0, 0, 0});
+    add("no count", "dynamic", "many", 5000, 5000, {true}, {0, 0, 0});
+    add("neither", "", "9", 5000, 5000, {true}, {0, 0, 0});
+    add("both: fixed", "fixed dynamic", "9", 0, 0, {true}, {1, 0, 0});
+    add("dynamic", "dynamic", "5", 1200, 0, {true}, {1, 1, 0});
+    add("dynamic, too slow", "dynamic", "5", 1199, 0, {true}, {0, 2, 0});
+    add("dynamic, not there", "dynamic", "5", 1200, 0, {false}, {0, 2, 0});
+    add("dynamic, time-out below 0", "dynamic", "5", -1, -1, {true}, {0, 2, 0});
+    add("dynamic, let go", "dynamic", "5", 1200, 600, {true, false}, {0, 0, 1});
+    add("dynamic, not let go in time", "dynamic", "5", 1200, 599, {true, false}, {0, 0, 2});
+    add("dynamic, back again", "dynamic", "5", 1200, 600, {true, false, true}, {1, 1, 0});
+}
+
+void TestMasterSlaveStates::states()
+{
+    QFETCH(QString, service);
+    QFETCH(QByteArray, count);
+    QFETCH(int, enable);
+    QFETCH(int, disable);
+    QFETCH(QVector<bool>, plugged);
+    QFETCH(QVector<int>, states);
+    for (const MasterUnderTest& master : Masters) {
+        const QTemporaryDir folder;
+        SimulatedController controller(folder.path());
+        controller.setTimeScale(20);
+        controller.setRestartDuration(10);
+        auto& slaves = controller.behaviour<MasterSlaveStates>();
+        const auto shown = [&] {
+            QVector<int> values;
+            for (const char* rest : {"_status", "_enable_status", "_disable_status"})
+                values << int(controller.variables().value(master.variable + rest, Position));
+            return values;
+        };
+        QVERIFY(controller.setRoleOn(master.role, true));
+        QVERIFY(controller.storeFile(master.file, table(master, service, count, enable, disable)));
+        QVERIFY(slaves.setSlaveConnected(master.master, Position, plugged.constFirst()));
+        // What was sent counts from the next restart on.
+        QCOMPARE(shown(), QVector<int>({0, 0, 0}));
+        controller.requestRestart();
+        QTRY_VERIFY(!controller.isUp());
+        QTRY_VERIFY(controller.isUp());
+        for (const bool now : plugged) {
+            QVERIFY(slaves.setSlaveConnected(master.master, Position, now));
+            QTest::qWait(ServedMs);
+        }
+        QCOMPARE(shown(), states);
+        // A role that is switched off serves nobody; one that has nothing to do with it changes nothing.
+        QVERIFY(controller.setRoleOn("Mes", !controller.roles().isOn("Mes")));
+        QCOMPARE(shown(), states);
+        QVERIFY(controller.setRoleOn(master.role, false));
+        QCOMPARE(shown(), QVector<int>({0, 0, 0}));
+        QCOMPARE(controller.variables().value(master.variable + "_configured"), 0.0);
+    }
+}
+
+void TestMasterSlaveStates::panelDrives()
+{
+    const QTemporaryDir folder;
+    SimulatedController controller(folder.path());
+    ControllerPanel panel(controller);
+    auto* slaves = panel.findChild<QTableWidget*>("slaveTable");
+    constexpr int Plugged = 3;
+    constexpr int Connected = 4;
+    QCOMPARE(controller.readVariable("ifidbus.eim_status", 1), 0.0);
+    slaves->item(1, Plugged)->setCheckState(Qt::Checked);
+    QCOMPARE(controller.readVariable("ifidbus.eim_status", 1), 1.0);
+    QCOMPARE(slaves->item(1, Connected)->text(), QString("1"));
+    QCOMPARE(slaves->item(9 + 1, Connected)->text(), QString("0"));
+}
+
+PENDANT_TEST_MAIN(TestMasterSlaveStates)
+#include "tst_masterslavestates.moc"

@@ -1,0 +1,158 @@
+#include "DeviceRows.h"
+#include "Faults.h"
+#include "UserSession.h"
+
+namespace {
+
+const QString Override = QStringLiteral("/FA/override.cfg");
+const QString Sure = QStringLiteral("Are you sure to save?");
+const QString Restart = QStringLiteral("Save successfully, Are you sure to restart robot to make it effect?");
+constexpr int PageId = 8;
+
+bool openPage(PendantFixture& pendant)
+{
+    return pendant.open() && pendant.selectPage(PageId);
+}
+
+} // namespace
+
+class TestEtherCatMaster : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void savesWithTheServoOn();
+    void savesNothing_data();
+    void savesNothing();
+    void transferFaults_data();
+    void transferFaults();
+    void userLevelDrops_data();
+    void userLevelDrops();
+};
+
+void TestEtherCatMaster::savesWithTheServoOn()
+{
+    PendantFixture pendant;
+    const QByteArray before = pendant.controllerFile(Override);
+    QVERIFY(openPage(pendant));
+    const DeviceRows rows(pendant, "ecatTableWidget");
+    QCOMPARE(rows.shown(),
+             QStringList({"1 2 2001 EIM_DEVICE x", "2 2 2002 PNM_DEVICE ", "3 2 2003 VALVE_ISLAND ",
+                          "4 2 2004 WELD_SOURCE ", "5 2 2005 GLUE_CONTROL x", "6 2 2006  "}));
+    QCOMPARE(rows.table()->size(), QSize(762, 342));
+    pendant.controller().traffic().clear();
+    QVERIFY(rows.press(1));
+    QVERIFY(pendant.press("btn_reset"));
+    QVERIFY(!rows.box(1)->isChecked());
+    QVERIFY(rows.press(5));
+    QVERIFY(rows.press(4));
+    // No function of a master acts before the save, nor does the servo matter.
+    QCOMPARE(pendant.controller().traffic().writeCount(), 0);
+    pendant.controller().setServoOn(true);
+    pendant.controller().setRobotRunning(true);
+    PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second});
+    QVERIFY(pendant.press("saveBt_Ecat"));
+    QVERIFY(pendant.settle());
+    QCOMPARE(pendant.messages(), QStringList({Sure, Restart}));
+    QCOMPARE(pendant.controller().traffic().stores(), QStringList(Override));
+    QByteArray expected = before;
+    expected.replace("\n;ECAT_SLAVE_OFF 2 2005", "\nECAT_SLAVE_OFF 2 2005");
+    expected.replace("\nECAT_SLAVE_OFF 2 2006", "\n;ECAT_SLAVE_OFF 2 2006");
+    QCOMPARE(pendant.controllerFile(Override), expected);
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
+
+    PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
+    QVERIFY(pendant.press("saveBt_Ecat"));
+    QTRY_VERIFY(!pendant.isOpen());
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 1);
+}
+
+void TestEtherCatMaster::savesNothing_data()
+{
+    QTest::addColumn<bool>("restartAllowed");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("no restart allowed: silence") << false << QStringList();
+    QTest::newRow("not confirmed") << true << QStringList(Sure);
+}
+
+void TestEtherCatMaster::savesNothing()
+{
+    QFETCH(bool, restartAllowed);
+    PendantFixture pendant;
+    QVERIFY(openPage(pendant));
+    pendant.controller().setRestartAllowed(restartAllowed);
+    pendant.controller().traffic().clear();
+    MsgBoxScript::answerByDefault(MsgBox::Second);
+    QVERIFY(pendant.press("saveBt_Ecat"));
+    QVERIFY(pendant.settle());
+    QTEST(pendant.messages(), "messages");
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Fetch), 0);
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
+}
+
+void TestEtherCatMaster::transferFaults_data()
+{
+    QTest::addColumn<bool>("whileLoading");
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("fetch fails") << true << "fetch-fails"
+                                 << "Failed to get file.";
+    QTest::newRow("template fails") << false << "fetch-fails"
+                                    << "Failed to write file.";
+    QTest::newRow("send fails") << false << "send-fails"
+                                << "Failed to send file.";
+}
+
+void TestEtherCatMaster::transferFaults()
+{
+    QFETCH(bool, whileLoading);
+    QFETCH(QString, fault);
+    QFETCH(QString, message);
+    PendantFixture pendant;
+    const QByteArray before = pendant.controllerFile(Override);
+    QVERIFY(pendant.open());
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    if (whileLoading)
+        QVERIFY(pendant.controller().faults().setFromText(fault));
+    QVERIFY(pendant.selectPage(PageId));
+    if (!whileLoading) {
+        QVERIFY(pendant.controller().faults().setFromText(fault));
+        QVERIFY(pendant.press("saveBt_Ecat"));
+        QVERIFY(pendant.settle());
+    }
+    QCOMPARE(pendant.messages().mid(whileLoading ? 0 : 1), QStringList(message));
+    QCOMPARE(MsgBoxScript::shown().constLast().kind, int(MsgBox::Warning));
+    QCOMPARE(pendant.controllerFile(Override), before);
+
+    pendant.controller().faults().clearAll();
+    QVERIFY(pendant.press("saveBt_Ecat"));
+    QTRY_VERIFY(!pendant.isOpen());
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 1);
+}
+
+void TestEtherCatMaster::userLevelDrops_data()
+{
+    QTest::addColumn<QString>("box");
+    QTest::newRow("in the question") << Sure;
+    QTest::newRow("in the restart question") << Restart;
+}
+
+void TestEtherCatMaster::userLevelDrops()
+{
+    QFETCH(QString, box);
+    PendantFixture pendant;
+    QVERIFY(openPage(pendant));
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    MsgBoxScript::onShown([box](const MsgBox* shown) {
+        if (shown->text() == box)
+            UserSession::instance().setUserLevel(1);
+    });
+    pendant.press("saveBt_Ecat");
+    QTRY_VERIFY(!pendant.isOpen());
+    QTest::qWait(300);
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
+}
+
+PENDANT_TEST_MAIN(TestEtherCatMaster)
+#include "tst_ethercatmaster.moc"

@@ -1,0 +1,295 @@
+#include "UsbPendant.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+const QString Success = QStringLiteral("Export file success!");
+const QString Failure = QStringLiteral("Export file failed!");
+const QString NoDrive = QStringLiteral("Usb path is not exist!");
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+}
+
+QStringList filesBelow(const QString& folder)
+{
+    QStringList files;
+    QDirIterator walk(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (walk.hasNext())
+        files << walk.next().mid(folder.size() + 1);
+    files.sort();
+    return files;
+}
+
+} // namespace
+
+class TestUsbExport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void copiesTheSet();
+    void refusedBeforeAnything_data();
+    void refusedBeforeAnything();
+    void driveGoesAtEveryStep();
+    void driveTakesNoMore_data();
+    void driveTakesNoMore();
+    void anotherPathIsAnotherDrive();
+    void controllerDoesNotAnswer();
+    void cannotBeInterrupted();
+    void userLevelDrops_data();
+    void userLevelDrops();
+};
+
+void TestUsbExport::copiesTheSet()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    // What an earlier export left must not get onto the drive.
+    QVERIFY(QDir().mkpath("../Application/fidbus/im-export/fixed"));
+    QFile left("../Application/fidbus/im-export/fixed/left.cfg");
+    QVERIFY(left.open(QIODevice::WriteOnly));
+    left.close();
+    pendant.controller().traffic().clear();
+    const QDateTime before = QDateTime::currentDateTime();
+    QCOMPARE(pendant.runExport(), Success);
+    QCOMPARE(pendant.messages(), QStringList({"Do you want to export the current robot\n bus related "
+                                              "configuration file to the USB drive?",
+                                              Success}));
+    QVERIFY(!pendant.progressDialog()->isVisible());
+    QCOMPARE(pendant.find<QProgressBar>("progressBar")->value(), 100);
+
+    QCOMPARE(pendant.folders().size(), 1);
+    const QString folder = pendant.folders().constFirst();
+    const QDateTime named = QDateTime::fromString(folder, "'fidbus_'yyyyMMdd_hhmmss");
+    QVERIFY(named.isValid() && before.secsTo(named) >= -1 && named.secsTo(QDateTime::currentDateTime()) >= 0);
+    QStringList expected = exportedFiles();
+    QStringList order;
+    for (const QString& name : exportedFiles()) {
+        order << controllerPath(name);
+        QCOMPARE(contentOf(pendant.usbDirectory() + '/' + folder + '/' + name),
+                 pendant.controllerFile(controllerPath(name)));
+    }
+    expected.sort();
+    QCOMPARE(filesBelow(pendant.usbDirectory() + '/' + folder), expected);
+    QCOMPARE(expected.size(), 36);
+    QCOMPARE(pendant.controller().traffic().fetches(), order);
+
+    const QStringList made =
+        UsbPendant::logged().filter(QRegularExpression("^fidbus make dir\\(.*\\) result:true$"));
+    QCOMPARE(made.size(), 14);
+    QVERIFY(made.at(7).contains("/SlaveConfig)") && made.at(8).contains("/SlaveConfig/EtherCAT)"));
+
+    // A second one makes a folder of its own, or overwrites the files of the same second.
+    QVERIFY(pendant.vary("/fa/pfb.cfg", "changed"));
+    QCOMPARE(pendant.runExport(), Success);
+    QCOMPARE(contentOf(pendant.usbDirectory() + '/' + pendant.folders().constLast() + "/fa/pfb.cfg"),
+             pendant.controllerFile("/fa/pfb.cfg"));
+}
+
+void TestUsbExport::refusedBeforeAnything_data()
+{
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QString>("message");
+    const QString servo = "Please turn off the servo first!";
+    QTest::newRow("servo on") << "servo" << int(MsgBox::Confirmed) << servo;
+    QTest::newRow("running") << "running" << int(MsgBox::Confirmed) << servo;
+    QTest::newRow("not confirmed") << "" << int(MsgBox::Second) << "Do you want to export";
+    QTest::newRow("dismissed") << "" << int(MsgBox::Dismissed) << "Do you want to export";
+    QTest::newRow("no drive") << "out" << int(MsgBox::Confirmed) << "No device found!";
+}
+
+void TestUsbExport::refusedBeforeAnything()
+{
+    QFETCH(QString, state);
+    QFETCH(int, answer);
+    QFETCH(QString, message);
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    pendant.controller().setServoOn(state == "servo");
+    pendant.controller().setRobotRunning(state == "running");
+    if (state == "out")
+        UsbDrive::instance().pullOut();
+    pendant.controller().traffic().clear();
+    MsgBoxScript::answerNext(answer);
+    const QString last = pendant.runExport();
+    QVERIFY2(last.startsWith(message), qPrintable(last));
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Fetch), 0);
+    QVERIFY(!pendant.progressDialog());
+    QVERIFY(QDir(pendant.usbDirectory()).isEmpty());
+}
+
+void TestUsbExport::driveGoesAtEveryStep()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    QCOMPARE(pendant.runExport(), Success);
+    int step = 0;
+    bool ranThrough = false;
+    while (!ranThrough && step < 200) {
+        pendant.clearDrive();
+        UsbPendant::logged().clear();
+        pendant.atStep(++step, [] { UsbDrive::instance().pullOut(); });
+        const QString last = pendant.runExport();
+        pendant.insertDrive();
+        QVERIFY(!pendant.progressDialog()->isVisible());
+        // At the last steps nothing is left to be copied.
+        ranThrough = last == Success;
+        QVERIFY2(ranThrough || last == Failure, qPrintable(last));
+        QCOMPARE(UsbPendant::logged().contains(NoDrive), !ranThrough);
+        QCOMPARE(UsbPendant::logged().contains("Bus failed to obtain file from controller!"), step < 36);
+        QCOMPARE(pendant.folders().size(), step < 37 ? 0 : 1);
+    }
+    // 36 files fetched, 14 folders made, and the last file copied.
+    QCOMPARE(step, 36 + 14 + 36);
+}
+
+void TestUsbExport::driveTakesNoMore_data()
+{
+    QTest::addColumn<int>("copies");
+    for (const int copies : {0, 1, 17, 34, 35})
+        QTest::addRow("worn out after %d", copies) << copies;
+    QTest::newRow("read-only") << -1;
+    QTest::newRow("full") << -2;
+}
+
+void TestUsbExport::driveTakesNoMore()
+{
+    QFETCH(int, copies);
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    if (copies >= 0)
+        UsbDrive::instance().failAfterCopies(copies);
+    UsbDrive::instance().setReadOnly(copies == -1);
+    UsbDrive::instance().setFull(copies == -2);
+    QCOMPARE(pendant.runExport(), Failure);
+    QVERIFY(!pendant.progressDialog()->isVisible());
+    QCOMPARE(UsbPendant::logged().filter(QRegularExpression("^Copying .* file to USB drive failed!$")).size(),
+             1);
+    QCOMPARE(filesBelow(pendant.usbDirectory()).size(), qMax(copies, 0));
+}
+
+void TestUsbExport::anotherPathIsAnotherDrive()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    QCOMPARE(pendant.runExport(), Success);
+    for (const int step : {20, 60}) {
+        pendant.clearDrive();
+        QTemporaryDir other;
+        pendant.atStep(step, [&other] { UsbDrive::instance().insert(other.path()); });
+        QCOMPARE(pendant.runExport(), Failure);
+        QVERIFY(QDir(other.path()).isEmpty());
+        pendant.insertDrive();
+    }
+}
+
+// The dialog stays, but holds nothing up, and the next export takes it over.
+void TestUsbExport::controllerDoesNotAnswer()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const QString last = controllerPath(exportedFiles().constLast());
+    pendant.controller().faults().set(Faults::FetchFails, 30, last);
+    QCOMPARE(pendant.runExport(), Failure);
+    QCOMPARE(pendant.controller().faults().timesLeft(Faults::FetchFails), 0);
+    QVERIFY(UsbPendant::logged().contains("Get fidbus mtcp_master.xml file failed!"));
+    QVERIFY(UsbPendant::logged().contains("Bus failed to obtain file from controller!"));
+    QPointer<QDialog> dialog = pendant.progressDialog();
+    QVERIFY(dialog->isVisible() && !QApplication::activeModalWidget());
+    QCOMPARE(pendant.find<QProgressBar>("progressBar")->value(), 35);
+    QVERIFY(pendant.folders().isEmpty());
+
+    pendant.controller().faults().set(Faults::FetchFails, 20, last);
+    bool held = false;
+    pendant.atStep(10, [&] { held = QApplication::activeModalWidget() == dialog; });
+    QCOMPARE(pendant.runExport(), Success);
+    QVERIFY(held);
+    QCOMPARE(pendant.progressDialog(), dialog.data());
+    QVERIFY(!dialog->isVisible());
+
+    // It does not outlive the page.
+    pendant.controller().faults().set(Faults::FetchFails, 30, controllerPath(exportedFiles().constFirst()));
+    QCOMPARE(pendant.runExport(), Failure);
+    QVERIFY(dialog->isVisible());
+    QVERIFY(pendant.press("exitBtn"));
+    QTRY_VERIFY(!dialog);
+}
+
+void TestUsbExport::cannotBeInterrupted()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    QCOMPARE(pendant.runExport(), Success);
+    pendant.controller().traffic().clear();
+    int boxes = 0;
+    for (const int step : {5, 70}) {
+        pendant.atStep(step, [&] {
+            boxes = pendant.messages().size();
+            QDialog* dialog = pendant.progressDialog();
+            QTest::keyClick(dialog, Qt::Key_Escape);
+            dialog->reject();
+            for (const char* button : {"btn_export", "btn_import", "saveBusBt", "exitBtn", "heartbeatBtn"})
+                pendant.press(button);
+            QVERIFY(dialog->isVisible() && dialog->isModal());
+            QVERIFY(dialog->windowFlags() & Qt::WindowStaysOnTopHint);
+            QVERIFY(dialog->windowFlags() & Qt::FramelessWindowHint);
+            QCOMPARE(dialog->pos(), QPoint(320, 330));
+            QCOMPARE(dialog->findChild<QLabel*>("label")->text(), QString("Exporting..."));
+        });
+        QCOMPARE(pendant.runExport(), Success);
+        QVERIFY(pendant.stepReached());
+        QCOMPARE(pendant.messages().size(), boxes + 1);
+        QVERIFY(pendant.isOpen());
+    }
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Fetch), 72);
+}
+
+void TestUsbExport::userLevelDrops_data()
+{
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QString>("box");
+    for (const int step : {1, 36, 37, 86})
+        QTest::addRow("at step %d", step) << step << "";
+    QTest::newRow("while asked") << 0 << "Do you want to export";
+    QTest::newRow("while told") << 0 << Success;
+    QTest::newRow("while fetched again and again") << -1 << "";
+}
+
+void TestUsbExport::userLevelDrops()
+{
+    QFETCH(int, step);
+    QFETCH(QString, box);
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const auto drop = [] { UserSession::instance().setUserLevel(1); };
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    if (step > 0) {
+        QCOMPARE(pendant.runExport(), Success);
+        pendant.atStep(step, [drop] { QTimer::singleShot(0, drop); }); // in the next wait
+
+    } else if (step < 0) {
+        pendant.controller().faults().set(Faults::FetchFails);
+        QTimer::singleShot(350, drop);
+    } else {
+        pendant.whileShown = [&](const QString& text) {
+            if (text.startsWith(box))
+                drop();
+        };
+    }
+    pendant.press("btn_export");
+    QTRY_VERIFY(!pendant.isOpen() && !QApplication::activeModalWidget());
+    QTRY_COMPARE(pendant.window().application().state(), ApplicationSlot::State::Empty);
+    pendant.whileShown = nullptr;
+    pendant.controller().faults().clearAll();
+    UserSession::instance().setUserLevel(4);
+    QVERIFY(pendant.open());
+    QCOMPARE(pendant.runExport(), Success);
+}
+
+PENDANT_TEST_MAIN(TestUsbExport)
+#include "tst_usbexport.moc"

@@ -1,0 +1,501 @@
+#include "UsbPendant.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+const QString Exported = QStringLiteral("Export file success!");
+const QString Imported = QStringLiteral("The imported configuration takes effect with the next restart.\n"
+                                        "Until then the pages may show the former one.");
+const QString NothingChanged = QStringLiteral("Nothing was changed on the controller.");
+const QString PutBack = QStringLiteral("The former files were put back.");
+const QString TryAgain = QStringLiteral("Try again to put the former files back?");
+
+bool write(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
+           file.write(content) == content.size();
+}
+
+QByteArray roles(const QMap<QByteArray, bool>& on)
+{
+    QByteArray xml = "<?xml version=\"1.0\"?>\n<!-- kept -->\n<Fieldbus>\n";
+    for (auto role = on.begin(); role != on.end(); ++role)
+        xml += "\t<Bus  name='" + role.key() + "' enable=\"" + (role.value() ? "1" : "0") + "\"/>\n";
+    return xml + "</Fieldbus>\n";
+}
+
+} // namespace
+
+class TestUsbImport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void freshControllerGetsTheSame();
+    void changesWhatThePreviewNames();
+    void leavingChangesNothing();
+    void listsFolders();
+    void refusedFolders();
+    void takesOnlyPlainFilesOfTheSet();
+    void roleRules_data();
+    void roleRules();
+    void profinetSlaveIsSwitchedOff();
+    void sendFailsAtEveryFile();
+    void fetchIsWrongAtEveryFile();
+    void driveGoesAtEveryFile();
+    void userLevelDropsAtEveryStep();
+    void notPutBackIsToldAndKept();
+    void controllerChangesMeanwhile();
+    void restartIsOffered();
+
+private:
+    // A folder with a few files of another robot; on a controller with the factory files they differ.
+    static QStringList putOtherRobot(UsbPendant& pendant);
+};
+
+QStringList TestUsbImport::putOtherRobot(UsbPendant& pendant)
+{
+    const QStringList names = {"heartbeat.xml", "fixed/dns_fixed.cfg", "fa/pfb.cfg"};
+    for (const QString& name : names) {
+        const QByteArray present = pendant.controllerFile(controllerPath(name));
+        const QByteArray mark = name.endsWith("xml") ? "<!-- other -->" : "; other";
+        write(pendant.usbDirectory() + "/fidbus_20240102_030405/" + name, present + mark);
+    }
+    return names;
+}
+
+void TestUsbImport::freshControllerGetsTheSame()
+{
+    QTemporaryDir drive;
+    UsbPendant::Bytes exported;
+    {
+        UsbPendant pendant;
+        for (const QString& name : exportedFiles())
+            QVERIFY(pendant.vary(controllerPath(name), "robot A"));
+        exported = pendant.configuration();
+        UsbDrive::instance().insert(drive.path());
+        QVERIFY(pendant.open());
+        QCOMPARE(pendant.runExport(), Exported);
+    }
+    UsbPendant pendant;
+    UsbDrive::instance().insert(drive.path());
+    QVERIFY(pendant.open());
+    QVERIFY(pendant.configuration() != exported);
+    QCOMPARE(pendant.runImport(), Imported);
+    QCOMPARE(exported.size(), 36);
+    QCOMPARE(pendant.configuration(), exported);
+    QCOMPARE(pendant.shownFiles.values().count("different"), 36);
+    QVERIFY(!pendant.progressDialog()->isVisible());
+    QCOMPARE(pendant.find<QProgressBar>("progressBar")->value(), 99);
+}
+
+void TestUsbImport::changesWhatThePreviewNames()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    QCOMPARE(pendant.runExport(), Exported);
+    const UsbPendant::Bytes exported = pendant.configuration();
+    QVERIFY(QFile::remove(pendant.usbDirectory() + '/' + pendant.folders().constLast() +
+                          "/rs232/rs232FileConfig.xml"));
+
+    // This robot is another one now; one file it does not have.
+    for (const char* path : {"/fa/dnmst0.cfg", "/application/fidbus/free/fieldbus_free.xml",
+                             "/application/fidbus/rs232/rs232FileConfig.xml"})
+        QVERIFY(pendant.vary(path, "robot B"));
+    QVERIFY(pendant.controller().files().remove("/application/fidbus/user_groupio.cfg"));
+    UsbPendant::Bytes expected = pendant.configuration();
+    pendant.controller().traffic().clear();
+    QCOMPARE(pendant.runImport(), Imported);
+
+    QMap<QString, QString> states;
+    for (const QString& name : exportedFiles())
+        states[name] = "same";
+    states["fa/dnmst0.cfg"] = states["free/fieldbus_free.xml"] = "different";
+    states["user_groupio.cfg"] = "new";
+    states["rs232/rs232FileConfig.xml"] = "missing";
+    QCOMPARE(pendant.shownFiles, states);
+    QCOMPARE(pendant.shownRoles.value("EtherNetIPMaster"), QString("ON>ON"));
+    for (auto state = states.begin(); state != states.end(); ++state) {
+        if (state.value() == "different" || state.value() == "new")
+            expected[state.key()] = exported[state.key()];
+    }
+    QCOMPARE(pendant.configuration(), expected);
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 3);
+
+    // Nothing is left to be imported.
+    pendant.runImport();
+    QVERIFY(!pendant.couldConfirm);
+}
+
+void TestUsbImport::leavingChangesNothing()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const UsbPendant::Bytes before = pendant.configuration();
+    const struct
+    {
+        const char* what;
+        std::function<void()> arrange;
+        const char* last;
+    } rows[] = {
+        {"no drive", [] { UsbDrive::instance().pullOut(); }, "No device found!"},
+        {"no folder", [&] { pendant.insertDrive(); },
+         "No exported bus configuration found on the USB drive!"},
+        {"servo on", [&] { pendant.controller().setServoOn(true); }, "Please turn off the servo first!"},
+        {"list left",
+         [&] {
+             pendant.controller().setServoOn(false);
+             putOtherRobot(pendant);
+             pendant.row = -1;
+         },
+         "Please turn off the servo first!"},
+        {"preview left",
+         [&] {
+             pendant.row = 0;
+             pendant.confirm = false;
+         },
+         "Please turn off the servo first!"},
+        {"servo comes on",
+         [&] {
+             pendant.confirm = true;
+             pendant.whilePreview = [&] { pendant.controller().setServoOn(true); };
+         },
+         "Please turn off the servo first!"},
+    };
+    for (const auto& row : rows) {
+        row.arrange();
+        pendant.runImport();
+        QVERIFY2(pendant.messages().constLast() == row.last, row.what);
+        QVERIFY2(!pendant.progressDialog() || !pendant.progressDialog()->isVisible(), row.what);
+        QVERIFY2(pendant.configuration() == before, row.what);
+    }
+    QCOMPARE(pendant.messages().size(), 4);
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
+}
+
+void TestUsbImport::listsFolders()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const QString usb = pendant.usbDirectory();
+    QVERIFY(QDir().mkpath(usb + "/fidbus_20260101_000000/fa"));
+    QVERIFY(QDir().mkpath(usb + "/fidbus_20230704_235959"));
+    QVERIFY(QDir().mkpath(usb + "/other"));
+    QVERIFY(write(usb + "/fidbus_20270101_000000", "a file"));
+    QVERIFY(QFile::link(usb + "/other", usb + "/fidbus_20280101_000000"));
+    pendant.row = -1;
+    pendant.runImport();
+    QCOMPARE(pendant.shownFolders, QStringList({"2026-01-01  00:00:00 | fidbus_20260101_000000 | 0 of 36",
+                                                "2024-01-02  03:04:05 | fidbus_20240102_030405 | 3 of 36",
+                                                "2023-07-04  23:59:59 | fidbus_20230704_235959 | 0 of 36"}));
+    pendant.row = 1;
+    QCOMPARE(pendant.runImport(), Imported);
+    QCOMPARE(pendant.shownFiles.values().count("missing"), 33);
+}
+
+void TestUsbImport::refusedFolders()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const UsbPendant::Bytes before = pendant.configuration();
+    const QString folder = pendant.usbDirectory() + "/fidbus_20240102_030405";
+    const struct
+    {
+        const char* file;
+        QByteArray content;
+        const char* said;
+    } rows[] = {
+        {"other.txt", "x", "It holds no file of a bus configuration."},
+        {"heartbeat.xml", "", "heartbeat.xml: is empty"},
+        {"heartbeat.xml", "<Fidbus><Mtcp></Fidbus>", "heartbeat.xml: line 1: "},
+        {"heartbeat.xml", "<Fidbus></Fidbus><Fidbus/>", "heartbeat.xml: line 1: "},
+        {"heartbeat.xml", "<Fidbus", "heartbeat.xml: line 1: "},
+        {"heartbeat.xml", "<Other/>", "heartbeat.xml: begins with \"Other\" instead of \"Fidbus\""},
+        {"fieldbus.xml", "<?xml version=\"1.0\"?><FieldbusConfig/>", "fieldbus.xml: begins with"},
+        {"fa/fbslave.cfgx", "DRIVER x", "fa/fbslave.cfgx: line 1: "},
+        {"Fieldbus.cfg", "<Fieldbus/>", "Fieldbus.cfg: begins with"},
+        {"fixed/dns_fixed.cfg", " \n\t\n", "fixed/dns_fixed.cfg: is empty"},
+        {"SlaveConfig/Devicenet/rbxm5034.eds", QByteArray("a\0b", 3), "rbxm5034.eds: is no text"},
+    };
+    for (const auto& row : rows) {
+        pendant.clearDrive();
+        QVERIFY(write(folder + '/' + row.file, row.content));
+        const QString last = pendant.runImport();
+        QVERIFY2(last.startsWith("The folder fidbus_20240102_030405 cannot be imported:\n") &&
+                     last.contains(row.said),
+                 qPrintable(last));
+    }
+    // Many faults still fit into a box.
+    for (const QString& name : exportedFiles())
+        QVERIFY(write(folder + '/' + name, ""));
+    QVERIFY(pendant.runImport().endsWith("\n... and 28 more"));
+    QCOMPARE(pendant.configuration(), before);
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
+}
+
+void TestUsbImport::takesOnlyPlainFilesOfTheSet()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    const QString folder = pendant.usbDirectory() + "/fidbus_20240102_030405";
+    const QString elsewhere = pendant.usbDirectory() + "/elsewhere";
+    QVERIFY(write(elsewhere + "/modbus_free.cfg", "from elsewhere"));
+    QVERIFY(QFile::link(elsewhere, folder + "/free"));
+    QVERIFY(QFile::link(elsewhere + "/modbus_free.cfg", folder + "/fa/modbus.cfg"));
+    QVERIFY(QFile::link(folder + "/nowhere", folder + "/fa/dns0.cfg"));
+    QVERIFY(write(folder + "/fa/dnmst0.cfg", QByteArray(4 * 1024 * 1024 + 1, 'x')));
+    QVERIFY(write(folder + "/fa/override.cfg", "not of the set"));
+    QVERIFY(QDir().mkpath(folder + "/signal_mapping.cfg/deep"));
+    QCOMPARE(pendant.runImport(), Imported);
+    QCOMPARE(pendant.shownFiles.value("free/modbus_free.cfg"), QString("missing: a link"));
+    QCOMPARE(pendant.shownFiles.value("fa/modbus.cfg"), QString("missing: a link"));
+    QCOMPARE(pendant.shownFiles.value("fa/dns0.cfg"), QString("missing: a link"));
+    QCOMPARE(pendant.shownFiles.value("fa/dnmst0.cfg"), QString("missing: too large"));
+    QCOMPARE(pendant.shownFiles.value("signal_mapping.cfg"), QString("missing"));
+    QCOMPARE(pendant.shownFiles.size(), 36);
+    const UsbPendant::Bytes after = pendant.configuration();
+    for (const QString& name : exportedFiles())
+        QCOMPARE(after[name] != before[name], pendant.shownFiles[name] == "different");
+    QVERIFY(!pendant.controllerFile("/fa/override.cfg").contains("not of the set"));
+}
+
+void TestUsbImport::roleRules_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("notice");
+    const QString masters =
+        "EthernetIP master EtherCat master and Profinet master cannot be enabled at the same time!";
+    const QString deviceNet = "DeviceNet slave and DeviceNet master cannot be enabled at the same time!";
+    const auto row = [](const char* name, const QMap<QByteArray, bool>& on, const QString& notice) {
+        QTest::newRow(name) << QByteArray("fieldbus.xml") << roles(on) << notice;
+    };
+    row("two masters", {{"EtherNetIPMaster", true}, {"EtherCatMaster", true}}, masters);
+    row("the other two", {{"ProfinetMaster", true}, {"EtherCatMaster", true}}, masters);
+    row("DeviceNet twice", {{"DeviceNetMaster", true}, {"DeviceNetSlave", true}}, deviceNet);
+    row("one of each", {{"ProfinetMaster", true}, {"DeviceNetSlave", true}, {"DeviceNetMaster", false}}, "");
+    QTest::newRow("in the bus switch file")
+        << QByteArray("Fieldbus.cfg")
+        << QByteArray("<FieldbusSettingConfig><R name='EtherNetIPMaster'><enable>1</enable></R>"
+                      "<R name='ProfinetMaster'><enable>1</enable></R></FieldbusSettingConfig>")
+        << masters;
+}
+
+void TestUsbImport::roleRules()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, notice);
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/" + file, content));
+    pendant.controller().traffic().clear();
+    pendant.runImport();
+    QCOMPARE(pendant.notice.isEmpty(), notice.isEmpty());
+    QVERIFY(pendant.notice.contains(notice));
+    QCOMPARE(pendant.couldConfirm, notice.isEmpty());
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Store), notice.isEmpty() ? 1 : 0);
+}
+
+void TestUsbImport::profinetSlaveIsSwitchedOff()
+{
+    UsbPendant pendant;
+    const QString path = "/application/fidbus/fieldbus.xml";
+    const QMap<QByteArray, bool> off = {{"Mes", true}, {"ProfinetSlave", false}, {"ModbusTcpSlave", true}};
+    QMap<QByteArray, bool> on = off;
+    on["ProfinetSlave"] = true;
+    const QByteArray switches =
+        "<?xml version=\"1.0\"?>\n<FieldbusSettingConfig>\n<A name=\"ProfinetSlave\">\n"
+        "<enable>%</enable>\n</A>\n<B name=\"Mes\">\n<enable>1</enable>\n</B>\n"
+        "</FieldbusSettingConfig>\n";
+    QVERIFY(pendant.controller().files().write(path, roles(off)));
+    pendant.controller().variables().set("io_man.profisafe_status", 0);
+    pendant.controller().variables().set("ifidbus.anybus_fm", 13);
+    QVERIFY(pendant.open());
+    const QString folder = pendant.usbDirectory() + "/fidbus_20240102_030405/";
+    QVERIFY(write(folder + "fieldbus.xml", roles(on)));
+    QVERIFY(write(folder + "Fieldbus.cfg", QByteArray(switches).replace('%', '1')));
+    pendant.runImport();
+    QVERIFY(pendant.notice.contains("PROFINET slave cannot be on"));
+    QCOMPARE(pendant.shownFiles.value("fieldbus.xml"), QString("same"));
+    QCOMPARE(pendant.shownRoles.value("ProfinetSlave"), QString("OFF>OFF"));
+    QCOMPARE(pendant.controllerFile(path), roles(off));
+    QCOMPARE(pendant.controllerFile("/application/fidbus/Fieldbus.cfg"),
+             QByteArray(switches).replace('%', '0'));
+
+    // Where the module is there, it stays on.
+    pendant.controller().variables().set("ifidbus.anybus_fm", 14);
+    pendant.controller().variables().set("ifidbus.is_rp2pro", 1);
+    QTest::qWait(50);
+    pendant.runImport();
+    QCOMPARE(pendant.notice, QString());
+    QCOMPARE(pendant.controllerFile(path), roles(on));
+}
+
+void TestUsbImport::sendFailsAtEveryFile()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const QStringList names = putOtherRobot(pendant);
+    UsbPendant::Bytes before = pendant.configuration();
+    int file = 0;
+    for (;; ++file) {
+        pendant.controller().faults().set(Faults::SendFails, 1, QString(), file);
+        const QString last = pendant.runImport();
+        if (last == Imported)
+            break;
+        QCOMPARE(last, "Import file failed!\nThe file " + names.value(file) +
+                           " could not be sent to the controller.\n" + PutBack);
+        QVERIFY(pendant.configuration() == before);
+        QVERIFY(!pendant.progressDialog()->isVisible());
+    }
+    QCOMPARE(file, names.size());
+
+    // What the controller did not have is removed again.
+    QVERIFY(pendant.controller().files().remove(controllerPath(names.at(1))));
+    QVERIFY(pendant.vary("/fa/pfb.cfg", "varied"));
+    before = pendant.configuration();
+    pendant.controller().faults().set(Faults::SendFails, 1, QString(), 1);
+    QVERIFY(pendant.runImport().endsWith(PutBack));
+    QVERIFY(pendant.configuration() == before);
+}
+
+void TestUsbImport::fetchIsWrongAtEveryFile()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const int files = putOtherRobot(pendant).size();
+    const UsbPendant::Bytes before = pendant.configuration();
+    int fetch = 0;
+    for (;; ++fetch) {
+        pendant.controller().faults().set(fetch % 2 ? Faults::FetchCutShort : Faults::FetchGarbage, 1,
+                                          QString(), fetch);
+        const QString last = pendant.runImport();
+        pendant.controller().faults().clearAll();
+        if (last == Imported)
+            break;
+        QVERIFY2(last.startsWith("Import file failed!\nThe file "), qPrintable(last));
+        QVERIFY2(last.endsWith(fetch < 2 * files ? NothingChanged : PutBack), qPrintable(last));
+        QVERIFY(pendant.configuration() == before);
+    }
+    // Kept, confirmed, and read back after they were sent; what comes later reads for the pages.
+    QCOMPARE(fetch, 3 * files);
+}
+
+void TestUsbImport::driveGoesAtEveryFile()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const int files = putOtherRobot(pendant).size();
+    const UsbPendant::Bytes before = pendant.configuration();
+    pendant.confirm = false;
+    pendant.runImport();
+    int step = 1;
+    for (;; ++step) {
+        pendant.atStep(step, [] { UsbDrive::instance().pullOut(); });
+        const QString last = pendant.runImport();
+        pendant.insertDrive();
+        if (last.isEmpty()) // the preview came
+            break;
+        QCOMPARE(last, "Import file failed!\nThe USB drive was removed.\n" + NothingChanged);
+    }
+    QCOMPARE(step, files + 1);
+    QVERIFY(pendant.configuration() == before);
+}
+
+// Whatever was sent by then, the controller ends with the former files or with the new ones.
+void TestUsbImport::userLevelDropsAtEveryStep()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const int files = putOtherRobot(pendant).size();
+    const UsbPendant::Bytes before = pendant.configuration();
+    const int steps = 4 * files; // copied, kept, confirmed, sent
+    for (int step = 1; step <= steps; ++step) {
+        pendant.confirm = false;
+        pendant.runImport(); // makes the dialog whose steps are counted
+        pendant.confirm = true;
+        pendant.atStep(step, [] { QTimer::singleShot(0, [] { UserSession::instance().setUserLevel(1); }); });
+        pendant.press("btn_import");
+        QVERIFY(pendant.stepReached());
+        QTRY_COMPARE(pendant.window().application().state(), ApplicationSlot::State::Empty);
+        QVERIFY(!QApplication::activeModalWidget());
+        QVERIFY2((pendant.configuration() == before) == (step < steps), qPrintable(QString::number(step)));
+        UserSession::instance().setUserLevel(4);
+        QVERIFY(pendant.open());
+    }
+    pendant.runImport();
+    QVERIFY(!pendant.couldConfirm);
+}
+
+void TestUsbImport::notPutBackIsToldAndKept()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    pendant.controller().faults().set(Faults::SendFails, -1, QString(), 2);
+    int asked = 0;
+    pendant.whileShown = [&](const QString& text) {
+        if (text == TryAgain && ++asked == 2)
+            pendant.declined << text;
+    };
+    pendant.runImport();
+    const QString left = "These files could not be put back:\nheartbeat.xml\nfixed/dns_fixed.cfg\nfa/pfb.cfg";
+    QCOMPARE(
+        pendant.messages(),
+        QStringList({"Import file failed!\nThe file fa/pfb.cfg could not be sent to the controller.\n" + left,
+                     TryAgain, left, TryAgain}));
+    QVERIFY(pendant.configuration() != before);
+
+    // The next import begins with putting back what the last one has left, also after a new start.
+    pendant.controller().faults().clearAll();
+    QVERIFY(pendant.press("exitBtn"));
+    QTRY_COMPARE(pendant.window().application().state(), ApplicationSlot::State::Empty);
+    QVERIFY(pendant.open());
+    QCOMPARE(pendant.runImport(), PutBack);
+    QVERIFY(pendant.configuration() == before);
+    QVERIFY(pendant.runImport() != PutBack); // and no second time
+}
+
+void TestUsbImport::controllerChangesMeanwhile()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    pendant.whilePreview = [&pendant] { pendant.vary("/fa/pfb.cfg", "by somebody else"); };
+    QCOMPARE(pendant.runImport(),
+             "Import file failed!\nThe file fa/pfb.cfg of the controller has changed meanwhile.\n" +
+                 NothingChanged);
+    QVERIFY(pendant.controllerFile("/fa/pfb.cfg").contains("by somebody else"));
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
+}
+
+void TestUsbImport::restartIsOffered()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    QCOMPARE(pendant.runImport(), Imported);
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
+
+    pendant.declined.clear();
+    pendant.controller().setRestartAllowed(false);
+    QVERIFY(pendant.vary("/fa/pfb.cfg", "again"));
+    QCOMPARE(pendant.runImport(), QString("Please manually power off and restart the robot!"));
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
+
+    pendant.controller().setRestartAllowed(true);
+    QVERIFY(pendant.vary("/fa/pfb.cfg", "once more"));
+    QCOMPARE(pendant.runImport(), UsbPendant::restartQuestion());
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 1);
+    QTRY_VERIFY(!pendant.isOpen());
+}
+
+PENDANT_TEST_MAIN(TestUsbImport)
+#include "tst_usbimport.moc"
