@@ -76,9 +76,11 @@ void plainCopy(benchmark::State& state)
 {
     const Pendant pendant;
     Waits waits(static_cast<unsigned>(state.range(0)));
+    int copies = 0;
     for (auto _ : state) {
+        const QString folder = pendant.drive() + QStringLiteral("/copy_%1/").arg(copies++);
         for (const TransferFile& file : FileLocations::transferSet()) {
-            const QString target = pendant.drive() + QLatin1Char('/') + QLatin1String(file.folder);
+            const QString target = folder + QLatin1String(file.folder);
             QDir().mkpath(target);
             QDir().mkpath(QFileInfo(file.staging).path());
             if (!DataAccess::GetFileFromController2TPU(QLatin1String(file.controller), file.staging, false) ||

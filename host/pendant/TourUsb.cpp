@@ -31,7 +31,7 @@ public:
     ScratchDrive(const ScratchDrive&) = delete;
     ScratchDrive& operator=(const ScratchDrive&) = delete;
 
-    QDir directory() const { return QDir(m_directory.path()); }
+    QDir directory() const { return {m_directory.path()}; }
 
 private:
     QTemporaryDir m_directory;
@@ -72,8 +72,8 @@ bool chooseFirstFolder(QDialog& dialog)
 
 } // namespace
 
-// Folders of another robot, the newest of which is tried: first one that is fit, then one whose switches
-// break a rule, then one with a broken file.
+// Folders of another robot, the newest of which is tried: first one that can be imported, then one whose
+// switches break a rule, then one with a broken file.
 bool Tour::visitUsb()
 {
     const ScratchDrive drive;
@@ -102,8 +102,8 @@ bool Tour::visitUsb()
     };
     const Stop stops[] = {
         {"usb-preview", "/fidbus_21000101_080000", "/heartbeat.xml", "<Fidbus>", "<Fidbus><!-- other -->"},
-        {"usb-rule-broken", "/fidbus_21000102_080000", "/fieldbus.xml", "\"EtherCatMaster\" enable=\"0\"",
-         "\"EtherCatMaster\" enable=\"1\""},
+        {"usb-rule-broken", "/fidbus_21000102_080000", "/fieldbus.xml", R"("EtherCatMaster" enable="0")",
+         R"("EtherCatMaster" enable="1")"},
         {"usb-refused", "/fidbus_21000103_080000", "/fieldbus_config.xml", "</FieldbusConfig>", ""},
     };
     for (const Stop& stop : stops) {

@@ -9,6 +9,8 @@
 #include <QDateTime>
 #include <QDir>
 
+#include <utility>
+
 namespace {
 
 constexpr int FetchTries = 3; // each of them ten attempts of the library
@@ -44,8 +46,8 @@ void prepareStaging()
 
 } // namespace
 
-ConfigExport::ConfigExport(const QString& drive, TransferWatch& watch)
-    : m_drive(drive)
+ConfigExport::ConfigExport(QString drive, TransferWatch& watch)
+    : m_drive(std::move(drive))
     , m_watch(watch)
 {
 }
@@ -133,7 +135,7 @@ TransferResult ConfigExport::copyFolder(const QString& source, const QString& ta
         const QString name = file.fileName();
         const bool there = DriveFiles::isThere(m_drive);
         if (!there || !DriveFiles::copy(file.filePath(), target + QLatin1Char('/') + name)) {
-            logText(QLatin1String("Copying ") + name + QLatin1String(" file to USB drive failed!"));
+            logText(QStringLiteral("Copying %1 file to USB drive failed!").arg(name));
             return {there ? TransferResult::DriveFailed : TransferResult::DriveGone, name};
         }
         TransferResult result = stepped();

@@ -16,7 +16,7 @@ class ConfigExport
 {
 public:
     /// `drive`: path under which the host named the drive.
-    ConfigExport(const QString& drive, TransferWatch& watch);
+    ConfigExport(QString drive, TransferWatch& watch);
 
     TransferResult run();
 

@@ -11,7 +11,8 @@ ImportFolderDialog::ImportFolderDialog(const std::vector<ExportFolder>& folders,
     ui->setupUi(this);
     applyStyle();
 
-    TransferTable::prepare(*ui->folderTable, QAbstractItemView::SingleSelection);
+    TransferTable::prepare(*ui->folderTable, {tr("Date"), tr("Folder"), tr("Files")},
+                           QAbstractItemView::SingleSelection);
     const int complete = static_cast<int>(FileLocations::transferSet().size());
     for (const ExportFolder& folder : folders)
         TransferTable::addRow(*ui->folderTable,

@@ -24,7 +24,7 @@ public:
         }
         if (reader.hasError())
             return tr("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString());
-        return found == root ? QString() : tr("begins with \"%1\" instead of \"%2\"").arg(found, root);
+        return found == root ? QString() : tr(R"(begins with "%1" instead of "%2")").arg(found, root);
     }
 
     static QString faultOfText(const QByteArray& content)

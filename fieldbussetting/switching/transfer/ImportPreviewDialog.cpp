@@ -60,7 +60,7 @@ ImportPreviewDialog::~ImportPreviewDialog() = default;
 
 void ImportPreviewDialog::showFiles(const std::vector<ImportEntry>& entries, bool possible)
 {
-    TransferTable::prepare(*ui->fileTable, QAbstractItemView::NoSelection);
+    TransferTable::prepare(*ui->fileTable, {tr("File"), tr("State")}, QAbstractItemView::NoSelection);
     QStringList summary;
     for (const StateRow& row : States) {
         summary << tr("%1: %2").arg(tr(row.text)).arg(count(entries, row.state));
@@ -83,7 +83,8 @@ void ImportPreviewDialog::showFiles(const std::vector<ImportEntry>& entries, boo
 
 void ImportPreviewDialog::showRoles(const ImportedRoles& roles)
 {
-    TransferTable::prepare(*ui->roleTable, QAbstractItemView::NoSelection);
+    TransferTable::prepare(*ui->roleTable, {tr("Bus switch"), tr("Now"), tr("After")},
+                           QAbstractItemView::NoSelection);
     const auto text = [](bool on) { return on ? tr("ON") : tr("OFF"); };
     for (const bool changed : {true, false}) {
         for (const ImportedRole& role : roles.roles) {

@@ -10,7 +10,7 @@
 namespace {
 
 // The service that reads them refuses larger ones as well.
-constexpr qint64 LargestFile = 4 * 1024 * 1024;
+constexpr qint64 LargestFile = qint64(4) * 1024 * 1024;
 
 struct Root
 {

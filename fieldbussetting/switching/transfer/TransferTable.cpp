@@ -8,8 +8,11 @@ constexpr int TargetHeight = 56; // of a row that is chosen
 constexpr int TextHeight = 40;   // of one that is only read
 } // namespace
 
-void TransferTable::prepare(QTableWidget& table, QAbstractItemView::SelectionMode selection)
+void TransferTable::prepare(QTableWidget& table, const QStringList& captions,
+                            QAbstractItemView::SelectionMode selection)
 {
+    table.setColumnCount(captions.size());
+    table.setHorizontalHeaderLabels(captions);
     table.setSelectionMode(selection);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setEditTriggers(QAbstractItemView::NoEditTriggers);

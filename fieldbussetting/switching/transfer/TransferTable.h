@@ -9,8 +9,8 @@ class QTableWidget;
 /// The read-only tables of the import's dialogs: rows for a finger, scrolled by a finger.
 namespace TransferTable {
 
-/// Sets a table of a form up: the first column takes what is left.
-void prepare(QTableWidget& table, QAbstractItemView::SelectionMode selection);
+/// Sets a table of a form up; the first column takes the room that is left.
+void prepare(QTableWidget& table, const QStringList& captions, QAbstractItemView::SelectionMode selection);
 
 /// Appends a row; `stressed` shows it in bold.
 void addRow(QTableWidget& table, const QStringList& texts, bool stressed = false);
