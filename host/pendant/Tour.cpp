@@ -12,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -83,6 +84,7 @@ const Tour::Station Tour::Stations[] = {
     {"devicenet-slave", &Tour::visitDeviceNetSlave},
     {"devicenet-master-editing", &Tour::visitDeviceNetMasterEditing},
     {"usb", &Tour::visitUsb},
+    {"bus-switches", &Tour::visitBusSwitches},
     {"exit", &Tour::visitExit},
     {"slave-states", &Tour::visitSlaveStates},
     {"masters", &Tour::visitMasters},
@@ -199,6 +201,29 @@ bool Tour::visitPanel()
     const bool reported = settle() && report(QStringLiteral("panel"), m_subject.panel);
     m_subject.panel->setVisible(wasVisible);
     return reported;
+}
+
+bool Tour::visitBusSwitches()
+{
+    if (!openPage(QStringLiteral("busSetting")))
+        return false;
+    // Of the two DeviceNet roles one is refused while the other is on.
+    auto* master = qobject_cast<QComboBox*>(find(QStringLiteral("devnetmSwitch")));
+    auto* slave = qobject_cast<QComboBox*>(find(QStringLiteral("devnetSwitch")));
+    if (!master || !slave)
+        return false;
+    slave->setCurrentIndex(0);
+    master->setCurrentIndex(1);
+    const bool warned = pictureOfDialog(QStringLiteral("bus-switch-warning"), [slave] {
+        slave->setCurrentIndex(1);
+        return true;
+    });
+    // Cancelled, which takes the switches back; then confirmed, which changes nothing and shows the wait.
+    if (!warned || !pictureOfDialog(QStringLiteral("bus-switch-question"), QStringLiteral("saveBusBt")))
+        return false;
+    MsgBoxScript::answerNext(MsgBox::Confirmed);
+    return Finger::press(find(QStringLiteral("saveBusBt"))) && report(QStringLiteral("bus-switch-wait")) &&
+           settle() && report(QStringLiteral("bus-switch-saved"));
 }
 
 bool Tour::visitDeviceNetSlave()
@@ -444,10 +469,15 @@ bool Tour::openHiddenPage(const QString& button)
 
 bool Tour::pictureOfDialog(const QString& name, const QString& button)
 {
+    return pictureOfDialog(name, [this, button] { return Finger::press(find(button)); });
+}
+
+bool Tour::pictureOfDialog(const QString& name, const std::function<bool()>& act)
+{
     m_wantedDialog = name;
     m_dialogTaken = false;
     m_dialogSeen = false;
-    const bool settled = pressAndSettle(find(button));
+    const bool settled = act() && settle();
     m_wantedDialog.clear();
     return settled && m_dialogTaken;
 }

@@ -58,6 +58,7 @@ private:
     bool visitMapping();
     bool visitDeviceNetSlave();
     bool visitDeviceNetMasterEditing();
+    bool visitBusSwitches();
     bool visitExit();
     bool visitSlaveStates();
     bool visitUsb(); // TourUsb.cpp
@@ -71,6 +72,7 @@ private:
     bool visitSlaveModule();
     /// The same, whether or not the role of the page is switched on.
     bool pictureOfDialog(const QString& name, const QString& button);
+    bool pictureOfDialog(const QString& name, const std::function<bool()>& act);
     bool pressAndSettle(QWidget* target);
     bool type(const QString& edit, const QString& text);
     bool waitForVariable(const QString& name, double value);

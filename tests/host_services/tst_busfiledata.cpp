@@ -140,6 +140,8 @@ private slots:
     void anObserverMayDoAnythingInANotification_data();
     void anObserverMayDoAnythingInANotification();
     void aFailedFetchIsTriedAgain();
+    void aRestartIsFollowedByAFetch();
+    void rolesThatCouldNotBeSentAreForgotten();
     void performance_data();
     void performance();
     void addresses_data();
@@ -369,6 +371,39 @@ void TestBusFileData::aFailedFetchIsTriedAgain()
     QCOMPARE(manager().getBusNameList(true, false).size(), std::size_t(4));
     QCOMPARE(manager().getBusNameList(true, true).front().name, QString("EtherNetIPSlave"));
     QVERIFY(manager().getBusNameList(false, false).empty());
+}
+
+void TestBusFileData::aRestartIsFollowedByAFetch()
+{
+    readBoth();
+    QVERIFY(manager().isFuncInfoNotified("fieldbus") && manager().isFuncInfoNotified("fieldbusCfg"));
+    // Down it says nothing new; what is held stays for the application that is open.
+    for (const bool up : {true, false, true}) {
+        QVERIFY(manager().isFuncInfoNotified("fieldbus") && manager().isFuncInfoNotified("fieldbusCfg"));
+        m_link->up = up;
+        emit m_link->stateChanged();
+    }
+    QVERIFY(!manager().isFuncInfoNotified("fieldbus") && !manager().isFuncInfoNotified("fieldbusCfg"));
+    QVERIFY(!manager().getBusNameList(true, true).empty());
+    readBoth();
+    QVERIFY(manager().isFuncInfoNotified("fieldbus"));
+}
+
+void TestBusFileData::rolesThatCouldNotBeSentAreForgotten()
+{
+    readBoth();
+    const auto isOn = [](const char* role) { return manager().getAllBusName().value(role).enabled; };
+    setRole("Mes", true);
+    m_link->transfersFail = true;
+    manager().writeSendFieldbusXml();
+    QVERIFY(!isOn("Mes"));
+    m_link->transfersFail = false;
+    setRole("Mes", true);
+    manager().writeSendFieldbusXml();
+    m_link->transfersFail = true;
+    setRole("FreeBus", true);
+    manager().writeSendFieldbusXml();
+    QVERIFY(isOn("Mes") && !manager().isOpenFreeBus());
 }
 
 void TestBusFileData::performance_data()

@@ -26,6 +26,7 @@ public:
     bool running = false;
     bool servo = false;
     bool restartAllowed = true;
+    bool up = true;
     int restarts = 0;
 
     static QString key(const QString& name, int element)
@@ -91,7 +92,7 @@ public:
 
     bool isRobotRunning() const override { return running; }
     bool isServoOn() const override { return servo; }
-    bool isUp() const override { return true; }
+    bool isUp() const override { return up; }
     bool isRestartAllowed() const override { return restartAllowed; }
     void requestRestart() override { ++restarts; }
 };

@@ -49,9 +49,19 @@ bool isDirective(std::string_view word)
     return isCommentedDirective(word) || equalsIgnoringCase(word, "ecat_slave_off");
 }
 
+// A line has many blanks and few digits, so the digit is looked for.
+bool hasSlot(std::string_view line, std::string_view slot)
+{
+    for (std::size_t at = line.find(slot[1]); at != std::string_view::npos; at = line.find(slot[1], at + 1)) {
+        if (at > 0 && line.substr(at - 1, slot.size()) == slot)
+            return true;
+    }
+    return false;
+}
+
 bool isSelected(std::string_view line, std::string_view slot)
 {
-    return contains(line, slot) && containsIgnoringCase(line, "ecat_slave");
+    return hasSlot(line, slot) && containsIgnoringCase(line, "ecat_slave");
 }
 
 QByteArray bytes(std::string_view text)
@@ -124,13 +134,16 @@ void readEntry(OverrideEntry& entry, std::string_view line)
 }
 
 // Starts from the family's record, so that a line that cannot be understood leaves its entry as it was.
-OverrideRecord readEntries(const QByteArray& content, OverrideRecord record, std::string_view slot)
+// `look` sees every line for as long as it answers true.
+template <typename Look>
+OverrideRecord readEntries(const QByteArray& content, OverrideRecord record, std::string_view slot, Look look)
 {
     record.count = 0;
     TextTemplate::forEachLine(content, [&](std::string_view line, std::string_view) {
-        if (isSelected(line, slot))
+        const bool isLooking = look(line);
+        if (record.count < OverrideRecord::MaxEntries && isSelected(line, slot))
             readEntry(record.entries[static_cast<std::size_t>(record.count++)], line);
-        return record.count < OverrideRecord::MaxEntries;
+        return isLooking || record.count < OverrideRecord::MaxEntries;
     });
     return record;
 }
@@ -236,7 +249,7 @@ bool HandleBusFiles::readMasterOverride(const QString& path, OverrideRecord& rec
     QByteArray content;
     if (!WholeFile::read(path, content))
         return false;
-    record = readEntries(content, record, MasterSlot);
+    record = readEntries(content, record, MasterSlot, [](std::string_view) { return false; });
     return true;
 }
 
@@ -247,14 +260,13 @@ bool HandleBusFiles::readEtherCatFile(const QString& path, OverrideRecord& recor
     if (!WholeFile::read(path, content))
         return false;
     devices = MasterDevicesInUse();
-    TextTemplate::forEachLine(content, [&devices](std::string_view line, std::string_view) {
-        if (contains(line, MasterSlot) && containsIgnoringCase(line, ";ecat_slave")) {
+    const OverrideRecord read = readEntries(content, record, SlaveSlot, [&devices](std::string_view line) {
+        if (hasSlot(line, MasterSlot) && containsIgnoringCase(line, ";ecat_slave")) {
             devices.EIM_DEVICE |= containsIgnoringCase(line, "eim_device");
             devices.PNM_DEVICE |= containsIgnoringCase(line, "pnm_device");
         }
         return true;
     });
-    const OverrideRecord read = readEntries(content, record, SlaveSlot);
     const OverrideEntry* anybus = read.anybus();
     FieldbusSettingLib::getInstance()->set_ifidbus_ethcat_enable(anybus && anybus->off);
     record = read;
