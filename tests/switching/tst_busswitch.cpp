@@ -532,7 +532,6 @@ void TestBusSwitch::showsWhatRuns_data()
         QTest::newRow(name) << on << profisafe << module << slot << managed;
     };
     row("nothing, PROFINET module", {}, false, 14, true, true);
-    row("nothing, EtherCAT module", {}, false, 13, true, false);
     row("nothing, no module slot", {}, false, 14, false, false);
     row("nothing, ProfiSAFE", {}, true, 0, false, true);
     row("PROFINET slave, no module", {"ProfinetSlave", "Mes", "FreeBus"}, false, 13, false, true);
@@ -675,9 +674,7 @@ void TestBusSwitch::userLevelDrops_data()
         AskSave, 300);
     row("send failure", "send-fails", {{"ethcatMSwitch", 1}}, "Failed to send file:override.cfg", 0);
     row("wait for a command", "command-never-taken", {{"ethnetSwitch", 1}}, Waiting, 250);
-    row("in a command's poll", "command-never-taken", {{"ethnetSwitch", 1}}, Waiting, 101);
     row("wait for the bus type", "bus-type-never-answered", {{"freeBusSwitch", 1}}, Waiting, 250);
-    row("time-out", "bus-type-refused", {{"freeBusSwitch", 1}}, NotChanged, 0);
     row("announcement", "", {{"mesSwitch", 1}}, Saved, 0);
     row("before the restart", "", {{"mesSwitch", 1}}, Saved, 20);
     row("watching the clock", "restart-ignored", {{"mesSwitch", 1}}, Saved, 150);
