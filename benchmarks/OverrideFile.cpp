@@ -26,7 +26,8 @@ QByteArray content()
         if (line % 15 == 0)
             bytes += ";ECAT_SLAVE_OFF 1 " + number + " ;MODULE_" + number + '\n';
         else if (line % 15 == 1)
-            bytes += "ECAT_SLAVE_OFF 2 " + number + ";DEVICE_" + number + '\n';
+            bytes += (line % 2 == 0 ? ";" : "") + QByteArray("ECAT_SLAVE_OFF 2 ") + number + ";DEVICE_" +
+                     number + '\n';
         else if (line % 3 == 0)
             bytes += "; line " + number + " of the settings of robot cell 7, do not change by hand\n";
         else

@@ -162,8 +162,10 @@ void FbMainWidget::slotMenuBtnsClicked(int id)
     if (id < 0 || id >= PageRegistry::PageCount)
         id = 0;
     const QPointer<FbMainWidget> self(this);
+    const int choice = ++m_choices;
     PageBase* page = pageOf(id);
-    if (!self || !page)
+    // A page that waits while it is made does not come in front of the one that was chosen meanwhile.
+    if (!self || !page || choice != m_choices)
         return;
     ui->fieldbusSetSWidget->setCurrentWidget(page);
     // For a page without a button none is pressed, which an exclusive group does not allow.

@@ -113,8 +113,9 @@ void MasterSlaveStates::readTable(Master master)
 {
     pugi::xml_document document;
     QByteArray bytes;
-    if (parts().files.read(QLatin1String(Names[master].file), bytes))
-        document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    if (!parts().files.read(QLatin1String(Names[master].file), bytes) ||
+        !document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size())))
+        document.reset();
     const pugi::xml_node group = document.child(Names[master].root).child("Group");
     const int count = group.child("SlaveNum").text().as_int();
     Table& table = m_tables[master];

@@ -15,7 +15,7 @@ class QModbusTcpClient;
 /// while the slave answers under its unit id.
 ///
 /// It tries for as long as the saved time-out and then gives up; with automatic connection it begins again. A
-/// connection that breaks is tried again in the same way. Sockets live in real time, so no delay of it
+/// connection that breaks is tried again in the same way. Sockets live in real time, so no wait for one
 /// follows the time scale. Only addresses of this machine are reached.
 class ModbusMaster : public Behaviour
 {

@@ -105,6 +105,8 @@ void ProfisafeDevice::takeCommand(int command)
     if (command == 0 || !isPresent() || parts().faults.strikes(Faults::CommandNeverTaken, name))
         return;
     later(name, CommandMs, [this, name, command] {
+        if (!isPresent())
+            return;
         m_commandsTaken.push_back(command);
         if ((command & ConfirmError) != 0)
             setBit(Input, FaultInput, false);

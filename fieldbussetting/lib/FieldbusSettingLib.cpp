@@ -110,8 +110,10 @@ bool FieldbusSettingLib::deleteDir(const QString& dirPath, const QString& keepNa
 
 void FieldbusSettingLib::delay_MSec(unsigned int msec)
 {
-    const QTime deadline = QTime::currentTime().addMSecs(static_cast<int>(msec));
-    while (QTime::currentTime() < deadline) {
+    const QTime start = QTime::currentTime();
+    const QTime deadline = start.addMSecs(static_cast<int>(msec));
+    // By the time of day: a wait that crosses midnight, or during which the clock is set back, ends at once.
+    for (QTime now = start; now >= start && now < deadline; now = QTime::currentTime()) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, EventSliceMs);
         QThread::usleep(IdlePauseUs);
     }

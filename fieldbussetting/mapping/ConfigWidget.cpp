@@ -116,16 +116,20 @@ void ConfigWidget::slotGetFileToUi()
     showAll();
 }
 
-// Another page may have switched the mode or a bus meanwhile: what was loaded before would be saved to a mode
-// that it does not belong to.
+// Another page may have switched the mode or a bus meanwhile. What was loaded before would be saved to a mode
+// that it does not belong to; a bus only has its tab or has it no more.
 void ConfigWidget::showEvent(QShowEvent* event)
 {
     PageBase::showEvent(event);
-    if (!m_loaded || m_busy ||
-        (m_model.isFree() == service()->isOpenFreeBus() && m_busNames == switchedOnBuses()))
+    if (!m_loaded || m_busy)
         return;
-    setEditing(false);
-    slotGetFileToUi();
+    if (m_model.isFree() != service()->isOpenFreeBus()) {
+        setEditing(false);
+        slotGetFileToUi();
+    } else if (m_busNames != switchedOnBuses()) {
+        m_busNames = switchedOnBuses();
+        enableTabs();
+    }
 }
 
 void ConfigWidget::setEditing(bool editing)
@@ -202,7 +206,7 @@ void ConfigWidget::take(const MappingModel::Entry& entry)
         return;
     }
     if (entry.movedSlaveBlock)
-        addUpdateBits(SlaveBlocksMoved);
+        changeUpdateBits(0, SlaveBlocksMoved);
     showAll();
 }
 

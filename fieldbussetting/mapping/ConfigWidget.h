@@ -78,9 +78,8 @@ private:
     /// The page may be gone afterwards.
     void refuse(const Mapping::Message& message);
 
-    /// Sets bits of "ifidbus.xml_update_state" beside those that are set.
-    static void addUpdateBits(int bits);
-    static void dropUpdateBits(int bits);
+    /// Changes bits of "ifidbus.xml_update_state", in one write; the others are left as they are.
+    static void changeUpdateBits(int dropped, int added);
     void save();
     void endWaiting();
     void restartController();

@@ -28,18 +28,16 @@ bool isUpdateBitSet(int bit)
 
 } // namespace
 
-void ConfigWidget::addUpdateBits(int bits)
+void ConfigWidget::changeUpdateBits(int dropped, int added)
 {
-    ControllerVariables::ifidbus_xml_update_state = ControllerVariables::ifidbus_xml_update_state | bits;
-}
-
-void ConfigWidget::dropUpdateBits(int bits)
-{
-    ControllerVariables::ifidbus_xml_update_state = ControllerVariables::ifidbus_xml_update_state & ~bits;
+    ControllerVariables::ifidbus_xml_update_state =
+        (ControllerVariables::ifidbus_xml_update_state & ~dropped) | added;
 }
 
 void ConfigWidget::on_bt_EditOrSave_clicked()
 {
+    if (m_busy) // no finger gets here meanwhile, but a key does
+        return;
     if (!m_editing) {
         setEditing(true);
         return;
@@ -74,9 +72,6 @@ void ConfigWidget::save()
     setEditing(false);
     m_ticks = 0;
     m_timer.start(TickMs);
-    // The answer to the save before, which was rejected or came too late, is not the one to this save.
-    if (isUpdateBitSet(Taken | Rejected))
-        dropUpdateBits(Taken | Rejected);
     BusFileDataManager* service = BusFileDataManager::getInstance();
     service->setBusNumAndAddr(m_model.editedBuses());
     service->writeSendFieldbusCfg(); // its result may close the page
@@ -88,7 +83,8 @@ void ConfigWidget::busNotification(int kind, const QString& path, bool success)
     if (!m_busy || kind != Sent || path != QLatin1String(FileLocations::FieldbusConfigXml))
         return;
     if (success) {
-        addUpdateBits(Announced);
+        // The answer to the save before, which was rejected or came too late, is not the one to this save.
+        changeUpdateBits(Taken | Rejected, Announced);
         m_waiting = true;
         return;
     }

@@ -30,10 +30,11 @@ quint32 placeRows(Rows& rows, quint32 start, SizeOf sizeOf)
     for (const BusVariableType type : Types) {
         BusRowInfo& row = rows[type];
         row.start = row.end = NoBusAddress;
-        if (row.quantity == 0)
+        const int size = sizeOf(type, row.quantity);
+        if (size == 0) // Bools that do not fill one byte or register have no place either
             continue;
         row.start = start;
-        start += static_cast<quint32>(sizeOf(type, row.quantity));
+        start += static_cast<quint32>(size);
         row.end = start - 1;
     }
     return start;

@@ -299,7 +299,7 @@ MappingModel::Entry MappingModel::enterStart(int number, double value)
         return {};
     if (layout == Layout::MasterRegisters && isEmpty(shownArea(number).user))
         return {message(Severity::Warning, NoStartOfNothing)};
-    if (!(value >= 0 && value < NoBusAddress))
+    if (!(value >= FirstRegister && value < NoBusAddress))
         return {rangeRefusal(int(FirstRegister), int(lastRegister(layout)))};
     return take(number, recordOf(table.bus), static_cast<quint32>(value), Entered::Start);
 }

@@ -123,14 +123,14 @@ void MasterTablePage::save()
             return;
     }
     // Asked before the second file is written: the operator answers once, and the restart comes last.
-    const Answer restart = askRestart();
-    if (restart == Answer::Gone)
+    const Answer wanted = askRestart();
+    if (wanted == Answer::Gone)
         return;
     storeSlaves();
     if (writeAndSend(m_master.slaveFile, plain(m_master.writeSlaves), m_master.slaveTexts) != Outcome::Done)
         return;
-    if (restart == Answer::Confirmed)
-        Restart::perform(Restart::Way::WhenAllowed);
+    if (wanted == Answer::Confirmed)
+        restart(Restart::Way::WhenAllowed);
 }
 
 void MasterTablePage::switchDynamicAlarm()
@@ -173,7 +173,8 @@ void MasterTablePage::refreshStatus()
 
 int MasterTablePage::shownCount() const
 {
-    return qBound(0, m_settings->lineEdit_slave_count->text().trimmed().toInt(), Positions);
+    return static_cast<int>(
+        qBound(0.0, m_settings->lineEdit_slave_count->text().trimmed().toDouble(), double(Positions)));
 }
 
 void MasterTablePage::showPositions(int count)

@@ -81,7 +81,8 @@ void DeviceTable::fill(const OverrideRecord& record)
     for (int row = 0; row < RowCount; ++row) {
         const OverrideEntry& entry = record.entries[static_cast<std::size_t>(row)];
         clearRow(row);
-        if (entry.slot > 0)
+        // The entries behind the count are those of a longer file that was read before.
+        if (row < record.count && entry.slot > 0)
             fillRow(row, ++shown, entry);
     }
     // By the count, not by what stands in a row: the controller's file lists the used entries first.

@@ -19,7 +19,7 @@ namespace NetworkPorts {
 /// In the order in which pages list them: ETH2, ETH3.
 constexpr int Count = 2;
 
-/// As the controller has them now. The host may process events meanwhile.
+/// As the controller has them now.
 inline std::array<NetworkPort, Count> read()
 {
     const NetworkAddresses addresses = SysSettingApi::getIpAddress();

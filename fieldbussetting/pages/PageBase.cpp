@@ -128,9 +128,12 @@ Outcome PageBase::write(ConfigFile file, const FileOperation& operation, const T
 
 Outcome PageBase::send(ConfigFile file, const TransferTexts& texts)
 {
+    const Presence self(this);
     const FileLocation& location = FileLocations::of(file);
     Busy busy(this);
     const bool sent = lib()->sendFileToCtrl(location.local, location.controller);
+    if (!self)
+        return Outcome::Gone;
     busy.release();
     return sent ? Outcome::Done : failed(texts, texts.sendFailed, fileName(file));
 }
@@ -157,5 +160,11 @@ PageBase::Answer PageBase::askRestart()
 void PageBase::offerRestart(Restart::Way way)
 {
     if (askRestart() == Answer::Confirmed)
-        Restart::perform(way);
+        restart(way);
+}
+
+void PageBase::restart(Restart::Way way)
+{
+    const Busy busy(this);
+    Restart::perform(way);
 }

@@ -113,6 +113,9 @@ protected:
     Answer askRestart();
     /// Asks, and restarts when it is confirmed. The page may be gone afterwards.
     void offerRestart(Restart::Way way);
+    /// Restarts with input blocked, so that no second restart is asked for meanwhile. The page may be gone
+    /// afterwards.
+    void restart(Restart::Way way);
 
 private:
     /// Looks after the page while events are processed: false when the page is gone.

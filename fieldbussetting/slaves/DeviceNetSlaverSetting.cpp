@@ -87,7 +87,9 @@ void DeviceNetSlaverSetting::beginHandshake()
 {
     m_pollLimit = m_firstSave ? FirstPollLimit : PollLimit;
     m_firstSave = false;
-    lib()->set_freebus_busconfig_xml_update(lib()->get_freebus_busconfig_xml_update_state() | SlaveFileSent);
+    // An answer that came after a handshake was given up is not the one to this file.
+    const int state = lib()->get_freebus_busconfig_xml_update_state() & ~SlaveFileTaken;
+    lib()->set_freebus_busconfig_xml_update(state | SlaveFileSent);
     ui->btn_save->setEnabled(false);
     m_handshake.start(PollMs);
 }

@@ -63,9 +63,11 @@ void EtherCatSettingWidget::on_btn_saveFbECAT_clicked()
     const QString endian =
         ui->cbb_Endian->currentIndex() == LittleEndian ? littleEndianText() : QStringLiteral("bigEndian");
     const QPointer<EtherCatSettingWidget> self(this);
+    Busy busy(this);
     const bool sent = BusFileDataManager::getInstance()->writeAndSendFbslave(endian);
     if (!self)
         return;
+    busy.release();
     if (!sent) {
         tell(MsgBox::Warning, tr("Failed to write file."));
         return;

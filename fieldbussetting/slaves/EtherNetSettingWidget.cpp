@@ -3,7 +3,6 @@
 #include "ui_EtherNetSettingWidget.h"
 
 #include <QListView>
-#include <QSignalBlocker>
 #include <QStandardItemModel>
 
 #include <algorithm>
@@ -53,14 +52,8 @@ const TextFileSlavePage::Role& EtherNetSettingWidget::role()
 
 void EtherNetSettingWidget::on_localPortIpCB_currentIndexChanged(int index)
 {
-    if (index < 0 || index >= NetworkPorts::Count) {
-        showAddress({});
-        return;
-    }
-    const QPointer<EtherNetSettingWidget> self(this);
-    const auto ports = NetworkPorts::read();
-    if (self)
-        showAddress(ports[static_cast<std::size_t>(index)]);
+    const bool isPort = index >= 0 && index < NetworkPorts::Count;
+    showAddress(isPort ? m_ports[static_cast<std::size_t>(index)] : NetworkPort());
 }
 
 void EtherNetSettingWidget::on_saveButton_clicked()
@@ -89,23 +82,18 @@ void EtherNetSettingWidget::fillFromRecord()
     showAddress({record.IPADDR, record.NETMASK});
     showEndian(ui->cbb_largeSmall, record.EipEndian);
 
-    const QPointer<EtherNetSettingWidget> self(this);
-    const auto ports = NetworkPorts::read();
-    if (!self)
-        return;
+    m_ports = NetworkPorts::read();
     for (int index = 0; index < NetworkPorts::Count; ++index)
-        offer(index, hasAddress(ports[static_cast<std::size_t>(index)]));
+        offer(index, hasAddress(m_ports[static_cast<std::size_t>(index)]));
 
     const QString address = record.IPADDR.trimmed();
-    const auto used = std::find_if(ports.begin(), ports.end(), [&address](const NetworkPort& port) {
+    const auto used = std::find_if(m_ports.begin(), m_ports.end(), [&address](const NetworkPort& port) {
         return !address.isEmpty() && port.ip == address;
     });
-    const bool matches = used != ports.end();
+    const bool matches = used != m_ports.end();
     ui->info_label->setVisible(!matches);
     showAddress(matches ? *used : NetworkPort());
-    // Without its slot, which would fetch once more what is shown already.
-    const QSignalBlocker blocker(ui->localPortIpCB);
-    ui->localPortIpCB->setCurrentIndex(matches ? static_cast<int>(used - ports.begin()) : NoAdapter);
+    ui->localPortIpCB->setCurrentIndex(matches ? static_cast<int>(used - m_ports.begin()) : NoAdapter);
 }
 
 void EtherNetSettingWidget::showAddress(const NetworkPort& port)

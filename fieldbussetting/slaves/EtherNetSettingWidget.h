@@ -27,13 +27,14 @@ private slots:
 
 private:
     static const Role& role();
-    /// The page may be gone afterwards: the addresses of the ports are fetched.
     void fillFromRecord();
     void showAddress(const NetworkPort& port);
     /// A port without an address is not in the list and cannot be chosen by key or wheel either.
     void offer(int index, bool offered);
 
     std::unique_ptr<Ui::EtherNetSettingWidget> ui;
+    /// As they were when the page was filled: what is offered and what a choice gives are the same addresses.
+    std::array<NetworkPort, NetworkPorts::Count> m_ports;
 };
 
 #endif

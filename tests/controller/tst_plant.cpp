@@ -280,8 +280,8 @@ void TestPlant::overrideFile()
     QCOMPARE(file.count("ECAT_SLAVE_OFF"), 13);
     // What runs is in use: the pendant warns about a role whose device is switched off.
     QVERIFY(file.contains("\n;ECAT_SLAVE_OFF 1 1005 ;ANYBUS\n"));
-    QVERIFY(file.contains("\n;ECAT_SLAVE_OFF 2 2001;EIM_DEVICE\n"));
-    QVERIFY(file.contains("\nECAT_SLAVE_OFF 2 2002;PNM_DEVICE\n"));
+    QVERIFY(file.contains("\n;ECAT_SLAVE_OFF 2 3001;EIM_DEVICE\n"));
+    QVERIFY(file.contains("\nECAT_SLAVE_OFF 2 3002;PNM_DEVICE\n"));
 }
 
 void TestPlant::deviceNetScanList()

@@ -163,6 +163,7 @@ void TestFins::pageFollowsTheClient()
     QTest::qWait(250);
     QVERIFY(settled("Grey", false));
     pendant.controller().variables().set(Connected, 0.0);
+    QTest::qWait(250); // until the page has seen it: it follows changes only
 
     QVERIFY(pendant.enter("serverIP_Edit", "127.0.0.1"));
     QVERIFY(pendant.enter("serverPort_edit", QString::number(plc.serverPort())));

@@ -272,8 +272,8 @@ void TestDeviceNetFiles::theHeaderIsTheControllers_data()
         rawBytes("\xff\0\r\n\n\r\r\nBAUDRATE 500\r\n\t\n"));
     row("no marker", "; all of it\nWS_ID 1\n; " + QByteArray(18, '='),
         "; all of it\nWS_ID 63\n; " + QByteArray(18, '='));
-    row("no marker, but blocks", ";   Device 1 MAC ID 5\nVENDOR_ID 6\n",
-        ";   Device 1 MAC ID 5\nVENDOR_ID 6\n");
+    row("no marker, but blocks", "WS_ID 1\n;   Device 1 MAC ID 5\nVENDOR_ID 6\n",
+        "WS_ID 63\n;   Device 1 MAC ID 5\nVENDOR_ID 6\n");
     row("a long line", QByteArray(300000, 'x') + "\n" + end, QByteArray(300000, 'x') + "\n");
 }
 
@@ -328,6 +328,9 @@ void TestDeviceNetFiles::devicesAreRead_data()
     row("settings inside a block are no settings", block("5", "WS_ID 9\nENDIAN x\n"), {nothing});
     row("seventeen devices: the first sixteen", block("5", "").repeated(16) + block("6", "VENDOR_ID 9\n"),
         QStringList(QVector<QString>(16, nothing).toList()));
+    row("no MAC ID at the line's end, a tab before one",
+        Rule + QByteArray(";   Device 1 MAC ID\r\nVENDOR_ID 7\n") + ";   Device 2 MAC ID\t9\nVENDOR_ID 8\n",
+        {"MAC -1 IN 0@0 OUT 0@0 7/0/0 0x00 0", "MAC 9 IN 0@0 OUT 0@0 8/0/0 0x00 0"});
     row("a comment about devices", Rule + QByteArray(";   Devices by MAC ID 5\n; Device 1 MAC ID 5\n"), {});
 }
 
@@ -355,11 +358,12 @@ void TestDeviceNetFiles::filesCutShortAreDefined()
     QVERIFY(lib.writeDeviceNetMasterFile(Path));
     const QByteArray whole = LibFixture::get(Path);
     const int headerEnd = whole.indexOf(Rule);
+    const int firstSetting = whole.indexOf("\nWS_ID") + 6;
     lib.deviceNetMaster = {};
     int lastCount = 0;
     for (int length = 0; length <= whole.size(); ++length) {
         QVERIFY(LibFixture::put(Path, whole.left(length)));
-        QCOMPARE(lib.readDeviceNetMasterFile(Path), length > 0);
+        QCOMPARE(lib.readDeviceNetMasterFile(Path), length >= firstSetting);
         QVERIFY(lib.deviceNetMaster.count >= lastCount);
         lastCount = lib.deviceNetMaster.count;
         QVERIFY(length > headerEnd || lastCount == 0);

@@ -87,7 +87,7 @@ void TestOverrideFile::mastersAreRead_data()
     row("a fourth token that is no comment", "ECAT_SLAVE_OFF 2 7 eim\n", "on 2 7 []");
     row("the first character goes, semicolon or not", "ECAT_SLAVE_OFF 2 7 x;y\n", "on 2 7 [;Y]");
     row("UTF-8", "ECAT_SLAVE_OFF 2 7;\u00e4b\n", "on 2 7 [\u00c4B]");
-    row("another encoding", "ECAT_SLAVE_OFF 2 7;\xe4z\n", "on 2 7 [\u00e4Z]");
+    row("another encoding", "ECAT_SLAVE_OFF 2 7;\xe4z\n", "on 2 7 [\u00e4z]");
     row("the other slot", "ECAT_SLAVE_OFF 1 7\n", "");
     row("the other slot, but device 2", ";ECAT_SLAVE_OFF 1 2 ;x\n", "off 1 2 [X]");
     row("largest number", "ECAT_SLAVE_OFF 2 4294967295\n", "on 2 4294967295 []");
@@ -121,11 +121,17 @@ void TestOverrideFile::slaveIsRead_data()
                         bool eim, bool pnm) {
         QTest::newRow(name) << content << QString(entries) << enabled << eim << pnm;
     };
+    QStringList twenty;
+    for (int number = 1; number <= 20; ++number)
+        twenty << QStringLiteral("on 1 %1 []").arg(number);
     row("the module in use", ";ECAT_SLAVE_OFF 1 5 ;anybus\n", "off 1 5 [ANYBUS]", true, false, false);
     row("the module switched off", "ECAT_SLAVE_OFF 1 5 ;ANYBUS\n", "on 1 5 [ANYBUS]", false, false, false);
     row("another device in use", ";ECAT_SLAVE_OFF 1 5 ;ANYBUS2\n", "off 1 5 [ANYBUS2]", false, false, false);
     row("both master devices, any case, anywhere",
         ";ecat_slave_off 2 1;x eim_device\nsee ;ECAT_SLAVE_OFF 2 2 ;Pnm_Device\n", "", false, true, true);
+    row("a master device behind the 20th",
+        directives(1, 21, "ECAT_SLAVE_OFF 1 ") + ";ECAT_SLAVE_OFF 2 1;EIM_DEVICE",
+        qPrintable(twenty.join(QLatin1Char('\n'))), false, true, false);
     row("switched off", "ECAT_SLAVE_OFF 2 1;EIM_DEVICE\nECAT_SLAVE_OFF 2 2;PNM_DEVICE\n", "", false, false,
         false);
     row("in the slave's slot", ";ECAT_SLAVE_OFF 1 1;EIM_DEVICE\n", "off 1 1 [EIM_DEVICE]", false, false,
@@ -227,7 +233,7 @@ void TestOverrideFile::isWritten_data()
     same("0: tabs between the tokens", Mode0, "ECAT_SLAVE_OFF\t2\t7\n");
     row("0: CRLF, no last newline", Mode0, "x\r\nECAT_SLAVE_OFF 2 7 ;a\r\ny",
         "x\r\nECAT_SLAVE_OFF 2 7;A\r\ny\n");
-    row("0: another encoding", Mode0, "ECAT_SLAVE_OFF 2 7;\xe4z\n", "ECAT_SLAVE_OFF 2 7;\xe4Z\n");
+    same("0: another encoding", Mode0, "ECAT_SLAVE_OFF 2 7;\x83\x79z\xa0\n");
     row("0: UTF-8", Mode0, "ECAT_SLAVE_OFF 2 7;\xc3\xa4\n", "ECAT_SLAVE_OFF 2 7;\xc3\x84\n");
     row("0: other lines", Mode0, others, others + "\n");
     same("0: prose", Mode0, "; put ECAT_SLAVE_OFF 2 x\n# ecat_slave_off 2 7\n");
@@ -245,6 +251,7 @@ void TestOverrideFile::isWritten_data()
     row("1: switched on", Mode1, "ECAT_SLAVE_OFF 2 7 ;a b\r\necat_slave_off  2 x\r\n",
         ";ECAT_SLAVE_OFF 2 7 ;a b\r\n;ecat_slave_off  2 x\r\n");
     row("1: behind blanks", Mode1, "  ECAT_SLAVE_OFF 2 7\n", "  ;ECAT_SLAVE_OFF 2 7\n");
+    row("1: behind a tab", Mode1, "\tECAT_SLAVE_OFF 2 7\n", "\t;ECAT_SLAVE_OFF 2 7\n");
     same("1: on already, prose, tabs, the other slot", Mode1,
          ";ECAT_SLAVE_OFF 2 7\nsee ECAT_SLAVE_OFF 2 7\nECAT_SLAVE_OFF\t2\t7\nECAT_SLAVE_OFF 1 7\n");
     row("1: device 2 of the other slot", Mode1, "ECAT_SLAVE_OFF 1 2 \n", ";ECAT_SLAVE_OFF 1 2 \n");
@@ -257,7 +264,13 @@ void TestOverrideFile::isWritten_data()
     row("2: the second part ends at the next slot", Mode2, ";ECAT_SLAVE_OFF 2 7 ;a 2 b\n",
         "ECAT_SLAVE_OFF 2 7 ;a\n");
     same("2: off already, prose, tabs, the other slot", Mode2,
-         "ECAT_SLAVE_OFF 2 7 ;x\n; see ECAT_SLAVE_OFF 2 7\n;ECAT_SLAVE_OFF\t2\t7\n;ECAT_SLAVE_OFF 1 7\n");
+         "ECAT_SLAVE_OFF 2 7 ;x\n; see ECAT_SLAVE_OFF 2 7\n; ECAT_SLAVE_OFF (slot 2 "
+         "only)\n;ECAT_SLAVE_OFF\t2\t7\n;ECAT_SLAVE_OFF 1 7\n");
+    row("2: commented out in other ways", Mode2,
+        "; ECAT_SLAVE_OFF 2 7 ;a\n;;ECAT_SLAVE_OFF 2 8\n\t;ECAT_SLAVE_OFF 2 9\n",
+        "ECAT_SLAVE_OFF 2 7 ;a\nECAT_SLAVE_OFF 2 8\nECAT_SLAVE_OFF 2 9\n");
+    row("2: beyond 20", Mode2, directives(1, 30, ";ECAT_SLAVE_OFF 2 "),
+        directives(1, 30, "ECAT_SLAVE_OFF 2 "));
     // Selected by its words like any other: it has always been edited so.
     row("2: device 2 of the other slot", Mode2, ";ECAT_SLAVE_OFF 1 2 ;a\n", "ECAT_SLAVE_OFF 2 ;a\n");
     row("2: other lines", Mode2, others, others + "\n");
@@ -273,6 +286,9 @@ void TestOverrideFile::isWritten_data()
 
     row("device: out of use, white space goes", Key, ";ecat_slave_off\t2 7 ;EIM_DEVICE x\r\n",
         "ECAT_SLAVE_OFF 2 7;EIM_DEVICEx\r\n");
+    row("device: commented out twice, and of the other slot", Key,
+        ";;ECAT_SLAVE_OFF 2 7;EIM_DEVICE\n;ECAT_SLAVE_OFF 1 2 ;EIM_DEVICE\n",
+        "ECAT_SLAVE_OFF 2 7;EIM_DEVICE\nECAT_SLAVE_OFF 2 ;EIM_DEVICE\n");
     row("device: cut at the next 2", Key, ";ECAT_SLAVE_OFF 2 1021;EIM_DEVICE\n", "ECAT_SLAVE_OFF 2 10\n");
     same("device: no 2", Key, ";ECAT_SLAVE_OFF 1 7;EIM_DEVICE\n");
     same("device: not this one, other case, off already, prose", Key,

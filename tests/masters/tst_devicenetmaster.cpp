@@ -447,6 +447,7 @@ void TestDeviceNetMaster::transferFaults_data()
     };
     row("the fetch fails", "fetch-fails", true, "Failed to get file.", false);
     row("an empty file arrives", "fetch-empty", true, "Failed to read file.", false);
+    row("garbage arrives", "fetch-garbage", true, "Failed to read file.", false);
     row("the write fails", "write", false, "Failed to write file.", false);
     row("the send is refused", "send-fails", false, "Failed to send file.", true);
 }

@@ -24,6 +24,8 @@ private slots:
     void savesWithTheServoOn();
     void savesNothing_data();
     void savesNothing();
+    void restartIsAllowedNoMore();
+    void shorterFileShowsItsDevicesOnly();
     void transferFaults_data();
     void transferFaults();
     void userLevelDrops_data();
@@ -37,8 +39,8 @@ void TestEtherCatMaster::savesWithTheServoOn()
     QVERIFY(openPage(pendant));
     const DeviceRows rows(pendant, "ecatTableWidget");
     QCOMPARE(rows.shown(),
-             QStringList({"1 2 2001 EIM_DEVICE x", "2 2 2002 PNM_DEVICE ", "3 2 2003 VALVE_ISLAND ",
-                          "4 2 2004 WELD_SOURCE ", "5 2 2005 GLUE_CONTROL x", "6 2 2006  "}));
+             QStringList({"1 2 3001 EIM_DEVICE x", "2 2 3002 PNM_DEVICE ", "3 2 3003 VALVE_ISLAND ",
+                          "4 2 3004 WELD_SOURCE ", "5 2 3005 GLUE_CONTROL x", "6 2 3006  "}));
     QCOMPARE(rows.table()->size(), QSize(762, 342));
     pendant.controller().traffic().clear();
     QVERIFY(rows.press(1));
@@ -56,8 +58,8 @@ void TestEtherCatMaster::savesWithTheServoOn()
     QCOMPARE(pendant.messages(), QStringList({Sure, Restart}));
     QCOMPARE(pendant.controller().traffic().stores(), QStringList(Override));
     QByteArray expected = before;
-    expected.replace("\n;ECAT_SLAVE_OFF 2 2005", "\nECAT_SLAVE_OFF 2 2005");
-    expected.replace("\nECAT_SLAVE_OFF 2 2006", "\n;ECAT_SLAVE_OFF 2 2006");
+    expected.replace("\n;ECAT_SLAVE_OFF 2 3005", "\nECAT_SLAVE_OFF 2 3005");
+    expected.replace("\nECAT_SLAVE_OFF 2 3006", "\n;ECAT_SLAVE_OFF 2 3006");
     QCOMPARE(pendant.controllerFile(Override), expected);
     QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
 
@@ -73,6 +75,33 @@ void TestEtherCatMaster::savesNothing_data()
     QTest::addColumn<QStringList>("messages");
     QTest::newRow("no restart allowed: silence") << false << QStringList();
     QTest::newRow("not confirmed") << true << QStringList(Sure);
+}
+
+void TestEtherCatMaster::restartIsAllowedNoMore()
+{
+    PendantFixture pendant;
+    QVERIFY(openPage(pendant));
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    MsgBoxScript::onShown([&pendant](const MsgBox* shown) {
+        if (shown->text() == Restart)
+            pendant.controller().setRestartAllowed(false);
+    });
+    QVERIFY(pendant.press("saveBt_Ecat"));
+    QVERIFY(pendant.settle());
+    QCOMPARE(pendant.messages(), QStringList({Sure, Restart}));
+    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
+}
+
+// The library's record outlives the page, and keeps what a longer file said.
+void TestEtherCatMaster::shorterFileShowsItsDevicesOnly()
+{
+    PendantFixture pendant;
+    QVERIFY(openPage(pendant));
+    QVERIFY(pendant.press("exitBtn"));
+    QTRY_VERIFY(!pendant.isOpen());
+    QVERIFY(pendant.controller().files().write(Override, "ECAT_SLAVE_OFF 2 7;A\n;ECAT_SLAVE_OFF 2 8;EIM_DEVICE\n"));
+    QVERIFY(openPage(pendant));
+    QCOMPARE(DeviceRows(pendant, "ecatTableWidget").shown(), QStringList({"1 2 7 A ", "2 2 8 EIM_DEVICE x"}));
 }
 
 void TestEtherCatMaster::savesNothing()

@@ -213,8 +213,8 @@ void TestMasterTables::showsAndSaves()
     QCOMPARE(pendant.controller().traffic().fetches(), QStringList({Override, twin().file}));
     const DeviceRows devices(pendant, twin().table);
     QCOMPARE(devices.shown(),
-             QStringList({"1 2 2001 EIM_DEVICE x", "2 2 2002 PNM_DEVICE ", "3 2 2003 VALVE_ISLAND ",
-                          "4 2 2004 WELD_SOURCE ", "5 2 2005 GLUE_CONTROL x", "6 2 2006  "}));
+             QStringList({"1 2 3001 EIM_DEVICE x", "2 2 3002 PNM_DEVICE ", "3 2 3003 VALVE_ISLAND ",
+                          "4 2 3004 WELD_SOURCE ", "5 2 3005 GLUE_CONTROL x", "6 2 3006  "}));
     QCOMPARE(pendant.find<QLineEdit>("lineEdit_slave_count")->text(), QString("4"));
     QCOMPARE(pendant.find<QLineEdit>("lineEdit_disable_timeout")->text(), QString("50"));
     QCOMPARE(pendant.find<QLineEdit>("lineEdit_enable_timeout")->text(), QString("60"));
@@ -247,7 +247,7 @@ void TestMasterTables::showsAndSaves()
     QCOMPARE(pendant.messages(), QStringList({Sure, Restart}));
     QCOMPARE(pendant.controller().traffic().stores(), QStringList({Override, twin().file}));
     QByteArray expected = before;
-    expected.replace("\nECAT_SLAVE_OFF 2 2003", "\n;ECAT_SLAVE_OFF 2 2003");
+    expected.replace("\nECAT_SLAVE_OFF 2 3003", "\n;ECAT_SLAVE_OFF 2 3003");
     QCOMPARE(pendant.controllerFile(Override), expected);
     QCOMPARE(fromRoot(pendant.controllerFile(twin().file), twin()),
              tableFile(twin(), "9", "999999", "0", 0b0100, 0b100001010));
@@ -434,7 +434,7 @@ void TestMasterTables::slaveCounts_data()
     QTest::newRow("below none") << 0 << QByteArray("-3") << 0 << QByteArray("-3");
     QTest::newRow("blanks around") << 1 << QByteArray("  3 ") << 3 << QByteArray("3");
     QTest::newRow("no number") << 0 << QByteArray("many") << 0 << QByteArray("0");
-    QTest::newRow("beyond a number") << 1 << QByteArray("99999999999") << 0 << QByteArray("0");
+    QTest::newRow("beyond a number") << 1 << QByteArray("99999999999") << 9 << QByteArray("0");
     QTest::newRow("nothing") << 0 << QByteArray("") << 0 << QByteArray("0");
 }
 

@@ -97,6 +97,7 @@ private slots:
     void ports();
     void portIsChosen();
     void portsLostAfterLoading();
+    void portsWithoutAddress();
     void profisafeOwnsTheModule();
     void lights();
     void performance_data();
@@ -349,6 +350,25 @@ void TestTextSlaves::portIsChosen()
 }
 
 void TestTextSlaves::portsLostAfterLoading()
+{
+    const Twin& twin = Twins[1];
+    PendantFixture pendant;
+    QVERIFY(putFiles(pendant, twin));
+    QVERIFY(pendant.open());
+    QVERIFY(pendant.openPage(twin.button));
+    auto* ports = onPage<QComboBox>(pendant, twin.page, "localPortIpCB");
+    const QString address = onPage<QLineEdit>(pendant, twin.page, "IP_Edit")->text();
+    const int used = ports->currentIndex();
+    QVERIFY(used < 2 && !address.isEmpty());
+    // A port that was offered still stands for its address when the controller does not answer any more.
+    pendant.controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
+    ports->setCurrentIndex(2);
+    QCOMPARE(onPage<QLineEdit>(pendant, twin.page, "IP_Edit")->text(), QString());
+    ports->setCurrentIndex(used);
+    QCOMPARE(onPage<QLineEdit>(pendant, twin.page, "IP_Edit")->text(), address);
+}
+
+void TestTextSlaves::portsWithoutAddress()
 {
     const Twin& twin = Twins[1];
     PendantFixture pendant;

@@ -85,7 +85,9 @@ bool HandleBusFiles::readFieldbusCfg(const QString& path, BusSwitchSet& switches
 bool HandleBusFiles::writeFieldbusCfg(const QString& path)
 {
     pugi::xml_document document;
-    if (!XmlFile::load(ZelGetLocalizedFileName(path, 1), document)) {
+    // What is not understood here is the controller's, and is written back.
+    constexpr unsigned Whole = pugi::parse_pi | pugi::parse_cdata | pugi::parse_doctype;
+    if (!XmlFile::load(ZelGetLocalizedFileName(path, 1), document, Whole)) {
         qCDebug(fieldbusLog).noquote() << "HandleBusFiles::writeFieldbusCfg " + path + " failed!";
         return false;
     }

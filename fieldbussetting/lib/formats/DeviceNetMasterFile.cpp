@@ -8,6 +8,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <variant>
 
 // docs/dnmst0-layout.md describes the file.
@@ -65,7 +66,7 @@ constexpr std::size_t BlockBytesWord = 3; // behind keyword, first register and 
 constexpr std::string_view Marker = "===================";
 constexpr const char* Rule = ";======================================";
 constexpr std::string_view DevicePrefix = ";   Device ";
-constexpr std::string_view MacIdKeyword = " MAC ID ";
+constexpr std::string_view MacIdKeyword = " MAC ID";
 
 void readValue(std::string_view word, int& value)
 {
@@ -145,9 +146,13 @@ public:
     {
     }
 
+    /// Whether anything of a scan list was seen; what is none may be any file, or noise.
+    bool isScanList() const { return m_isScanList; }
+
     bool operator()(std::string_view line, std::string_view /*end*/)
     {
         m_isBelowHeader |= TextTemplate::contains(line, Marker);
+        m_isScanList |= m_isBelowHeader;
         const std::size_t macId = line.find(MacIdKeyword);
         // Blocks in a header are the controller's prose: they come through a write as they are, and must not
         // appear a second time.
@@ -163,10 +168,12 @@ public:
             return true;
         }
         const std::vector<std::string_view> words = lineWords(line);
-        if (m_device)
+        if (m_device) {
             readDeviceLine(words, *m_device);
-        else
-            readField(settingOf(words), words, m_record);
+        } else if (const Field<Master>* setting = settingOf(words)) {
+            m_isScanList = true;
+            readField(setting, words, m_record);
+        }
         return true;
     }
 
@@ -174,6 +181,7 @@ private:
     Master& m_record;
     Device* m_device = nullptr;
     bool m_isBelowHeader = false;
+    bool m_isScanList = false;
 };
 
 QByteArray rewrittenHeader(const QByteArray& content, const Master& record)
@@ -200,7 +208,7 @@ QByteArray lineEndOf(const QByteArray& header)
 QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
 {
     QByteArray out = Rule + lineEnd + DevicePrefix.data() + QByteArray::number(number) + MacIdKeyword.data() +
-                     QByteArray::number(device.MAC_ID) + lineEnd;
+                     ' ' + QByteArray::number(device.MAC_ID) + lineEnd;
     for (const Direction& direction : Directions) {
         const int first = device.*direction.firstRegister;
         const int count = Master::registerCount(device.*direction.bytes);
@@ -248,15 +256,22 @@ void DeviceNetMasterConfig::layOutRegisters()
     }
 }
 
-// A keyword that the file lacks leaves its setting as it was; the devices are always those of the file.
+// A keyword that the file lacks leaves its setting as it was; the devices are always those of the file. A
+// file without marker and keyword is refused: a save would keep it as the header, and send it.
 bool HandleBusFiles::readDeviceNetMasterFile(const QString& path, DeviceNetMasterConfig& record)
 {
     QByteArray content;
     if (!WholeFile::read(path, content) || content.isEmpty())
         return false;
-    record.count = 0;
-    record.devices = {};
-    TextTemplate::forEachLine(content, Reader(record));
+    DeviceNetMasterConfig read = record;
+    read.count = 0;
+    read.devices = {};
+    Reader reader(read);
+    TextTemplate::forEachLine(
+        content, [&reader](std::string_view line, std::string_view end) { return reader(line, end); });
+    if (!reader.isScanList())
+        return false;
+    record = read;
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "TextTemplate.h"
 #include "WholeFile.h"
 
+#include <QFile>
 #include <QTextCodec>
 
 #include <algorithm>
@@ -49,6 +50,18 @@ bool isDirective(std::string_view word)
     return isCommentedDirective(word) || equalsIgnoringCase(word, "ecat_slave_off");
 }
 
+// However it is commented out: more than one semicolon, blanks and tabs behind it. Prose that begins with the
+// word has no slot behind it.
+bool isSwitchLine(std::string_view line)
+{
+    const std::size_t begin = line.find_first_not_of("; \t");
+    if (begin == std::string_view::npos)
+        return false;
+    const std::vector<std::string_view> parts = words(line.substr(begin), WhiteSpace);
+    return parts.size() > 1 && equalsIgnoringCase(parts[0], "ecat_slave_off") && parts[1].front() >= '0' &&
+           parts[1].front() <= '9';
+}
+
 // A line has many blanks and few digits, so the digit is looked for.
 bool hasSlot(std::string_view line, std::string_view slot)
 {
@@ -71,26 +84,24 @@ QByteArray bytes(std::string_view text)
 
 void setName(OverrideEntry& entry, std::string_view text)
 {
-    const QByteArray raw = bytes(text);
+    const QByteArray raw = bytes(AsciiText::trimmed(text));
     QTextCodec::ConverterState state;
     const QString utf8 = QTextCodec::codecForMib(106)->toUnicode(raw.constData(), raw.size(), &state);
-    entry.nameIsUtf8 = state.invalidChars == 0 && state.remainingChars == 0;
-    if (entry.nameIsUtf8) {
-        entry.name = utf8.toUpper().trimmed();
-        return;
-    }
-    // Of an unknown encoding only the ASCII letters can be turned to upper case.
-    entry.name = QString::fromLatin1(raw);
-    for (QChar& c : entry.name) {
-        if (c.unicode() < 0x80)
-            c = c.toUpper();
-    }
-    entry.name = entry.name.trimmed();
+    const bool isUtf8 = state.invalidChars == 0 && state.remainingChars == 0;
+    // In an unknown encoding a byte below 0x80 need not be a letter, so none is turned to upper case.
+    entry.name = isUtf8 ? utf8.toUpper().trimmed() : QString::fromLatin1(raw);
+    entry.foreignName = isUtf8 ? QByteArray() : raw;
+}
+
+void clearName(OverrideEntry& entry)
+{
+    entry.name.clear();
+    entry.foreignName.clear();
 }
 
 QByteArray nameBytes(const OverrideEntry& entry)
 {
-    return entry.nameIsUtf8 ? entry.name.toUtf8() : entry.name.toLatin1();
+    return entry.foreignName.isEmpty() ? entry.name.toUtf8() : entry.foreignName;
 }
 
 // What is no number leaves the field as it was.
@@ -123,11 +134,11 @@ void readEntry(OverrideEntry& entry, std::string_view line)
         if (contains(tokens[3], ";"))
             setName(entry, tokens[3].substr(1));
         else
-            entry.name.clear();
+            clearName(entry);
     } else if (tokens.size() == 3) {
         const std::size_t semicolon = tokens[2].find(';');
         readNumber(entry, &OverrideEntry::number, tokens[2].substr(0, semicolon));
-        entry.name.clear();
+        clearName(entry);
         if (semicolon != std::string_view::npos)
             setName(entry, tokens[2].substr(semicolon + 1));
     }
@@ -151,7 +162,7 @@ OverrideRecord readEntries(const QByteArray& content, OverrideRecord record, std
 // Puts the activation that the entry says on a line, and leaves every other byte of it.
 void appendActivated(std::string_view line, bool off, QByteArray& out)
 {
-    const std::size_t word = line.find_first_not_of(Blanks);
+    const std::size_t word = line.find_first_not_of(WhiteSpace);
     const std::size_t semicolon = line[word] == ';' ? 1 : 0;
     TextTemplate::keep(line.substr(0, word), out);
     if (off)
@@ -204,8 +215,7 @@ private:
 
 bool switchOn(std::string_view line, QByteArray& out)
 {
-    const std::string_view word = firstWord(line, Blanks);
-    if (!isSelected(line, MasterSlot) || !isDirective(word) || contains(word, ";"))
+    if (!isSelected(line, MasterSlot) || !isSwitchLine(line) || contains(firstWord(line, Blanks), ";"))
         return TextTemplate::keep(line, out);
     appendActivated(line, true, out);
     return true;
@@ -214,8 +224,7 @@ bool switchOn(std::string_view line, QByteArray& out)
 bool switchOff(std::string_view line, QByteArray& out)
 {
     const std::size_t slot = line.find(MasterSlot);
-    if (!isSelected(line, MasterSlot) || !isDirective(firstWord(line, Blanks)) ||
-        !contains(line.substr(0, slot), ";"))
+    if (!isSelected(line, MasterSlot) || !isSwitchLine(line) || !contains(line.substr(0, slot), ";"))
         return TextTemplate::keep(line, out);
     const std::string_view rest = line.substr(slot + MasterSlot.size());
     out.append("ECAT_SLAVE_OFF 2 ");
@@ -226,9 +235,11 @@ bool switchOff(std::string_view line, QByteArray& out)
 template <typename Rewriter>
 bool editOverrideFile(const QString& path, Rewriter rewrite)
 {
+    const QString temporary = FileLocations::workingDirectory() + QLatin1String("/override_temp.cfg");
     QByteArray content;
-    if (!TextTemplate::fetchTemplate(FileLocations::workingDirectory() + QLatin1String("/override_temp.cfg"),
-                                     FileLocations::of(ConfigFile::Override).controller, content))
+    // What an interrupted write has left behind is older than what the controller holds.
+    QFile::remove(temporary);
+    if (!TextTemplate::fetchTemplate(temporary, FileLocations::of(ConfigFile::Override).controller, content))
         return false;
     return WholeFile::replace(
         path, TextTemplate::rewritten(content, TextTemplate::LineEnds::Kept, std::move(rewrite)));
@@ -256,10 +267,10 @@ bool HandleBusFiles::readMasterOverride(const QString& path, OverrideRecord& rec
 bool HandleBusFiles::readEtherCatFile(const QString& path, OverrideRecord& record,
                                       MasterDevicesInUse& devices)
 {
+    devices = MasterDevicesInUse();
     QByteArray content;
     if (!WholeFile::read(path, content))
         return false;
-    devices = MasterDevicesInUse();
     const OverrideRecord read = readEntries(content, record, SlaveSlot, [&devices](std::string_view line) {
         if (hasSlot(line, MasterSlot) && containsIgnoringCase(line, ";ecat_slave")) {
             devices.EIM_DEVICE |= containsIgnoringCase(line, "eim_device");
@@ -295,7 +306,7 @@ bool HandleBusFiles::writeOverrideFile(const QString& path, const QString& key)
 {
     const std::string device = key.toStdString();
     return editOverrideFile(path, [&device](std::string_view line, QByteArray& out) {
-        if (!isCommentedDirective(firstWord(line, WhiteSpace)) || !contains(line, device))
+        if (!contains(line, device) || !containsIgnoringCase(line, ";ecat_slave_off") || !isSwitchLine(line))
             return TextTemplate::keep(line, out);
         std::string packed;
         for (const std::string_view word : words(line, WhiteSpace))

@@ -1,6 +1,7 @@
 #ifndef OVERRIDEFILE_H
 #define OVERRIDEFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -16,8 +17,8 @@ struct OverrideEntry
     /// Whether the line was read word for word. One that was not (a comment with blanks, say) is written
     /// back with nothing but its activation changed.
     bool understood = true;
-    /// How `name` stands in the file; a file may hold comments of other encodings, byte for byte.
-    bool nameIsUtf8 = true;
+    /// The name as it stands in the file when that is not UTF-8, else empty: written back byte for byte.
+    QByteArray foreignName;
 };
 
 /// The directives of one device family: EtherCAT slave, EtherCAT master, EtherNet/IP master or PROFINET

@@ -71,10 +71,12 @@ void SlaveTextFile::readEndian(std::string_view line, QString& endian)
 bool SlaveTextFile::rewrite(const QString& path, const Source& source, const QString& endian,
                             const std::vector<OwnedLine>& ownedLines)
 {
+    // Made first: the fetch processes events, and the record may change or go meanwhile.
+    LineWriter writer(endian, ownedLines);
     QByteArray content;
     if (!TextTemplate::fetchTemplate(FileLocations::workingDirectory() + QLatin1String(source.temporary),
                                      source.controller, content))
         return false;
-    return WholeFile::replace(path, TextTemplate::rewritten(content, TextTemplate::LineEnds::LineFeed,
-                                                            LineWriter(endian, ownedLines)));
+    return WholeFile::replace(
+        path, TextTemplate::rewritten(content, TextTemplate::LineEnds::LineFeed, std::move(writer)));
 }

@@ -53,7 +53,7 @@ QByteArray encoded(QString text)
 
 } // namespace
 
-bool load(const QString& path, pugi::xml_document& document)
+bool load(const QString& path, pugi::xml_document& document, unsigned options)
 {
     const WholeFile::Reader file(path);
     if (!file.isOpen())
@@ -62,7 +62,7 @@ bool load(const QString& path, pugi::xml_document& document)
     std::unique_ptr<void, pugi::deallocation_function> memory(
         pugi::get_memory_allocation_function()(file.size() + 1), pugi::get_memory_deallocation_function());
     return memory && file.read(memory.get()) &&
-           document.load_buffer_inplace_own(memory.release(), file.size(), pugi::parse_pi);
+           document.load_buffer_inplace_own(memory.release(), file.size(), options);
 }
 
 void appendPrologue(pugi::xml_document& document)
@@ -70,7 +70,9 @@ void appendPrologue(pugi::xml_document& document)
     pugi::xml_node declaration = document.prepend_child(pugi::node_declaration);
     declaration.append_attribute("version") = "1.0";
     declaration.append_attribute("encoding") = "utf-8";
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
+    // The controller reads Latin digits, whatever the pendant's language writes.
+    const QString time =
+        QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("yyyy/MM/dd hh:mm:ss"));
     const QByteArray comment = QStringLiteral(" Date(ymd)/time(hms) %1 ").arg(time).toLatin1();
     document.append_child(pugi::node_comment).set_value(comment.constData());
 }
@@ -88,12 +90,11 @@ QString text(pugi::xml_node node)
 bool save(const QString& path, const pugi::xml_document& document, unsigned format)
 {
     const QString folder = path.section(QLatin1Char('/'), 0, -2);
-    if (!folder.isEmpty() && !QDir(folder).exists() && !QDir().mkdir(folder))
-        return false;
+    const bool hasFolder = folder.isEmpty() || QDir(folder).exists() || QDir().mkdir(folder);
     QByteArray content;
     ByteWriter writer(content);
     document.save(writer, "\t", format, pugi::encoding_utf8);
-    if (WholeFile::replace(path, content))
+    if (hasFolder && WholeFile::replace(path, content))
         return true;
     qCDebug(fieldbusLog, "Could not save XML file");
     return false;

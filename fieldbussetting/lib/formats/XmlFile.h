@@ -9,9 +9,9 @@
 /// one step.
 namespace XmlFile {
 
-/// Parses with `parse_pi` only: no escapes, no end-of-line normalisation, no comments. False on the first
-/// error; the document is then empty.
-bool load(const QString& path, pugi::xml_document& document);
+/// Parses with `parse_pi` only unless told otherwise: no escapes, no end-of-line normalisation, no comments.
+/// False on the first error; the document is then not to be used.
+bool load(const QString& path, pugi::xml_document& document, unsigned options = pugi::parse_pi);
 
 /// Appends the declaration and the comment with the local time of writing.
 void appendPrologue(pugi::xml_document& document);

@@ -33,7 +33,7 @@ public:
     /// The restart request flag of the controller; true asks it to restart.
     static void set_bswrsdet(bool requested);
 
-    /// Addresses and netmasks of ETH2 and ETH3, read afresh on each call.
+    /// Addresses and netmasks of ETH2 and ETH3, read afresh on each call. Processes no events.
     static NetworkAddresses getIpAddress();
 
     /// Removes a file of the controller; true when it is gone.
