@@ -24,6 +24,7 @@ constexpr const char* Reasons[] = {
     QT_TRANSLATE_NOOP("BusSettingWidget", "The USB drive was removed."),
     QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be read."),
     QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be fetched from the controller."),
+    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 of the pendant could not be written."),
     QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 of the controller has changed meanwhile."),
     QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be sent to the controller."),
     nullptr,
@@ -142,7 +143,7 @@ bool BusSettingWidget::prepareImport(const QString& drive, const ExportFolder& f
         if (faults.isEmpty() && !planRoles(entries, canHaveProfinetSlave(), roles))
             faults << tr("Its bus switches cannot be read.");
         if (faults.isEmpty())
-            result = transfer.keep(progress);
+            result = transfer.fetchPresent(progress);
     }
     if (!progress.isWanted())
         return false;
@@ -166,7 +167,7 @@ TransferResult BusSettingWidget::sendImport(ImportTransfer& transfer, int steps)
 {
     const Busy busy(this);
     TransferProgress progress(progressDialog(), tr("Importing..."), steps);
-    TransferResult result = transfer.confirmKept(progress);
+    TransferResult result = transfer.confirmPresent(progress);
     if (result.isDone())
         result = transfer.send(progress);
     if (result.isDone()) {
@@ -205,7 +206,7 @@ void BusSettingWidget::finishImport()
 
 void BusSettingWidget::failImport(const TransferResult& result, ImportTransfer& transfer)
 {
-    const QString outcome = transfer.hasSent() ? notPutBackText(transfer)
+    const QString outcome = !transfer.notPutBack().isEmpty() ? notPutBackText(transfer)
                             : result.code == TransferResult::SendFailed
                                 ? tr("The former files were put back.")
                                 : tr("Nothing was changed on the controller.");

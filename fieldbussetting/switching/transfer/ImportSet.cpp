@@ -77,6 +77,11 @@ QString ImportFile::staged() const
     return importDirectory() + QLatin1Char('/') + name;
 }
 
+QString ImportFile::present() const
+{
+    return presentDirectory() + QLatin1Char('/') + name;
+}
+
 QString ImportFile::kept() const
 {
     return keptDirectory() + QLatin1Char('/') + name;
@@ -91,6 +96,13 @@ const std::vector<ImportFile>& importSet()
 const QString& importDirectory()
 {
     static const QString path = ZelGetLocalizedFileName(QStringLiteral("../Application/fidbus/import"), 1);
+    return path;
+}
+
+const QString& presentDirectory()
+{
+    static const QString path =
+        ZelGetLocalizedFileName(QStringLiteral("../Application/fidbus/import-present"), 1);
     return path;
 }
 
@@ -114,7 +126,7 @@ TransferResult copyFromDrive(const QString& drive, const QString& folder, Transf
 {
     entries.clear();
     if (!prepareImportDirectory(importDirectory()))
-        return {TransferResult::DriveFailed, importDirectory()};
+        return {TransferResult::LocalFailed, importDirectory()};
     for (const ImportFile& file : importSet()) {
         if (!DriveFiles::isThere(drive))
             return {TransferResult::DriveGone, file.name};
