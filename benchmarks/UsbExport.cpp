@@ -80,11 +80,11 @@ void plainCopy(benchmark::State& state)
     for (auto _ : state) {
         const QString folder = pendant.drive() + QStringLiteral("/copy_%1/").arg(copies++);
         for (const TransferFile& file : FileLocations::transferSet()) {
-            const QString target = folder + QLatin1String(file.folder);
-            QDir().mkpath(target);
+            const QString target = folder + file.path;
+            QDir().mkpath(QFileInfo(target).path());
             QDir().mkpath(QFileInfo(file.staging).path());
-            if (!DataAccess::GetFileFromController2TPU(QLatin1String(file.controller), file.staging, false) ||
-                ZelFileCopy(file.staging, target + QLatin1Char('/') + QLatin1String(file.name), true) == 0)
+            if (!DataAccess::GetFileFromController2TPU(file.controller, file.staging, false) ||
+                ZelFileCopy(file.staging, target, true) == 0)
                 state.SkipWithError("the copy failed");
         }
         for (int step = 0; step < Steps; ++step)
