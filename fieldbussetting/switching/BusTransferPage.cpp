@@ -30,6 +30,9 @@ constexpr const char* Reasons[] = {
 };
 static_assert(std::size(Reasons) == TransferResult::Unwanted + 1, "a row a code");
 
+// What was sent is put back also when its page has gone.
+bool transferring = false;
+
 QString listed(const QStringList& lines)
 {
     QStringList shown = lines.mid(0, LongestList);
@@ -71,13 +74,16 @@ void BusTransferPage::on_btn_export_clicked()
 
 void BusTransferPage::transferOnce(void (BusTransferPage::*transfer)())
 {
-    if (isSaving() || m_transferring)
+    if (isSaving() || transferring)
         return;
-    const QPointer<BusTransferPage> self(this);
-    m_transferring = true;
+    transferring = true;
     (this->*transfer)();
-    if (self)
-        m_transferring = false;
+    transferring = false;
+}
+
+bool BusTransferPage::isTransferring()
+{
+    return transferring;
 }
 
 void BusTransferPage::exportToDrive()

@@ -24,9 +24,9 @@ protected:
     virtual bool isSaving() const = 0;
     virtual RoleConditions roleConditions() const = 0;
 
-    /// Whether one of the two buttons is at work, from its first box to its last. Input is blocked for
-    /// fingers only: a key can press a button that has the focus.
-    bool isTransferring() const { return m_transferring; }
+    /// Whether one of the two buttons is at work, from its first box to its last, on this page or on one that
+    /// was closed meanwhile. Input is blocked for fingers only: a key can press a button that has the focus.
+    static bool isTransferring();
 
 private slots:
     void on_btn_import_clicked();
@@ -54,7 +54,6 @@ private:
     bool settleUnfinishedImport();
 
     ProgressDialog* m_progress = nullptr; ///< made on first use, a child of the page
-    bool m_transferring = false;
 };
 
 #endif

@@ -43,7 +43,9 @@ Fetched fetchOrMiss(const QString& path, const QString& controller)
 {
     if (lib()->getFileFromCtrl(path, controller))
         return Fetched::Yes;
-    if (!lib()->getFileFromCtrl(lookedAt(), QLatin1String(FileLocations::FieldbusXml)))
+    const QLatin1String mapping(FileLocations::FieldbusConfigXml);
+    const QLatin1String other = controller == mapping ? QLatin1String(FileLocations::FieldbusXml) : mapping;
+    if (!lib()->getFileFromCtrl(lookedAt(), other))
         return Fetched::Failed;
     return lib()->getFileFromCtrl(path, controller) ? Fetched::Yes : Fetched::Absent;
 }
