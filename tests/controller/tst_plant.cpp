@@ -1,4 +1,5 @@
 #include "ControllerPanel.h"
+#include "FileLocations.h"
 #include "FileStore.h"
 #include "MappingCheck.h"
 #include "NetPortsFile.h"
@@ -18,45 +19,8 @@
 
 namespace {
 
-// Every file that the pendant asks the controller for, whole: the export set, then the others.
-const char* const RequiredFiles[] = {
-    "/application/fidbus/fieldbus.xml",
-    "/application/fidbus/fieldbus_config.xml",
-    "/application/fidbus/heartbeat.xml",
-    "/application/fidbus/pfs_description.xml",
-    "/application/fidbus/signal_mapping.cfg",
-    "/application/fidbus/user_description.xml",
-    "/application/fidbus/user_groupio.cfg",
-    "/application/fidbus/fixed/description_fixed.xml",
-    "/application/fidbus/fixed/dns0_fixed.cfg",
-    "/application/fidbus/fixed/dns_fixed.cfg",
-    "/application/fidbus/fixed/fieldbus_fixed.xml",
-    "/application/fidbus/fixed/modbus_fixed.cfg",
-    "/application/fidbus/fixed/pfb_fixed.cfg",
-    "/application/fidbus/fixed/signal_mapping_fixed.cfg",
-    "/application/fidbus/free/description_free.xml",
-    "/application/fidbus/free/dns0_free.cfg",
-    "/application/fidbus/free/dns_free.cfg",
-    "/application/fidbus/free/fieldbus_free.xml",
-    "/application/fidbus/free/modbus_free.cfg",
-    "/application/fidbus/free/pfb_free.cfg",
-    "/application/fidbus/free/signal_mapping_free.cfg",
-    "/application/fidbus/rs232/rs232FileConfig.xml",
-    "/application/fidbus/devicenet/devicenetSlave.xml",
-    "/application/fidbus/eipMaster/eip_master.xml",
-    "/application/fidbus/mtcpMaster/mtcp_master.xml",
-    "/application/fidbus/pfnMaster/pfn_master.xml",
-    "/fa/modbus.cfg",
-    "/fa/dns-1.cfg",
-    "/fa/pfb.cfg",
-    "/fa/dns0.cfg",
-    "/fa/dnmst0.cfg",
-    "/fa/fbslave.cfgx",
-    "/application/fidbus/SlaveConfig/Devicenet/rbxm5034.eds",
-    "/application/fidbus/SlaveConfig/EthernetIP/kliklus_urmc_v2.eds",
-    "/application/fidbus/SlaveConfig/EtherCAT/ABXS_ECT_V_3_28.xml",
-    "/application/fidbus/SlaveConfig/Profinet/GSDML-V2.33-Kliklus-RP2-20200520.xml",
-
+// What the pendant asks the controller for beside the export set.
+const char* const OtherFiles[] = {
     "/application/fidbus/Fieldbus.cfg",
     "/FA/override.cfg",
     "/FA/pfb.cfg",
@@ -128,10 +92,16 @@ void TestPlant::everyFileIsThere()
     const QTemporaryDir folder;
     const FileStore store(folder.path());
     QCOMPARE(store.error(), QString());
-    for (const char* path : RequiredFiles) {
+    QStringList required;
+    for (const TransferFile& file : FileLocations::transferSet())
+        required << file.controller;
+    QCOMPARE(required.size(), 36);
+    for (const char* path : OtherFiles)
+        required << QLatin1String(path);
+    for (const QString& path : qAsConst(required)) {
         QByteArray content;
-        QVERIFY2(store.read(QLatin1String(path), content), path);
-        QVERIFY2(!content.isEmpty(), path);
+        QVERIFY2(store.read(path, content), qPrintable(path));
+        QVERIFY2(!content.isEmpty(), qPrintable(path));
     }
 }
 
