@@ -134,6 +134,8 @@ Outcome BusSettingWidget::reload()
         const QSignalBlocker blocker(combo(which));
         combo(which)->setCurrentIndex(m_running[which] ? On : Off);
     }
+    // Set back without being counted, so that setting them again is a change, and wants its command.
+    m_changed[DeviceNetSlave] = m_changed[DeviceNetMaster] = false;
     for (const Switch which : {EipSlave, EipMaster, PfnMaster})
         combo(which)->setCurrentIndex(m_running[which] ? On : Off);
     // Not before it is set: what is loaded counts as no change.
@@ -274,6 +276,11 @@ bool BusSettingWidget::canHaveProfinetSlave() const
 {
     return m_running[PfnSlave] || m_profisafePresent ||
            (lib()->get_ifidbus_ctr_type() && lib()->get_ifidbus_anybus_fm() == ProfinetModule);
+}
+
+void BusSettingWidget::holdSave()
+{
+    ui->saveBusBt->setEnabled(false);
 }
 
 RoleConditions BusSettingWidget::roleConditions() const

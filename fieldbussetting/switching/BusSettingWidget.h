@@ -84,6 +84,7 @@ private:
     /// Whether the controller can run the PROFINET slave.
     bool canHaveProfinetSlave() const;
     RoleConditions roleConditions() const override;
+    void holdSave() override;
 
     // The save: BusSettingSave.cpp
     Outcome saveOverride();

@@ -207,6 +207,7 @@ TransferResult BusTransferPage::sendImport(ImportTransfer& transfer, int steps)
 
 void BusTransferPage::finishImport()
 {
+    holdSave();
     // The service holds what it read before, and would write that back with the next save.
     const QPointer<BusTransferPage> self(this);
     BusFileDataManager::getInstance()->emitGetFieldXml();
@@ -217,7 +218,7 @@ void BusTransferPage::finishImport()
     switch (askRestart()) {
     case Answer::Confirmed:
         if (Restart::isAllowed())
-            Restart::perform(Restart::Way::WhenAllowed);
+            restart(Restart::Way::WhenAllowed);
         else
             tellRestarted(false);
         break;
@@ -225,7 +226,8 @@ void BusTransferPage::finishImport()
         break;
     default:
         tell(MsgBox::Information, tr("The imported configuration takes effect with the next restart.\n"
-                                     "Until then the pages may show the former one."));
+                                     "Until then the pages may show the former one,\n"
+                                     "and the bus switches cannot be saved."));
         break;
     }
 }

@@ -23,6 +23,9 @@ protected:
     /// Whether a save is under way; nothing is carried meanwhile.
     virtual bool isSaving() const = 0;
     virtual RoleConditions roleConditions() const = 0;
+    /// Called when an import has changed the controller's files. What the page shows is the former
+    /// configuration: it must not be saved over the imported one before the page is made anew.
+    virtual void holdSave() = 0;
 
     /// Whether one of the two buttons is at work, from its first box to its last, on this page or on one that
     /// was closed meanwhile. Input is blocked for fingers only: a key can press a button that has the focus.

@@ -170,6 +170,7 @@ private slots:
     void theWholeRoad();
     void faults_data();
     void faults();
+    void laterStepFails();
     void afterTheSave_data();
     void afterTheSave();
     void performanceSwitch();
@@ -313,9 +314,30 @@ void TestBusSwitch::faults()
     pendant.controller().faults().clearAll();
     for (const char* stuck : {"eip2close", "pfn2close", "dns2open", "dnm2close"})
         pendant.controller().variables().set(QStringLiteral("ifidbus.") + stuck, 0);
+    pendant.controller().traffic().clear();
     QVERIFY(pendant.choose(choices) && pendant.save());
     QCOMPARE(pendant.messages().constLast(), Reopen);
     QVERIFY(pendant.controllerFile(FieldbusXml) != fieldbusWith(on));
+    QCOMPARE(pendant.written().contains("dns2open=1"), choices.contains({"devnetSwitch", 1}));
+}
+
+// What the steps before have sent stays; the next save does the rest.
+void TestBusSwitch::laterStepFails()
+{
+    Pendant pendant({"EtherCatSlave", "EtherCatMaster"});
+    QVERIFY(pendant.open() && pendant.choose({{"ethcatSwitch", 0}, {"ethcatMSwitch", 0}}));
+    pendant.controller().traffic().clear();
+    pendant.controller().faults().set(Faults::SendFails, 1, "/fa/override.cfg", 1);
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    QVERIFY(pendant.save());
+    QCOMPARE(pendant.messages(), QStringList({AskSave, "Failed to send file:override.cfg"}));
+    const QByteArray between = pendant.controllerFile(OverridePath);
+    QVERIFY(between != overrideWith(true));
+    QCOMPARE(pendant.written(), QStringList());
+
+    QVERIFY(pendant.save());
+    QCOMPARE(pendant.messages().constLast(), Reopen);
+    QVERIFY(pendant.controllerFile(OverridePath) != between);
 }
 
 void TestBusSwitch::afterTheSave_data()
