@@ -49,7 +49,7 @@ int refuse(const QString& problem)
 
 TourGuide::Fetches takeFetches(Traffic& traffic)
 {
-    const TourGuide::Fetches fetches = {traffic.fetches(), traffic.failed(Traffic::Fetch)};
+    TourGuide::Fetches fetches = {traffic.fetches(), traffic.failed(Traffic::Fetch)};
     traffic.clear();
     return fetches;
 }
