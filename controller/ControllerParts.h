@@ -17,6 +17,7 @@ struct ControllerParts
     {
     }
 
+    bool isUp = false; ///< false until it first came up, and while it restarts
     FileStore files;
     VariableStore variables;
     BusRoles roles;

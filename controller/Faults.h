@@ -8,23 +8,24 @@
 class Faults
 {
 public:
+    /// What each does says `meaningOf`.
     enum Fault {
-        FetchFails,           ///< a fetch of a file fails
-        SendFails,            ///< a store of a file fails
-        FetchCutShort,        ///< a fetched file arrives with its second half missing
-        FetchEmpty,           ///< a fetched file arrives empty
-        FetchGarbage,         ///< a fetched file arrives with other bytes
-        CommandNeverTaken,    ///< an open or close command stays set
-        BusTypeRefused,       ///< the bus type is answered with the refusing bit
-        BusTypeNeverAnswered, ///< the bus type gets no answer
-        MappingNeverAnswered, ///< the I/O mapping file is not acknowledged
-        MappingAnsweredLate,  ///< ... only in the last second before the pendant gives up
-        MappingRejected,      ///< ... with the bit that says it made no sense
-        SlaveNeverAnswered,   ///< the DeviceNet slave file is not acknowledged
-        SlaveAnsweredLate,    ///< ... only just before the pendant gives up
-        RestartIgnored,       ///< a restart request has no effect
-        VariableNotOffered,   ///< subscribing the target variable fails
-        HeartbeatNotReloaded, ///< the announced heartbeat file is not read
+        FetchFails,
+        SendFails,
+        FetchCutShort,
+        FetchEmpty,
+        FetchGarbage,
+        CommandNeverTaken,
+        BusTypeRefused,
+        BusTypeNeverAnswered,
+        MappingNeverAnswered,
+        MappingAnsweredLate,
+        MappingRejected,
+        SlaveNeverAnswered,
+        SlaveAnsweredLate,
+        RestartIgnored,
+        VariableNotOffered,
+        HeartbeatNotReloaded,
         FaultCount
     };
 

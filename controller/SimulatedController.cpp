@@ -33,14 +33,12 @@ SimulatedController::SimulatedController(const QString& storeDirectory, QObject*
     });
     m_powerTimer.setSingleShot(true);
     connect(&m_powerTimer, &QTimer::timeout, this, [this] {
-        if (m_power == Power::GoingDown)
+        if (isUp())
             goDown();
         else
             comeUp();
     });
-    for (const auto& behaviour : m_behaviours)
-        behaviour->restarted();
-    startTicking();
+    comeUp();
 }
 
 SimulatedController::~SimulatedController() = default;
@@ -143,18 +141,18 @@ void SimulatedController::notifyChanges()
 
 void SimulatedController::requestRestart()
 {
+    // The timer runs from the request until the controller is up again.
     const bool taken =
-        m_power == Power::Up && m_restartAllowed && !m_parts.faults.strikes(Faults::RestartIgnored);
+        !m_powerTimer.isActive() && m_restartAllowed && !m_parts.faults.strikes(Faults::RestartIgnored);
     m_parts.traffic.addRestartRequest(taken);
     if (!taken)
         return;
-    m_power = Power::GoingDown;
     m_powerTimer.start(0);
 }
 
 void SimulatedController::goDown()
 {
-    m_power = Power::Down;
+    m_parts.isUp = false;
     m_tick.stop();
     m_robotRunning = false;
     m_servoOn = false;
@@ -168,7 +166,7 @@ void SimulatedController::goDown()
 
 void SimulatedController::comeUp()
 {
-    m_power = Power::Up;
+    m_parts.isUp = true;
     for (const auto& behaviour : m_behaviours)
         behaviour->restarted();
     startTicking();

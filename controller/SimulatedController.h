@@ -38,7 +38,7 @@ public:
     void writeVariable(const QString& name, int element, double value) override;
     bool isRobotRunning() const override { return m_robotRunning; }
     bool isServoOn() const override { return m_servoOn; }
-    bool isUp() const override { return m_power != Power::Down; }
+    bool isUp() const override { return m_parts.isUp; }
     bool isRestartAllowed() const override { return m_restartAllowed; }
     /// Without effect while the restart is not allowed, or the controller is going down already.
     void requestRestart() override;
@@ -80,7 +80,6 @@ public:
     }
 
 private:
-    enum class Power { Up, GoingDown, Down };
     using Element = QPair<QString, int>;
 
     void markChanged(const QString& name, int element);
@@ -94,8 +93,7 @@ private:
     QSet<Element> m_subscribed;
     QVector<Element> m_changed; ///< waits for the next event-loop turn
     QTimer m_tick;
-    QTimer m_powerTimer;
-    Power m_power = Power::Up;
+    QTimer m_powerTimer; ///< until it goes down, or comes up
     int m_restartDuration = 4000;
     bool m_robotRunning = false;
     bool m_servoOn = false;

@@ -25,7 +25,6 @@ public:
     /// Controller paths as they were spelled, oldest first.
     QStringList fetches() const { return m_paths[Fetch]; }
     QStringList stores() const { return m_paths[Store]; }
-    QStringList removals() const { return m_paths[Remove]; }
     /// Variables that the pendant wrote, oldest first.
     const QVector<Write>& writes() const { return m_writes; }
 

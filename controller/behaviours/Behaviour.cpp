@@ -4,6 +4,41 @@
 
 #include <utility>
 
+bool Behaviour::isControllerUp() const
+{
+    return m_parts.isUp;
+}
+
+bool Behaviour::isInService(const QString& role) const
+{
+    return m_parts.isUp && m_parts.roles.isOn(role) && m_parts.links.isPlugged(role);
+}
+
+void Behaviour::onCable(const QString& role, std::function<void()> action)
+{
+    connect(&m_parts.links, &Links::cableChanged, this,
+            [role, action = std::move(action)](const QString& changed) {
+                if (changed == role)
+                    action();
+            });
+}
+
+void Behaviour::onRequest(const char* variable, int msec, std::function<void()> action,
+                          std::optional<Faults::Fault> ignoring)
+{
+    const QString name = QLatin1String(variable);
+    m_parts.variables.watch(
+        name, [this, name, msec, action = std::move(action), ignoring](int /*element*/, double value) {
+            drop(name);
+            if (value == 0.0 || (ignoring && m_parts.faults.strikes(*ignoring, name)))
+                return;
+            later(name, msec, [this, name, action] {
+                action();
+                m_parts.variables.set(name, 0.0);
+            });
+        });
+}
+
 void Behaviour::dropDelayed()
 {
     for (const auto& [key, delayed] : m_delayed)

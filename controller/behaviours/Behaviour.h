@@ -1,6 +1,8 @@
 #ifndef CONTROLLER_BEHAVIOUR_H
 #define CONTROLLER_BEHAVIOUR_H
 
+#include "Faults.h"
+
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -8,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 struct ControllerParts;
 
@@ -42,6 +45,18 @@ protected:
     enum class Pace { Simulated, Real };
 
     ControllerParts& parts() const { return m_parts; }
+    /// False until the controller first came up, and from `wentDown()` to `restarted()`.
+    bool isControllerUp() const;
+    /// Whether the controller is up, the role runs and its cable is plugged in.
+    bool isInService(const QString& role) const;
+    /// Does `action` whenever the cable of the role is plugged in or out.
+    void onCable(const QString& role, std::function<void()> action);
+
+    /// Takes requests of the pendant in `variable`: `msec` after one was set does `action`, and sets the
+    /// variable back to 0. A request that the pendant takes back before is forgotten; one that `ignoring`
+    /// strikes stays set.
+    void onRequest(const char* variable, int msec, std::function<void()> action,
+                   std::optional<Faults::Fault> ignoring = {});
 
     /// Does `action` once, `msec` from now; a second call with the same key replaces the first.
     void later(const QString& key, int msec, std::function<void()> action, Pace pace = Pace::Simulated);

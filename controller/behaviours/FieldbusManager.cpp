@@ -3,6 +3,8 @@
 #include "ControllerParts.h"
 #include "MappingCheck.h"
 
+#include <utility>
+
 namespace {
 
 constexpr auto BusTypeState = "ifidbus.bus_type_state";
@@ -12,6 +14,7 @@ constexpr auto HeartbeatAnnounced = "ifidbus.xml_heartbeat";
 constexpr auto FieldbusXml = "/application/fidbus/fieldbus.xml";
 constexpr auto FieldbusCfg = "/application/fidbus/Fieldbus.cfg";
 constexpr auto MappingXml = "/application/fidbus/fieldbus_config.xml";
+constexpr auto SlaveXml = "/application/fidbus/devicenet/devicenetSlave.xml";
 constexpr auto HeartbeatXml = "/application/fidbus/heartbeat.xml";
 
 // "ifidbus.bus_type_state": the pendant writes 1, the manager answers.
@@ -35,6 +38,26 @@ constexpr int BusTypeMs = 500;
 constexpr int FileMs = 800;
 constexpr int HeartbeatMs = 50;
 
+} // namespace
+
+// How an announced file is answered.
+struct FieldbusManager::FileAnswer
+{
+    const char* key; // of what is delayed
+    Faults::Fault never;
+    Faults::Fault late;
+    int lateMs;
+};
+
+namespace {
+
+enum File { MappingFile, SlaveFile };
+
+constexpr FieldbusManager::FileAnswer FileAnswers[] = {
+    {"mapping", Faults::MappingNeverAnswered, Faults::MappingAnsweredLate, FieldbusManager::MappingLateMs},
+    {"slave", Faults::SlaveNeverAnswered, Faults::SlaveAnsweredLate, FieldbusManager::SlaveLateMs},
+};
+
 struct Command
 {
     const char* name;
@@ -54,32 +77,20 @@ constexpr Command Commands[] = {
 FieldbusManager::FieldbusManager(ControllerParts& controllerParts)
     : Behaviour(controllerParts)
 {
+    for (const Command& command : Commands)
+        onRequest(
+            command.name, CommandMs,
+            [this, &command] { m_wishes.insert(QLatin1String(command.role), command.open); },
+            Faults::CommandNeverTaken);
+    onRequest(
+        HeartbeatAnnounced, HeartbeatMs,
+        [this] { ++(readHeartbeatFile() ? m_heartbeatReloads : m_heartbeatFailures); },
+        Faults::HeartbeatNotReloaded);
     VariableStore& variables = parts().variables;
-    for (const Command& command : Commands) {
-        const QString name = QLatin1String(command.name);
-        variables.watch(name, [this, name, &command](int /*element*/, double value) {
-            takeCommand(name, QLatin1String(command.role), command.open, value != 0.0);
-        });
-    }
     variables.watch(QLatin1String(BusTypeState),
                     [this](int /*element*/, double value) { answerBusType(static_cast<int>(value)); });
     variables.watch(QLatin1String(UpdateState),
                     [this](int /*element*/, double value) { answerUpdateState(static_cast<int>(value)); });
-    variables.watch(QLatin1String(HeartbeatAnnounced), [this](int /*element*/, double value) {
-        if (value != 0.0 && !parts().faults.strikes(Faults::HeartbeatNotReloaded))
-            later(QLatin1String(HeartbeatAnnounced), HeartbeatMs, [this] { reloadHeartbeat(); });
-    });
-}
-
-void FieldbusManager::takeCommand(const QString& name, const QString& role, bool open, bool set)
-{
-    drop(name);
-    if (!set || parts().faults.strikes(Faults::CommandNeverTaken, name))
-        return;
-    later(name, CommandMs, [this, name, role, open] {
-        m_wishes.insert(role, open);
-        parts().variables.set(name, 0.0);
-    });
 }
 
 void FieldbusManager::answerBusType(int state)
@@ -94,34 +105,42 @@ void FieldbusManager::answerBusType(int state)
 
 void FieldbusManager::answerUpdateState(int state)
 {
-    const QString name = QLatin1String(UpdateState);
-    Faults& faults = parts().faults;
     // A new announcement, or its withdrawal, ends the one before.
-    drop(name);
+    for (const FileAnswer& answer : FileAnswers)
+        drop(QLatin1String(answer.key));
     if ((state & Announced) == 0)
         return;
     // The answer to the file before must not be taken for the one to this file.
-    parts().variables.set(name, state & ~Answers);
+    parts().variables.set(QLatin1String(UpdateState), state & ~Answers);
+    // Both files announced at once look like the slave file alone.
     const bool isSlave = (state & Slave) != 0;
-    if (faults.strikes(isSlave ? Faults::SlaveNeverAnswered : Faults::MappingNeverAnswered))
+    if (isSlave)
+        answerLater(FileAnswers[SlaveFile], [this] { takeSlaveFile(); });
+    if (!isSlave || m_mappingStored)
+        answerLater(FileAnswers[MappingFile], [this] { takeMapping(); });
+}
+
+void FieldbusManager::answerLater(const FileAnswer& answer, std::function<void()> take)
+{
+    Faults& faults = parts().faults;
+    if (faults.strikes(answer.never))
         return;
-    const bool isLate = faults.strikes(isSlave ? Faults::SlaveAnsweredLate : Faults::MappingAnsweredLate);
-    const int lateMs = isSlave ? SlaveLateMs : MappingLateMs;
-    later(
-        name, isLate ? lateMs : FileMs,
-        [this, isSlave] {
-            if (isSlave)
-                takeSlaveFile();
-            else
-                takeMapping();
-        },
-        isLate ? Pace::Real : Pace::Simulated);
+    const bool isLate = faults.strikes(answer.late);
+    later(QLatin1String(answer.key), isLate ? answer.lateMs : FileMs, std::move(take),
+          isLate ? Pace::Real : Pace::Simulated);
+}
+
+void FieldbusManager::fileStored(const QString& path)
+{
+    if (path.compare(QLatin1String(MappingXml), Qt::CaseInsensitive) == 0)
+        m_mappingStored = true;
 }
 
 void FieldbusManager::takeMapping()
 {
     const QString name = QLatin1String(UpdateState);
     QByteArray mapping;
+    m_mappingStored = false;
     m_mappingComplaint = parts().files.read(QLatin1String(MappingXml), mapping) ? mappingFault(mapping)
                                                                                 : QStringLiteral("no file");
     const bool rejected = parts().faults.strikes(Faults::MappingRejected) || !m_mappingComplaint.isEmpty();
@@ -129,17 +148,17 @@ void FieldbusManager::takeMapping()
     parts().variables.set(name, rest | MappingTaken | (rejected ? MappingRejected : 0));
 }
 
+// There is no bit that rejects the file: what cannot be read is not answered.
 void FieldbusManager::takeSlaveFile()
 {
     const QString name = QLatin1String(UpdateState);
+    QByteArray slave;
+    if (!parts().files.read(QLatin1String(SlaveXml), slave) || !isSlaveFile(slave)) {
+        parts().traffic.addNote(QStringLiteral("%1 cannot be read: no answer").arg(QLatin1String(SlaveXml)));
+        return;
+    }
     const int rest = static_cast<int>(parts().variables.value(name)) & ~(Announced | Slave);
     parts().variables.set(name, rest | SlaveTaken);
-}
-
-void FieldbusManager::reloadHeartbeat()
-{
-    ++(readHeartbeatFile() ? m_heartbeatReloads : m_heartbeatFailures);
-    parts().variables.set(QLatin1String(HeartbeatAnnounced), 0.0);
 }
 
 bool FieldbusManager::readHeartbeatFile()
@@ -156,6 +175,7 @@ void FieldbusManager::restarted()
     for (const char* handshake : {BusTypeState, UpdateState, HeartbeatAnnounced})
         variables.set(QLatin1String(handshake), 0.0);
     m_wishes.clear();
+    m_mappingStored = false; // what is stored runs now
     readHeartbeatFile();
     readRoleFile();
 }

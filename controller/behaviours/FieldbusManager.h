@@ -35,19 +35,22 @@ public:
     bool switchRole(const QString& role, bool on);
 
     void restarted() override;
+    void fileStored(const QString& path) override;
+
+    struct FileAnswer; ///< how an announced file is answered
 
 private:
-    void takeCommand(const QString& name, const QString& role, bool open, bool set);
     void answerBusType(int state);
     void answerUpdateState(int state);
+    void answerLater(const FileAnswer& answer, std::function<void()> take);
     void takeMapping();
     void takeSlaveFile();
-    void reloadHeartbeat();
     bool readHeartbeatFile();
     void readRoleFile();
 
     QMap<QString, HeartbeatWatch> m_watches;
     QMap<QString, bool> m_wishes;
+    bool m_mappingStored = false; ///< and not answered since
     QString m_mappingComplaint;
     int m_heartbeatReloads = 0;
     int m_heartbeatFailures = 0;

@@ -13,7 +13,6 @@ constexpr auto Error = "ifins_tcp.error";
 constexpr auto SettingsFile = "/application/finstcp/FinsTcpConfig.xml";
 
 constexpr auto SwitchAction = "switch";
-constexpr auto ReloadAction = "reload";
 constexpr auto PatienceAction = "patience"; // the one timer of the connection: patience, next read, next try
 constexpr int SwitchMs = 50;
 constexpr int ReloadMs = 50;
@@ -37,13 +36,12 @@ FinsClient::FinsClient(ControllerParts& controllerParts)
     connect(&m_socket, &QTcpSocket::readyRead, this, &FinsClient::takeBytes);
     connect(&m_socket, &QTcpSocket::errorOccurred, this, [this] { fail(m_socket.errorString()); });
 
-    VariableStore& variables = parts().variables;
-    variables.watch(QLatin1String(Enable), [this](int /*element*/, double value) {
+    parts().variables.watch(QLatin1String(Enable), [this](int /*element*/, double value) {
         later(QLatin1String(SwitchAction), SwitchMs, [this, value] { switchTo(value != 0.0); });
     });
-    variables.watch(QLatin1String(UpdateAnnounced), [this](int /*element*/, double value) {
-        if (value != 0.0)
-            later(QLatin1String(ReloadAction), ReloadMs, [this] { reload(); });
+    onRequest(UpdateAnnounced, ReloadMs, [this] {
+        if (m_state != State::Off)
+            start();
     });
 }
 
@@ -77,13 +75,6 @@ void FinsClient::switchTo(bool enabled)
     } else if (m_state == State::Off) {
         start();
     }
-}
-
-void FinsClient::reload()
-{
-    parts().variables.set(QLatin1String(UpdateAnnounced), 0.0);
-    if (m_state != State::Off)
-        start();
 }
 
 void FinsClient::start()

@@ -42,7 +42,6 @@ public:
 
 private:
     void switchTo(bool enabled);
-    void reload();
     void start();
     void close();
     void fail(const QString& complaint, bool tryAgain = true);

@@ -38,13 +38,11 @@ bool LinkStates::isCablePlugged(const QString& role) const
 
 void LinkStates::restarted()
 {
-    m_controllerUp = true;
     update();
 }
 
 void LinkStates::wentDown()
 {
-    m_controllerUp = false;
     for (const BusRole& role : LinkedBusRoles)
         parts().variables.set(QLatin1String(role.linkVariable), 0.0);
     parts().variables.set(communicationState(), 0.0);
@@ -52,7 +50,7 @@ void LinkStates::wentDown()
 
 void LinkStates::update()
 {
-    if (!m_controllerUp)
+    if (!isControllerUp())
         return;
     int communication = 0;
     for (const BusRole& role : LinkedBusRoles) {

@@ -22,8 +22,6 @@ public:
 
 private:
     void update();
-
-    bool m_controllerUp = false;
 };
 
 #endif

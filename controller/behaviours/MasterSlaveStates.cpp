@@ -1,8 +1,7 @@
 #include "MasterSlaveStates.h"
 
 #include "ControllerParts.h"
-
-#include <pugixml.hpp>
+#include "ControllerXml.h"
 
 #include <algorithm>
 #include <string>
@@ -113,10 +112,8 @@ void MasterSlaveStates::readTable(Master master)
 {
     pugi::xml_document document;
     QByteArray bytes;
-    if (!parts().files.read(QLatin1String(Names[master].file), bytes) ||
-        !document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size())))
-        document.reset();
-    const pugi::xml_node group = document.child(Names[master].root).child("Group");
+    parts().files.read(QLatin1String(Names[master].file), bytes);
+    const pugi::xml_node group = ControllerXml::load(bytes, Names[master].root, document).child("Group");
     const int count = group.child("SlaveNum").text().as_int();
     Table& table = m_tables[master];
     table.couplingTimeout = qMax(0, group.child("EnableTimeout").text().as_int());

@@ -25,17 +25,9 @@ MesServer::MesServer(ControllerParts& controllerParts)
     : Behaviour(controllerParts)
 {
     connect(&m_server, &QTcpServer::newConnection, this, &MesServer::takeClient);
-    VariableStore& variables = parts().variables;
-    variables.watch(QLatin1String(Listen), [this](int /*element*/, double value) {
-        const QString name = QLatin1String(Listen);
-        drop(name);
-        if (value != 0.0 && !parts().faults.strikes(Faults::CommandNeverTaken, name))
-            later(name, ToggleMs, [this] { toggle(); });
-    });
-    variables.watch(QLatin1String(UpdateAnnounced), [this](int /*element*/, double value) {
-        if (value != 0.0)
-            later(QLatin1String(UpdateAnnounced), ReloadMs, [this] { reload(); });
-    });
+    onRequest(
+        Listen, ToggleMs, [this] { toggle(); }, Faults::CommandNeverTaken);
+    onRequest(UpdateAnnounced, ReloadMs, [this] { reload(); });
 }
 
 MesServer::~MesServer()
@@ -63,7 +55,6 @@ void MesServer::toggle()
         stop();
     else
         start();
-    parts().variables.set(QLatin1String(Listen), 0.0);
     showState();
 }
 
@@ -75,7 +66,6 @@ void MesServer::reload()
         start();
     }
     ++m_reloads;
-    parts().variables.set(QLatin1String(UpdateAnnounced), 0.0);
     showState();
 }
 

@@ -48,33 +48,13 @@ ModbusMaster::ModbusMaster(ControllerParts& controllerParts)
     : Behaviour(controllerParts)
 {
     parts().links.setPartner(role(), false);
-    connect(&parts().links, &Links::cableChanged, this, [this](const QString& changed) {
-        if (changed == role())
-            follow();
+    onCable(role(), [this] { follow(); });
+    onRequest(SaveAnnounced, CommandMs, [this] { reload(); });
+    onRequest(OpenAsked, CommandMs, [this] {
+        if (!m_connected)
+            begin();
     });
-    VariableStore& variables = parts().variables;
-    variables.watch(QLatin1String(SaveAnnounced), [this](int /*element*/, double value) {
-        if (value == 0.0)
-            return;
-        later(QLatin1String(SaveAnnounced), CommandMs, [this] {
-            const bool wasActive = m_trying || m_connected;
-            hangUp();
-            loadSettings();
-            parts().variables.set(QLatin1String(SaveAnnounced), 0.0);
-            if (wasActive || isAutomatic())
-                begin();
-        });
-    });
-    variables.watch(QLatin1String(OpenAsked), [this](int /*element*/, double value) {
-        if (value == 0.0)
-            return;
-        later(QLatin1String(OpenAsked), CommandMs, [this] {
-            parts().variables.set(QLatin1String(OpenAsked), 0.0);
-            if (!m_connected)
-                begin();
-        });
-    });
-    variables.watch(QLatin1String(Automatic), [this](int /*element*/, double /*value*/) {
+    parts().variables.watch(QLatin1String(Automatic), [this](int /*element*/, double /*value*/) {
         later(QLatin1String(Automatic), CommandMs, [this] { follow(); });
     });
 }
@@ -87,7 +67,6 @@ ModbusMaster::~ModbusMaster()
 
 void ModbusMaster::restarted()
 {
-    m_controllerUp = true;
     for (const char* command : {SaveAnnounced, OpenAsked})
         parts().variables.set(QLatin1String(command), 0.0);
     loadSettings();
@@ -96,8 +75,16 @@ void ModbusMaster::restarted()
 
 void ModbusMaster::wentDown()
 {
-    m_controllerUp = false;
     hangUp();
+}
+
+void ModbusMaster::reload()
+{
+    const bool wasActive = m_trying || m_connected;
+    hangUp();
+    loadSettings();
+    if (wasActive || isAutomatic())
+        begin();
 }
 
 void ModbusMaster::loadSettings()
@@ -112,15 +99,10 @@ bool ModbusMaster::isAutomatic() const
     return parts().variables.value(QLatin1String(Automatic)) != 0.0;
 }
 
-bool ModbusMaster::isInService() const
-{
-    return m_controllerUp && parts().roles.isOn(role()) && parts().links.isPlugged(role());
-}
-
 // Brings the connection in line with what it hangs on.
 void ModbusMaster::follow()
 {
-    if (!isInService())
+    if (!isInService(role()))
         hangUp();
     else if (isAutomatic() && !m_trying && !m_connected)
         begin();
@@ -129,7 +111,7 @@ void ModbusMaster::follow()
 void ModbusMaster::begin()
 {
     hangUp();
-    if (!isInService())
+    if (!isInService(role()))
         return;
     if (!m_settings) {
         note(QStringLiteral("the settings make no sense"));

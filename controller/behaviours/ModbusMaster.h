@@ -33,10 +33,10 @@ public:
     void wentDown() override;
 
 private:
+    void reload();
     void loadSettings();
     void follow();
     bool isAutomatic() const;
-    bool isInService() const;
     void begin();
     void connectToSlave();
     void proveUnit();
@@ -50,7 +50,6 @@ private:
 
     std::optional<MasterSettings> m_settings;
     std::unique_ptr<QModbusTcpClient> m_client;
-    bool m_controllerUp = false;
     bool m_trying = false;
     bool m_connected = false;
 };

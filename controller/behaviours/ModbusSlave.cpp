@@ -29,10 +29,7 @@ ModbusSlave::ModbusSlave(ControllerParts& controllerParts)
     : Behaviour(controllerParts)
 {
     parts().links.setPartner(role(), false);
-    connect(&parts().links, &Links::cableChanged, this, [this](const QString& changed) {
-        if (changed == role())
-            follow();
-    });
+    onCable(role(), [this] { follow(); });
 }
 
 ModbusSlave::~ModbusSlave() = default;
@@ -71,7 +68,6 @@ bool ModbusSlave::setRegister(int number, quint16 value)
 
 void ModbusSlave::restarted()
 {
-    m_controllerUp = true;
     follow();
 }
 
@@ -84,14 +80,12 @@ void ModbusSlave::rolesChanged()
 
 void ModbusSlave::wentDown()
 {
-    m_controllerUp = false;
     stop();
 }
 
 void ModbusSlave::follow()
 {
-    const bool wanted =
-        m_port && m_controllerUp && parts().roles.isOn(role()) && parts().links.isPlugged(role());
+    const bool wanted = m_port && isInService(role());
     if (wanted && !m_server)
         serve();
     else if (!wanted)

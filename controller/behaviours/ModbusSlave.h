@@ -46,7 +46,6 @@ private:
 
     std::unique_ptr<RegisterServer> m_server;
     std::optional<int> m_port;
-    bool m_controllerUp = false;
 };
 
 #endif

@@ -118,7 +118,7 @@ void ProfisafeDevice::takeCommand(int command)
 
 void ProfisafeDevice::publish()
 {
-    const bool isThere = m_isUp && isPresent();
+    const bool isThere = isControllerUp() && isPresent();
     VariableStore& variables = parts().variables;
     for (std::size_t element = 0; element < m_processData.size(); ++element)
         variables.set(QLatin1String(ProcessData), static_cast<int>(element),
@@ -128,7 +128,6 @@ void ProfisafeDevice::publish()
 
 void ProfisafeDevice::restarted()
 {
-    m_isUp = true;
     parts().variables.set(QLatin1String(CommandWord), CommandElement, 0.0);
     followOutputs();
     publish();
@@ -136,6 +135,5 @@ void ProfisafeDevice::restarted()
 
 void ProfisafeDevice::wentDown()
 {
-    m_isUp = false;
     publish();
 }

@@ -50,7 +50,6 @@ private:
 
     std::array<int, 16> m_processData{};
     int m_feedVoltage = 1;
-    bool m_isUp = false;
     std::vector<int> m_commandsTaken;
 };
 

@@ -17,7 +17,8 @@ namespace {
 constexpr int RefreshMs = 250;
 } // namespace
 
-ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* parent)
+ControllerPanel::ControllerPanel(SimulatedController& controller, const FinsPageAccess& finsPage,
+                                 QWidget* parent)
     : QWidget(parent, Qt::Window)
     , m_tabs(new QTabWidget(this))
 {
@@ -29,7 +30,7 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, QWidget* paren
 
     addTab(new RobotTab(controller), QStringLiteral("robotTab"), tr("Robot"));
     addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
-    addTab(new HostLinkTab(controller), QStringLiteral("hostLinkTab"), tr("Host links"));
+    addTab(new HostLinkTab(controller, finsPage), QStringLiteral("hostLinkTab"), tr("Host links"));
     addTab(new SlaveTab(controller), QStringLiteral("slaveTab"), tr("Slaves"));
     addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
     addTab(new DeviceTab(controller), QStringLiteral("deviceTab"), tr("Devices"));

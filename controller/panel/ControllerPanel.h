@@ -1,6 +1,8 @@
 #ifndef CONTROLLER_PANEL_CONTROLLERPANEL_H
 #define CONTROLLER_PANEL_CONTROLLERPANEL_H
 
+#include "FinsPageAccess.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -15,7 +17,8 @@ class ControllerPanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit ControllerPanel(SimulatedController& controller, QWidget* parent = nullptr);
+    explicit ControllerPanel(SimulatedController& controller, const FinsPageAccess& finsPage = {},
+                             QWidget* parent = nullptr);
 
 private:
     void addTab(PanelTab* tab, const QString& objectName, const QString& caption);

@@ -4,42 +4,22 @@
 #include "MesServer.h"
 #include "SimulatedController.h"
 
-#include <QApplication>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
 
-namespace {
+#include <utility>
 
-constexpr int FinsPage = 2;
-
-// The application's menu page; null while the application is not open.
-QWidget* menuPage()
-{
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (const QWidget* window : windows) {
-        if (auto* const menu = window->findChild<QWidget*>(QStringLiteral("FbMainWidget")))
-            return menu;
-    }
-    return nullptr;
-}
-
-} // namespace
-
-HostLinkTab::HostLinkTab(SimulatedController& simulated, QWidget* parent)
+HostLinkTab::HostLinkTab(SimulatedController& simulated, FinsPageAccess finsPage, QWidget* parent)
     : PanelTab(simulated, parent)
+    , m_finsPage(std::move(finsPage))
     , m_mes(new QLabel)
     , m_fins(new QLabel)
     , m_word(new QLabel)
     , m_showFinsPage(new QPushButton(tr("Show its page")))
 {
     m_showFinsPage->setObjectName(QStringLiteral("showFinsPage"));
-    // Later: the page fetches its file and may ask something before it is there.
-    connect(m_showFinsPage, &QPushButton::clicked, this, [] {
-        if (QWidget* const menu = menuPage())
-            QMetaObject::invokeMethod(menu, "slotMenuBtnsClicked", Qt::QueuedConnection,
-                                      Q_ARG(int, FinsPage));
-    });
+    connect(m_showFinsPage, &QPushButton::clicked, this, [this] { m_finsPage.show(); });
     auto* form = new QFormLayout(this);
     form->addRow(tr("MES server"), m_mes);
     form->addRow(tr("FINS client"), m_fins);
@@ -56,7 +36,7 @@ void HostLinkTab::refresh()
     m_word->setText(fins.state() == FinsClient::State::Reading
                         ? tr("%1 (%2 times)").arg(fins.word()).arg(fins.wordsRead())
                         : QStringLiteral("-"));
-    m_showFinsPage->setEnabled(menuPage() != nullptr);
+    m_showFinsPage->setEnabled(m_finsPage.show && m_finsPage.isAtHand && m_finsPage.isAtHand());
 }
 
 QString HostLinkTab::mesState() const

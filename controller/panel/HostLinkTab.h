@@ -1,6 +1,7 @@
 #ifndef CONTROLLER_PANEL_HOSTLINKTAB_H
 #define CONTROLLER_PANEL_HOSTLINKTAB_H
 
+#include "FinsPageAccess.h"
 #include "PanelTab.h"
 
 class QLabel;
@@ -13,7 +14,7 @@ class HostLinkTab : public PanelTab
     Q_OBJECT
 
 public:
-    explicit HostLinkTab(SimulatedController& simulated, QWidget* parent = nullptr);
+    HostLinkTab(SimulatedController& simulated, FinsPageAccess finsPage, QWidget* parent = nullptr);
 
     void refresh() override;
 
@@ -21,6 +22,7 @@ private:
     QString mesState() const;
     QString finsState() const;
 
+    FinsPageAccess m_finsPage;
     QLabel* m_mes;
     QLabel* m_fins;
     QLabel* m_word;

@@ -3,9 +3,8 @@
 #include "BusFileService.h"
 #include "ControllerLink.h"
 #include "CurrentLink.h"
+#include "Ipv4Text.h"
 #include "XmlBytes.h"
-
-#include <QStringList>
 
 #include <algorithm>
 
@@ -198,13 +197,5 @@ bool BusFileDataManager::isRebootRde() const
 
 bool BusFileDataManager::checkIPv4Format(const QString& text)
 {
-    const QStringList parts = text.split(QLatin1Char('.'));
-    return parts.size() == 4 && std::all_of(parts.begin(), parts.end(), [](const QString& part) {
-               const bool digits = std::all_of(part.begin(), part.end(), [](QChar character) {
-                   return character >= QLatin1Char('0') && character <= QLatin1Char('9');
-               });
-               // A leading zero would make the part octal for some readers.
-               return digits && !part.isEmpty() && part.size() <= 3 && part.toInt() <= 255 &&
-                      (part.size() == 1 || part[0] != QLatin1Char('0'));
-           });
+    return isIpv4(text, LeadingZeros::Refused);
 }

@@ -19,11 +19,16 @@ void scrollIntoSight(QWidget* target)
 
 bool Finger::press(QWidget* target)
 {
+    return target && press(target, target->rect().center());
+}
+
+bool Finger::press(QWidget* target, const QPoint& spot)
+{
     if (!target || !target->isVisible() || !target->isEnabled())
         return false;
     scrollIntoSight(target);
     QWidget* window = target->window();
-    const QPoint point = target->mapTo(window, target->rect().center());
+    const QPoint point = target->mapTo(window, spot);
     QWidget* hit = window->childAt(point);
     if (!window->windowHandle() || !hit || (hit != target && !target->isAncestorOf(hit)))
         return false;

@@ -16,7 +16,7 @@ public:
     QString tourDirectory;
     bool panel = false;
     QString controllerStore; ///< empty: in the work directory
-    QString workDirectory;   ///< empty: below the user's data folder
+    QString workDirectory;   ///< empty: below the user's data folder; for the tour, a scratch folder
     QString plugin;
     QString usb;        ///< empty: no drive
     QStringList faults; ///< as `Faults::setFromText` takes them

@@ -1,6 +1,7 @@
 #include "ControllerPanel.h"
 #include "CurrentLink.h"
 #include "Faults.h"
+#include "FinsShortcut.h"
 #include "ModbusSlave.h"
 #include "Options.h"
 #include "PendantApplication.h"
@@ -14,7 +15,10 @@
 #include "WorkDirectory.h"
 
 #include <QDir>
+#include <QTemporaryDir>
 #include <QTextStream>
+
+#include <optional>
 
 namespace {
 constexpr int ExitUsage = 2;
@@ -43,14 +47,11 @@ int refuse(const QString& problem)
     return ExitUsage;
 }
 
-int makeTour(PendantWindow& window, SimulatedController& controller, QWidget& panel, const QString& directory)
+TourGuide::Fetches takeFetches(Traffic& traffic)
 {
-    const auto takeFetches = [&controller] {
-        QStringList fetches = controller.traffic().fetches();
-        controller.traffic().clear();
-        return fetches;
-    };
-    return Tour({window, controller, &panel, controller.modbusPort(), takeFetches}, directory).run();
+    TourGuide::Fetches fetches = {traffic.fetches(), traffic.failed(Traffic::Fetch)};
+    traffic.clear();
+    return fetches;
 }
 } // namespace
 
@@ -67,7 +68,11 @@ int main(int argc, char* argv[])
         return 0;
     }
 
-    WorkDirectory work(options.workDirectory);
+    // A tour meets the state of the factory, and leaves nothing for the next one.
+    std::optional<QTemporaryDir> scratch;
+    if (options.tour && options.workDirectory.isEmpty())
+        scratch.emplace();
+    WorkDirectory work(scratch ? scratch->path() : options.workDirectory);
     if (!work.enter())
         return refuse(work.error());
 
@@ -88,7 +93,8 @@ int main(int argc, char* argv[])
 
     const Connection connection(controller);
     PendantWindow window(options.plugin);
-    ControllerPanel panel(controller);
+    ControllerPanel panel(controller, {[&window] { return FinsShortcut::isAtHand(window); },
+                                       [&window] { FinsShortcut::show(window); }});
     // After the panel, whose log tells when the port is taken. Several tours may be on the way at a time.
     const int ownChoice = options.tour ? 0 : ModbusSlave::DefaultPort;
     controller.setModbusPort(options.mtcpPort > 0 ? options.mtcpPort : ownChoice);
@@ -98,6 +104,9 @@ int main(int argc, char* argv[])
         panel.show();
     }
     if (options.tour)
-        return makeTour(window, controller, panel, options.tourDirectory);
+        return makeTour({window, controller, &panel, controller.modbusPort(),
+                         [&controller](bool on) { controller.setServoOn(on); },
+                         [&controller] { return takeFetches(controller.traffic()); }},
+                        options.tourDirectory);
     return PendantApplication::exec();
 }

@@ -1,5 +1,7 @@
 #include "NumericEntry.h"
 
+#include "Ipv4Text.h"
+
 #include <QLocale>
 #include <QStringList>
 
@@ -14,7 +16,6 @@ namespace {
 constexpr int MostDigits = 15;
 constexpr int Octets = 4;
 constexpr int OctetDigits = 3;
-constexpr int HighestOctet = 255;
 constexpr double RealLimit = 1e9;
 constexpr double HexadecimalLimit = 0x1p62; // fits 64 bits with sign
 
@@ -27,18 +28,6 @@ bool isOneOf(char key, const char* keys)
 int startOfDigits(const QString& text, bool isAddress)
 {
     return isAddress ? text.lastIndexOf(QLatin1Char('.')) + 1 : text.startsWith(QLatin1Char('-')) ? 1 : 0;
-}
-
-// Four numbers of one to three digits, none above 255. Nothing else, in particular no blanks and no signs.
-bool isAddress(const QString& text)
-{
-    const QStringList octets = text.split(QLatin1Char('.'));
-    return octets.size() == Octets && std::all_of(octets.cbegin(), octets.cend(), [](const QString& octet) {
-               return !octet.isEmpty() && octet.size() <= OctetDigits &&
-                      std::all_of(octet.cbegin(), octet.cend(),
-                                  [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }) &&
-                      octet.toInt() <= HighestOctet;
-           });
 }
 } // namespace
 
@@ -155,8 +144,10 @@ QString NumericEntry::refusal() const
     if (m_text.isEmpty())
         return tr("Nothing was entered.");
     if (m_kind == Kind::IpAddress)
-        return isAddress(m_text) ? QString()
-                                 : tr("An address is four numbers from 0 to 255 with points between.");
+        // `result` writes it without leading zeros.
+        return isIpv4(m_text, LeadingZeros::Allowed)
+                   ? QString()
+                   : tr("An address is four numbers from 0 to 255 with points between.");
     double number = 0.0;
     if (!parse(number))
         return tr("This is not a number.");

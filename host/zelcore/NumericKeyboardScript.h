@@ -22,8 +22,6 @@ public:
     /// Types `text` key by key on the next keyboard and presses OK. When it is refused, or a key is not
     /// there, the reason is kept and the keyboard cancelled.
     static void enterNext(const QString& text) { answerNext(text); }
-    /// Confirms the next keyboard without typing anything.
-    static void confirmNext() { answerNext(QString()); }
     /// Cancels the next keyboard.
     static void cancelNext() { answerNext(cancellation()); }
     /// Why entries were refused, the oldest first.

@@ -1,6 +1,7 @@
 #include "ControllerPanel.h"
 #include "Faults.h"
 #include "FinsClient.h"
+#include "FinsShortcut.h"
 #include "LoneController.h"
 #include "PaintCounter.h"
 #include "PendantFixture.h"
@@ -120,7 +121,9 @@ private slots:
 void TestFins::pageIsReachedFromThePanel()
 {
     PendantFixture pendant;
-    ControllerPanel panel(pendant.controller());
+    ControllerPanel panel(pendant.controller(),
+                          {[&pendant] { return FinsShortcut::isAtHand(pendant.window()); },
+                           [&pendant] { FinsShortcut::show(pendant.window()); }});
     panel.show();
     auto* tabs = panel.findChild<QTabWidget*>();
     tabs->setCurrentWidget(panel.findChild<QWidget*>("hostLinkTab"));

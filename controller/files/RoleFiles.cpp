@@ -1,46 +1,18 @@
 #include "RoleFiles.h"
 
 #include "BusRoles.h"
-
-#include <pugixml.hpp>
+#include "ControllerXml.h"
 
 #include <string>
-
-namespace {
-
-bool load(const QByteArray& bytes, const char* root, pugi::xml_document& document)
-{
-    return document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()), pugi::parse_full,
-                                pugi::encoding_utf8) &&
-           document.child(root);
-}
-
-class ByteWriter : public pugi::xml_writer
-{
-public:
-    void write(const void* data, std::size_t size) override
-    {
-        bytes.append(static_cast<const char*>(data), static_cast<int>(size));
-    }
-    QByteArray bytes;
-};
-
-QByteArray save(const pugi::xml_document& document)
-{
-    ByteWriter writer;
-    document.save(writer, "\t", pugi::format_indent, pugi::encoding_utf8);
-    return writer.bytes;
-}
-
-} // namespace
 
 bool readRoles(const QByteArray& fieldbusXml, QMap<QString, bool>& roles)
 {
     pugi::xml_document document;
-    if (!load(fieldbusXml, "Fieldbus", document))
+    const pugi::xml_node root = ControllerXml::load(fieldbusXml, "Fieldbus", document);
+    if (!root)
         return false;
     roles.clear();
-    for (const pugi::xml_node& bus : document.child("Fieldbus").children("Bus")) {
+    for (const pugi::xml_node& bus : root.children("Bus")) {
         const QString name = QString::fromUtf8(bus.attribute("name").value());
         // Of two entries with one name the first counts.
         if (!name.isEmpty() && !roles.contains(name))
@@ -52,21 +24,18 @@ bool readRoles(const QByteArray& fieldbusXml, QMap<QString, bool>& roles)
 QByteArray rolesWith(const QByteArray& fieldbusXml, const QString& role, bool on)
 {
     pugi::xml_document document;
-    if (!load(fieldbusXml, "Fieldbus", document))
-        return {};
-    const pugi::xml_node bus =
-        document.child("Fieldbus").find_child_by_attribute("Bus", "name", role.toUtf8());
+    const pugi::xml_node bus = ControllerXml::load(fieldbusXml, "Fieldbus", document)
+                                   .find_child_by_attribute("Bus", "name", role.toUtf8());
     pugi::xml_attribute enable = bus.attribute("enable");
-    return enable.set_value(on ? "1" : "0") ? save(document) : QByteArray();
+    return enable.set_value(on ? "1" : "0") ? ControllerXml::save(document) : QByteArray();
 }
 
 QByteArray switchFileWithRoles(const QByteArray& fieldbusCfg, const QMap<QString, bool>& roles)
 {
     pugi::xml_document document;
-    if (!load(fieldbusCfg, "FieldbusSettingConfig", document))
-        return {};
     bool changed = false;
-    for (const pugi::xml_node& entry : document.child("FieldbusSettingConfig").children()) {
+    const pugi::xml_node root = ControllerXml::load(fieldbusCfg, "FieldbusSettingConfig", document);
+    for (const pugi::xml_node& entry : root.children()) {
         const auto role = roles.constFind(QString::fromUtf8(entry.attribute("name").value()));
         pugi::xml_node enable = entry.child("enable");
         if (role == roles.constEnd() || !enable || (enable.text().as_int() == 1) == role.value())
@@ -74,15 +43,21 @@ QByteArray switchFileWithRoles(const QByteArray& fieldbusCfg, const QMap<QString
         enable.text().set(role.value() ? "1" : "0");
         changed = true;
     }
-    return changed ? save(document) : QByteArray();
+    return changed ? ControllerXml::save(document) : QByteArray();
+}
+
+bool isSlaveFile(const QByteArray& devicenetSlaveXml)
+{
+    pugi::xml_document document;
+    return !ControllerXml::load(devicenetSlaveXml, "devicenet", document).child("Dns").empty();
 }
 
 bool readHeartbeat(const QByteArray& heartbeatXml, QMap<QString, HeartbeatWatch>& watches)
 {
     pugi::xml_document document;
-    if (!load(heartbeatXml, "Fidbus", document))
+    const pugi::xml_node root = ControllerXml::load(heartbeatXml, "Fidbus", document);
+    if (!root)
         return false;
-    const pugi::xml_node root = document.child("Fidbus");
     for (const BusRole& role : LinkedBusRoles) {
         const std::string key = role.heartbeatKey;
         const pugi::xml_node bus = root.child(role.heartbeatKey);

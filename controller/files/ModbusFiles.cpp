@@ -1,7 +1,8 @@
 #include "ModbusFiles.h"
 
-#include <pugixml.hpp>
+#include "ControllerXml.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -10,11 +11,6 @@ constexpr int HighestUnit = 255;
 constexpr int ShortestTimeoutMs = 100;
 constexpr int LongestTimeoutMs = 10000;
 constexpr int LongestAliveMs = 24 * 3600 * 1000;
-
-bool load(const QByteArray& bytes, pugi::xml_document& document)
-{
-    return document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-}
 
 QByteArray textOf(const pugi::xml_node& group, const char* element)
 {
@@ -34,9 +30,7 @@ std::vector<RegisterBlock> readRegisterBlocks(const QByteArray& mappingXml, cons
 {
     std::vector<RegisterBlock> blocks;
     pugi::xml_document document;
-    if (!load(mappingXml, document))
-        return blocks;
-    const pugi::xml_node bus = document.child("FieldbusConfig")
+    const pugi::xml_node bus = ControllerXml::load(mappingXml, "FieldbusConfig", document)
                                    .find_child_by_attribute("Mode", "name", mode)
                                    .find_child_by_attribute("Bus", "name", "ModbusTcpSlave");
     for (const pugi::xml_node& area : bus.children("Area")) {
@@ -54,9 +48,8 @@ std::vector<RegisterBlock> readRegisterBlocks(const QByteArray& mappingXml, cons
 std::optional<MasterSettings> readMasterSettings(const QByteArray& masterXml)
 {
     pugi::xml_document document;
-    if (!load(masterXml, document))
-        return {};
-    const pugi::xml_node group = document.child("MtcpMasterCommunication").child("Group");
+    const pugi::xml_node group =
+        ControllerXml::load(masterXml, "MtcpMasterCommunication", document).child("Group");
     bool portIsNumber = false;
     bool unitIsNumber = false;
     MasterSettings settings;

@@ -1,10 +1,7 @@
 #include "NetPortsFile.h"
 
+#include "ControllerXml.h"
 #include "FileStore.h"
-
-#include <pugixml.hpp>
-
-#include <sstream>
 
 namespace {
 
@@ -17,10 +14,9 @@ const QString& path()
 pugi::xml_node load(const FileStore& files, const QString& name, pugi::xml_document& document)
 {
     QByteArray bytes;
-    if (!files.read(path(), bytes) ||
-        !document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()), pugi::parse_full))
-        return {};
-    return document.child("NetPorts").find_child_by_attribute("Port", "name", name.toUtf8());
+    files.read(path(), bytes);
+    return ControllerXml::load(bytes, "NetPorts", document)
+        .find_child_by_attribute("Port", "name", name.toUtf8());
 }
 
 void setAttribute(pugi::xml_node node, const char* name, const QString& value)
@@ -49,7 +45,5 @@ bool writeNetPort(FileStore& files, const QString& name, const NetPort& port)
         return false;
     setAttribute(node, "ip", port.ip);
     setAttribute(node, "netmask", port.netmask);
-    std::ostringstream out;
-    document.save(out, "\t", pugi::format_indent, pugi::encoding_utf8);
-    return files.write(path(), QByteArray::fromStdString(out.str()));
+    return files.write(path(), ControllerXml::save(document));
 }

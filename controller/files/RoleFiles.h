@@ -15,6 +15,9 @@ QByteArray rolesWith(const QByteArray& fieldbusXml, const QString& role, bool on
 /// order and spelling stay.
 QByteArray switchFileWithRoles(const QByteArray& fieldbusCfg, const QMap<QString, bool>& roles);
 
+/// Whether the bytes are a "devicenetSlave.xml".
+bool isSlaveFile(const QByteArray& devicenetSlaveXml);
+
 /// What the controller watches of one bus connection.
 struct HeartbeatWatch
 {

@@ -1,6 +1,6 @@
 #include "MappingCheck.h"
 
-#include <pugixml.hpp>
+#include "ControllerXml.h"
 
 namespace {
 
@@ -65,11 +65,9 @@ QString areaFault(const pugi::xml_node& area)
 QString mappingFault(const QByteArray& bytes)
 {
     pugi::xml_document document;
-    if (!document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size())))
-        return QStringLiteral("not well-formed");
-    const pugi::xml_node root = document.child("FieldbusConfig");
+    const pugi::xml_node root = ControllerXml::load(bytes, "FieldbusConfig", document);
     if (!root)
-        return QStringLiteral("another root");
+        return document.first_child() ? QStringLiteral("another root") : QStringLiteral("not well-formed");
     for (const pugi::xml_node& mode : root.children("Mode")) {
         for (const pugi::xml_node& bus : mode.children("Bus")) {
             for (const pugi::xml_node& area : bus.children("Area")) {

@@ -1,8 +1,8 @@
-// The stations of the tour that carry a configuration to a drive and back.
 #include "Finger.h"
 #include "MsgBox.h"
 #include "MsgBoxScript.h"
-#include "Tour.h"
+#include "Stations.h"
+#include "TourGuide.h"
 #include "UsbDrive.h"
 
 #include <QDialog>
@@ -59,62 +59,69 @@ bool change(const QString& path, const QByteArray& before, const QByteArray& aft
     return file.resize(0) && file.seek(0) && file.write(content) == content.size();
 }
 
-// Chooses the first folder of the list, and lets a copy in progress go on.
-bool chooseFirstFolder(QDialog& dialog)
+// Enough of the transfer is done for something to be seen.
+bool isUnderWay(QDialog& dialog)
+{
+    constexpr int Percent = 30;
+    const auto* bar = dialog.findChild<QProgressBar*>(QStringLiteral("progressBar"));
+    return !bar || bar->value() >= Percent;
+}
+
+// What comes after the list of folders, of which the first is chosen, and the transfer from there.
+bool isBehindFolders(QDialog& dialog)
 {
     auto* folders = dialog.findChild<QTableWidget*>(QStringLiteral("folderTable"));
     if (!folders)
-        return dialog.objectName() == QLatin1String("ProgressDialog");
+        return dialog.objectName() != QLatin1String("ProgressDialog");
     folders->selectRow(0);
     Finger::press(dialog.findChild<QWidget*>(QStringLiteral("chooseButton")));
-    return true;
+    return false;
 }
 
-} // namespace
+struct Import
+{
+    const char* picture;
+    const char* folder;
+    const char* file; // that is changed
+    const char* before;
+    const char* after;
+};
 
 // Folders of another robot, the newest of which is tried: first one that can be imported, then one whose
 // switches break a rule, then one with a broken file.
-bool Tour::visitUsb()
+constexpr Import Imports[] = {
+    {"usb-preview", "/fidbus_21000101_080000", "/heartbeat.xml", "<Fidbus>", "<Fidbus><!-- other -->"},
+    {"usb-rule-broken", "/fidbus_21000102_080000", "/fieldbus.xml", R"("EtherCatMaster" enable="0")",
+     R"("EtherCatMaster" enable="1")"},
+    {"usb-refused", "/fidbus_21000103_080000", "/fieldbus_config.xml", "</FieldbusConfig>", ""},
+};
+
+} // namespace
+
+bool Stations::usb(TourGuide& guide)
 {
     const ScratchDrive drive;
-    const QString button = QStringLiteral("btn_import");
-    if (!openPage(QStringLiteral("busSetting")))
+    const QString importButton = QStringLiteral("btn_import");
+    const auto press = [&guide](const QString& button) {
+        return [&guide, button] { return Finger::press(guide.find(button)); };
+    };
+    if (!guide.openPage(QStringLiteral("busSetting")))
         return false;
     MsgBoxScript::answerNext(MsgBox::Confirmed);
-    m_answer = [](QDialog& dialog) {
-        const auto* bar = dialog.findChild<QProgressBar*>(QStringLiteral("progressBar"));
-        return bar && bar->value() < 30; // until there is something to see
-    };
-    bool taken = pictureOfDialog(QStringLiteral("usb-progress"), QStringLiteral("btn_export"));
-    m_answer = nullptr;
+    bool taken =
+        guide.reportDialog(QStringLiteral("usb-progress"), press(QStringLiteral("btn_export")), isUnderWay);
     const QStringList exported = drive.directory().entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     if (exported.isEmpty())
         return false;
     const QString source = drive.directory().filePath(exported.constFirst());
-
-    struct Stop
-    {
-        const char* picture;
-        const char* folder;
-        const char* file; // that is changed
-        const char* before;
-        const char* after;
-    };
-    const Stop stops[] = {
-        {"usb-preview", "/fidbus_21000101_080000", "/heartbeat.xml", "<Fidbus>", "<Fidbus><!-- other -->"},
-        {"usb-rule-broken", "/fidbus_21000102_080000", "/fieldbus.xml", R"("EtherCatMaster" enable="0")",
-         R"("EtherCatMaster" enable="1")"},
-        {"usb-refused", "/fidbus_21000103_080000", "/fieldbus_config.xml", "</FieldbusConfig>", ""},
-    };
-    for (const Stop& stop : stops) {
-        const QString folder = drive.directory().path() + QLatin1String(stop.folder);
+    for (const Import& import : Imports) {
+        const QString folder = drive.directory().path() + QLatin1String(import.folder);
         taken = copyTree(source, folder) && taken;
-        taken = change(folder + QLatin1String(stop.file), stop.before, stop.after) && taken;
+        taken = change(folder + QLatin1String(import.file), import.before, import.after) && taken;
         taken = change(folder + QStringLiteral("/fa/pfb.cfg"), "cell 7", "cell 8") && taken;
         taken = QFile::remove(folder + QStringLiteral("/rs232/rs232FileConfig.xml")) && taken;
-        m_answer = chooseFirstFolder;
-        taken = pictureOfDialog(QLatin1String(stop.picture), button) && taken;
-        m_answer = nullptr;
+        taken =
+            guide.reportDialog(QLatin1String(import.picture), press(importButton), isBehindFolders) && taken;
     }
-    return pictureOfDialog(QStringLiteral("usb-folders"), button) && taken;
+    return guide.reportDialog(QStringLiteral("usb-folders"), importButton) && taken;
 }

@@ -1,19 +1,11 @@
 #include "HostLinkFiles.h"
 
-#include <pugixml.hpp>
+#include "ControllerXml.h"
 
 namespace {
 
 constexpr int HighestNode = 254;
 constexpr int LastDmWord = 32767;
-
-// The root, or nothing when the bytes are no such file.
-pugi::xml_node load(const QByteArray& bytes, const char* root, pugi::xml_document& document)
-{
-    if (!document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size())))
-        return {};
-    return document.child(root);
-}
 
 // Not a number, or none that a port can have: 0.
 quint16 portOf(pugi::xml_node element)
@@ -26,13 +18,13 @@ quint16 portOf(pugi::xml_node element)
 MesServerSettings readMesServer(const QByteArray& tcpServerConfigXml)
 {
     pugi::xml_document document;
-    return {portOf(load(tcpServerConfigXml, "TcpServerConfig", document).child("Port"))};
+    return {portOf(ControllerXml::load(tcpServerConfigXml, "TcpServerConfig", document).child("Port"))};
 }
 
 FinsClientSettings readFinsClient(const QByteArray& finsTcpConfigXml)
 {
     pugi::xml_document document;
-    const pugi::xml_node root = load(finsTcpConfigXml, "ClientConfig", document);
+    const pugi::xml_node root = ControllerXml::load(finsTcpConfigXml, "ClientConfig", document);
     FinsClientSettings settings;
     settings.server = QHostAddress(QString::fromUtf8(root.child("ServerIP").text().get()).trimmed());
     settings.port = portOf(root.child("ServerPort"));
