@@ -44,71 +44,51 @@ constexpr ConfigRow ConfigRows[] = {
 constexpr auto ConfigCount = static_cast<std::size_t>(ConfigFile::Count);
 static_assert(std::size(ConfigRows) == ConfigCount, "a row a file");
 
-const TransferFile TransferRows[] = {
-    {"heartbeat.xml", "", "heartbeat.xml", "/application/fidbus/heartbeat.xml", {}},
-    {"field cfg", "", "fieldbus_config.xml", "/application/fidbus/fieldbus_config.xml", {}},
-    {"field xml", "", "fieldbus.xml", "/application/fidbus/fieldbus.xml", {}},
-    {"func Mapp", "", "signal_mapping.cfg", "/application/fidbus/signal_mapping.cfg", {}},
-    {"user Desc", "", "user_description.xml", "/application/fidbus/user_description.xml", {}},
-    {"group Io", "", "user_groupio.cfg", "/application/fidbus/user_groupio.cfg", {}},
-    {"devicenet slave",
-     "devicenet",
-     "devicenetSlave.xml",
-     "/application/fidbus/devicenet/devicenetSlave.xml",
-     {}},
-    {"eip master", "eipMaster", "eip_master.xml", "/application/fidbus/eipMaster/eip_master.xml", {}},
-    {"pfn master", "pfnMaster", "pfn_master.xml", "/application/fidbus/pfnMaster/pfn_master.xml", {}},
-    {"fixed Desc", "fixed", "description_fixed.xml", "/application/fidbus/fixed/description_fixed.xml", {}},
-    {"fixed Dns", "fixed", "dns_fixed.cfg", "/application/fidbus/fixed/dns_fixed.cfg", {}},
-    {"fixed Field", "fixed", "fieldbus_fixed.xml", "/application/fidbus/fixed/fieldbus_fixed.xml", {}},
-    {"fixed Func",
-     "fixed",
-     "signal_mapping_fixed.cfg",
-     "/application/fidbus/fixed/signal_mapping_fixed.cfg",
-     {}},
-    {"fixed Mtcp", "fixed", "modbus_fixed.cfg", "/application/fidbus/fixed/modbus_fixed.cfg", {}},
-    {"fixed Pfb", "fixed", "pfb_fixed.cfg", "/application/fidbus/fixed/pfb_fixed.cfg", {}},
-    {"fixed Dns0", "fixed", "dns0_fixed.cfg", "/application/fidbus/fixed/dns0_fixed.cfg", {}},
-    {"free Desc", "free", "description_free.xml", "/application/fidbus/free/description_free.xml", {}},
-    {"free Dns", "free", "dns_free.cfg", "/application/fidbus/free/dns_free.cfg", {}},
-    {"free Field", "free", "fieldbus_free.xml", "/application/fidbus/free/fieldbus_free.xml", {}},
-    {"free Func", "free", "signal_mapping_free.cfg", "/application/fidbus/free/signal_mapping_free.cfg", {}},
-    {"free Mtcp", "free", "modbus_free.cfg", "/application/fidbus/free/modbus_free.cfg", {}},
-    {"free Pfb", "free", "pfb_free.cfg", "/application/fidbus/free/pfb_free.cfg", {}},
-    {"free Dns0", "free", "dns0_free.cfg", "/application/fidbus/free/dns0_free.cfg", {}},
-    {"rs232 config", "rs232", "rs232FileConfig.xml", "/application/fidbus/rs232/rs232FileConfig.xml", {}},
-    {"ecat file",
-     "SlaveConfig/EtherCAT",
-     "ABXS_ECT_V_3_28.xml",
-     "/application/fidbus/SlaveConfig/EtherCAT/ABXS_ECT_V_3_28.xml",
-     {}},
-    {"eip file",
-     "SlaveConfig/EthernetIP",
-     "kliklus_urmc_v2.eds",
-     "/application/fidbus/SlaveConfig/EthernetIP/kliklus_urmc_v2.eds",
-     {}},
-    {"pfn file",
-     "SlaveConfig/Profinet",
-     "GSDML-V2.33-Kliklus-RP2-20200520.xml",
-     "/application/fidbus/SlaveConfig/Profinet/GSDML-V2.33-Kliklus-RP2-20200520.xml",
-     {}},
-    {"dns slaveconfig",
-     "SlaveConfig/Devicenet",
-     "rbxm5034.eds",
-     "/application/fidbus/SlaveConfig/Devicenet/rbxm5034.eds",
-     {}},
-    {"fa mtcp", "fa", "modbus.cfg", "/fa/modbus.cfg", {}},
-    {"fa fbSlave.cfgx", "fa", "fbslave.cfgx", "/fa/fbslave.cfgx", {}},
-    {"fa dns-1", "fa", "dns-1.cfg", "/fa/dns-1.cfg", {}},
-    {"fa dns0", "fa", "dns0.cfg", "/fa/dns0.cfg", {}},
-    {"fa pfb", "fa", "pfb.cfg", "/fa/pfb.cfg", {}},
-    {"fa dnmst0", "fa", "dnmst0.cfg", "/fa/dnmst0.cfg", {}},
-    {"pfs_desc", "", "pfs_description.xml", "/application/fidbus/pfs_description.xml", {}},
-    {"mtcp_master.xml",
-     "mtcpMaster",
-     "mtcp_master.xml",
-     "/application/fidbus/mtcpMaster/mtcp_master.xml",
-     {}},
+struct TransferRow
+{
+    const char* label;
+    const char* folder;
+    const char* name;
+    const char* xmlRoot = nullptr;
+};
+
+constexpr TransferRow TransferRows[] = {
+    {"heartbeat.xml", "", "heartbeat.xml", "Fidbus"},
+    {"field cfg", "", "fieldbus_config.xml", "FieldbusConfig"},
+    {"field xml", "", "fieldbus.xml", "Fieldbus"},
+    {"func Mapp", "", "signal_mapping.cfg"},
+    {"user Desc", "", "user_description.xml", "UserDescription"},
+    {"group Io", "", "user_groupio.cfg"},
+    {"devicenet slave", "devicenet", "devicenetSlave.xml", "devicenet"},
+    {"eip master", "eipMaster", "eip_master.xml", "EipMasterCommunication"},
+    {"pfn master", "pfnMaster", "pfn_master.xml", "PfnMasterCommunication"},
+    {"fixed Desc", "fixed", "description_fixed.xml", "Description"},
+    {"fixed Dns", "fixed", "dns_fixed.cfg"},
+    {"fixed Field", "fixed", "fieldbus_fixed.xml", "Fieldbus"},
+    {"fixed Func", "fixed", "signal_mapping_fixed.cfg"},
+    {"fixed Mtcp", "fixed", "modbus_fixed.cfg"},
+    {"fixed Pfb", "fixed", "pfb_fixed.cfg"},
+    {"fixed Dns0", "fixed", "dns0_fixed.cfg"},
+    {"free Desc", "free", "description_free.xml", "Description"},
+    {"free Dns", "free", "dns_free.cfg"},
+    {"free Field", "free", "fieldbus_free.xml", "Fieldbus"},
+    {"free Func", "free", "signal_mapping_free.cfg"},
+    {"free Mtcp", "free", "modbus_free.cfg"},
+    {"free Pfb", "free", "pfb_free.cfg"},
+    {"free Dns0", "free", "dns0_free.cfg"},
+    {"rs232 config", "rs232", "rs232FileConfig.xml", "Rs232Config"},
+    {"ecat file", "SlaveConfig/EtherCAT", "ABXS_ECT_V_3_28.xml", "EtherCATInfo"},
+    {"eip file", "SlaveConfig/EthernetIP", "kliklus_urmc_v2.eds"},
+    {"pfn file", "SlaveConfig/Profinet", "GSDML-V2.33-Kliklus-RP2-20200520.xml", "ISO15745Profile"},
+    {"dns slaveconfig", "SlaveConfig/Devicenet", "rbxm5034.eds"},
+    {"fa mtcp", "fa", "modbus.cfg"},
+    {"fa fbSlave.cfgx", "fa", "fbslave.cfgx", "FbSlave"},
+    {"fa dns-1", "fa", "dns-1.cfg"},
+    {"fa dns0", "fa", "dns0.cfg"},
+    {"fa pfb", "fa", "pfb.cfg"},
+    {"fa dnmst0", "fa", "dnmst0.cfg"},
+    {"pfs_desc", "", "pfs_description.xml", "ProfiSafe"},
+    {"mtcp_master.xml", "mtcpMaster", "mtcp_master.xml", "MtcpMasterCommunication"},
 };
 
 QString localised(const QString& path)
@@ -130,10 +110,16 @@ std::array<FileLocation, ConfigCount> configLocations()
 
 std::vector<TransferFile> transferFiles()
 {
-    std::vector<TransferFile> files(std::begin(TransferRows), std::end(TransferRows));
-    for (TransferFile& file : files)
-        file.staging =
-            stagingFolder(QLatin1String(file.folder)) + QLatin1Char('/') + QLatin1String(file.name);
+    std::vector<TransferFile> files;
+    for (const TransferRow& row : TransferRows) {
+        const QString folder = QLatin1String(row.folder);
+        const QString name = QLatin1String(row.name);
+        const QString path = folder.isEmpty() ? name : folder + QLatin1Char('/') + name;
+        // The fieldbus directory of the drivers stands beside the application's.
+        const bool isDriverFile = folder == QLatin1String("fa");
+        files.push_back({row.label, path, QLatin1String(isDriverFile ? "/" : "/application/fidbus/") + path,
+                         stagingFolder(folder) + QLatin1Char('/') + name, row.xmlRoot});
+    }
     return files;
 }
 

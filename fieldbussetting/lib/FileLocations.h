@@ -36,11 +36,11 @@ enum class ConfigFile {
 /// A file of the import and export set.
 struct TransferFile
 {
-    const char* label;      ///< names the file in the log
-    const char* folder;     ///< sub-folder on the drive and below the staging directory, empty for its root
-    const char* name;       ///< file name, the same everywhere
-    const char* controller; ///< path on the controller
-    QString staging;        ///< localised path in the staging directory
+    const char* label;   ///< names the file in the log
+    QString path;        ///< below the export folder on the drive: "fixed/dns_fixed.cfg"
+    QString controller;  ///< path on the controller
+    QString staging;     ///< localised path in the staging directory
+    const char* xmlRoot; ///< root element of an XML file; null for a text file
 };
 
 namespace FileLocations {

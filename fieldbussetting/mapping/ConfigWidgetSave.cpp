@@ -18,7 +18,6 @@ constexpr int Announced = 0x8000;
 
 constexpr int TickMs = 500;
 constexpr int TicksOfPatience = 30;
-constexpr unsigned BeforeRestartMs = 1000;
 constexpr unsigned AfterRestartMs = 500;
 
 bool isUpdateBitSet(int bit)
@@ -136,7 +135,7 @@ void ConfigWidget::slotSaveAndReboot()
 void ConfigWidget::restartController()
 {
     const QPointer<ConfigWidget> self(this);
-    SysSettingApi::delay_MSec(BeforeRestartMs);
+    SysSettingApi::delay_MSec(Restart::BeforeRestartMs);
     if (!self)
         return;
     SysSettingApi::set_bswrsdet(true);
@@ -146,13 +145,10 @@ void ConfigWidget::restartController()
     const bool isStopped = Restart::controllerStopped();
     if (!self)
         return;
-    if (isStopped) {
+    if (isStopped)
         m_busy.reset();
-        tell(MsgBox::Information, tr("Please close and reopen the teaching pendant."));
-    } else if (tell(MsgBox::Information, tr("Please manually power off and restart the robot!")) !=
-               Answer::Gone) {
+    if (tellRestarted(isStopped) != Answer::Gone)
         m_busy.reset();
-    }
 }
 
 void ConfigWidget::slotRestoreUi()

@@ -157,6 +157,13 @@ PageBase::Answer PageBase::askRestart()
     return ask(translated("Save successfully, Are you sure to restart robot to make it effect?"));
 }
 
+PageBase::Answer PageBase::tellRestarted(bool stopped)
+{
+    return tell(MsgBox::Information,
+                translated(stopped ? "Please close and reopen the teaching pendant."
+                                   : "Please manually power off and restart the robot!"));
+}
+
 void PageBase::offerRestart(Restart::Way way)
 {
     if (askRestart() == Answer::Confirmed)

@@ -111,6 +111,8 @@ protected:
     bool checkServoOff();
     /// Asks whether to restart the robot for what was saved.
     Answer askRestart();
+    /// Says what to do after a restart of the controller that was seen to begin, or was not.
+    Answer tellRestarted(bool stopped);
     /// Asks, and restarts when it is confirmed. The page may be gone afterwards.
     void offerRestart(Restart::Way way);
     /// Restarts with input blocked, so that no second restart is asked for meanwhile. The page may be gone

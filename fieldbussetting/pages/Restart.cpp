@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr unsigned BeforeRestartMs = 1000;
 constexpr unsigned BetweenRestartsMs = 100; // controller first, then the pendant
 constexpr int ClockReadings = 10;
 constexpr unsigned BetweenReadingsMs = 600;

@@ -11,6 +11,9 @@ enum class Way {
     WhenAllowed ///< only when the service allows it, after a second
 };
 
+/// How long a page that was confirmed waits before it restarts the controller.
+constexpr unsigned BeforeRestartMs = 1000;
+
 /// Whether the service allows a restart of the controller now.
 bool isAllowed();
 

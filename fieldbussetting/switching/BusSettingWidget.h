@@ -3,8 +3,8 @@
 
 #include "BusObserver.h"
 #include "BusSwitches.h"
+#include "BusTransferPage.h"
 #include "ExitPermission.h"
-#include "PageBase.h"
 #include "WaitNotice.h"
 
 #include <QMutex>
@@ -15,13 +15,7 @@
 #include <memory>
 #include <optional>
 
-class ImportTransfer;
-class ProgressDialog;
 class QComboBox;
-struct ExportFolder;
-struct ImportEntry;
-struct ImportedRoles;
-struct TransferResult;
 
 namespace Ui {
 class BusSettingWidget;
@@ -29,7 +23,7 @@ class BusSettingWidget;
 
 /// The page on which bus roles are switched on and off. A save goes through the override file, the
 /// controller's variables and commands, and the bus configuration; the restart makes it effective.
-class BusSettingWidget : public PageBase, public BusObserver
+class BusSettingWidget : public BusTransferPage, public BusObserver
 {
     Q_OBJECT
 
@@ -60,8 +54,6 @@ private slots:
     void slotGetFileToUi();
     /// Waits for the code of the fieldbus module, and then checks that the EtherCAT slave has its device.
     void slotCheckFBSEcat();
-    void on_btn_import_clicked();
-    void on_btn_export_clicked();
 
 private:
     using Switch = BusSwitches::Switch;
@@ -76,6 +68,7 @@ private:
     void layOutSwitches();
     QComboBox* combo(Switch which) const { return m_combos[which]; }
     bool isOn(Switch which) const;
+    BusSwitches::States switchedOn() const;
     /// Fetches the override file and brings the switches to what the controller runs.
     Outcome reload();
     void setBusy(bool busy);
@@ -87,30 +80,20 @@ private:
     void warnLater(const QString& text, QComboBox* switchBack = nullptr);
     void showWarnings();
 
+    bool isSaving() const override { return m_busy.has_value(); }
+    /// Whether the controller can run the PROFINET slave.
+    bool canHaveProfinetSlave() const;
+    RoleConditions roleConditions() const override;
+
+    // The save: BusSettingSave.cpp
     Outcome saveOverride();
     void announce();
     void waitForController(unsigned msec, int& polls);
     void giveSaveUp(const QStringList& messages);
     void sendSwitches();
     void restart();
-    /// Whether the controller can run the PROFINET slave.
-    bool canHaveProfinetSlave() const;
 
-    // The two buttons: BusSettingTransfer.cpp
-    ProgressDialog* progressDialog();
-    void importFolder(const QString& drive, const ExportFolder& folder);
-    // False: it ended, with its message, and the page may be gone.
-    bool prepareImport(const QString& drive, const ExportFolder& folder, ImportTransfer& transfer,
-                       std::vector<ImportEntry>& entries, ImportedRoles& roles);
-    bool isImportWanted(const ExportFolder& folder, const std::vector<ImportEntry>& entries,
-                        const ImportedRoles& roles);
-    TransferResult sendImport(ImportTransfer& transfer, int steps);
-    void finishImport();
-    void failImport(const TransferResult& result, ImportTransfer& transfer);
-    QString notPutBackText(const ImportTransfer& transfer) const;
-    void offerPutBack(ImportTransfer& transfer);
-    bool putBack(ImportTransfer& transfer);
-    bool settleUnfinishedImport();
+    static const TransferTexts Texts; ///< of the override file
 
     std::unique_ptr<Ui::BusSettingWidget> ui;
     std::array<QComboBox*, BusSwitches::Count> m_combos{};
@@ -133,7 +116,6 @@ private:
     std::optional<Busy> m_busy;
     WaitNotice m_notice;
     ExitPermission m_exit;
-    ProgressDialog* m_progress = nullptr; ///< made on first use, a child of the page
 };
 
 #endif

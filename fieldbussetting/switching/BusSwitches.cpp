@@ -69,6 +69,15 @@ const std::array<RoleVariable, 7>& roleVariables()
     return table;
 }
 
+const char* mastersObjection(const States& on)
+{
+    return int(on[EipMaster]) + int(on[EtherCatMaster]) + int(on[PfnMaster]) < 2
+               ? nullptr
+               : QT_TRANSLATE_NOOP("BusSettingWidget",
+                                   "EthernetIP master EtherCat master and Profinet master cannot be "
+                                   "enabled at the same time!");
+}
+
 const char* freeConfigurationObjection(const QString& objectName, int index, bool freeBusOn,
                                        bool profisafePresent)
 {

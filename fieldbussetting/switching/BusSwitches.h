@@ -65,6 +65,13 @@ struct RoleVariable
 /// In the order in which they are written.
 const std::array<RoleVariable, 7>& roleVariables();
 
+/// Which roles are on.
+using States = std::array<bool, Count>;
+
+/// Why masters may not be on together; null when they may. The text is one of the page's context, as are
+/// those of the other rules.
+const char* mastersObjection(const States& on);
+
 /// Why a switch may not stand as it does beside the bus free configuration; null when it may. `objectName`
 /// is the switch's.
 const char* freeConfigurationObjection(const QString& objectName, int index, bool freeBusOn,

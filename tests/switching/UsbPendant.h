@@ -2,6 +2,7 @@
 #define TESTS_USBPENDANT_H
 
 #include "ApplicationSlot.h"
+#include "FileLocations.h"
 #include "Finger.h"
 #include "PendantFixture.h"
 #include "UsbDrive.h"
@@ -15,42 +16,12 @@
 /// The set by its names in an export folder, in the order in which it is fetched.
 inline const QStringList& exportedFiles()
 {
-    static const QStringList names = {"heartbeat.xml",
-                                      "fieldbus_config.xml",
-                                      "fieldbus.xml",
-                                      "signal_mapping.cfg",
-                                      "user_description.xml",
-                                      "user_groupio.cfg",
-                                      "devicenet/devicenetSlave.xml",
-                                      "eipMaster/eip_master.xml",
-                                      "pfnMaster/pfn_master.xml",
-                                      "fixed/description_fixed.xml",
-                                      "fixed/dns_fixed.cfg",
-                                      "fixed/fieldbus_fixed.xml",
-                                      "fixed/signal_mapping_fixed.cfg",
-                                      "fixed/modbus_fixed.cfg",
-                                      "fixed/pfb_fixed.cfg",
-                                      "fixed/dns0_fixed.cfg",
-                                      "free/description_free.xml",
-                                      "free/dns_free.cfg",
-                                      "free/fieldbus_free.xml",
-                                      "free/signal_mapping_free.cfg",
-                                      "free/modbus_free.cfg",
-                                      "free/pfb_free.cfg",
-                                      "free/dns0_free.cfg",
-                                      "rs232/rs232FileConfig.xml",
-                                      "SlaveConfig/EtherCAT/ABXS_ECT_V_3_28.xml",
-                                      "SlaveConfig/EthernetIP/kliklus_urmc_v2.eds",
-                                      "SlaveConfig/Profinet/GSDML-V2.33-Kliklus-RP2-20200520.xml",
-                                      "SlaveConfig/Devicenet/rbxm5034.eds",
-                                      "fa/modbus.cfg",
-                                      "fa/fbslave.cfgx",
-                                      "fa/dns-1.cfg",
-                                      "fa/dns0.cfg",
-                                      "fa/pfb.cfg",
-                                      "fa/dnmst0.cfg",
-                                      "pfs_description.xml",
-                                      "mtcpMaster/mtcp_master.xml"};
+    static const QStringList names = [] {
+        QStringList paths;
+        for (const TransferFile& file : FileLocations::transferSet())
+            paths << file.path;
+        return paths;
+    }();
     return names;
 }
 

@@ -64,6 +64,7 @@ private slots:
     void driveTakesNoMore_data();
     void driveTakesNoMore();
     void controllerDoesNotAnswer();
+    void anyFileCannotBeFetched();
     void cannotBeInterrupted();
     void userLevelDrops_data();
     void userLevelDrops();
@@ -269,6 +270,36 @@ void TestUsbExport::controllerDoesNotAnswer()
     QVERIFY(dialog->isVisible());
     QVERIFY(pendant.press("exitBtn"));
     QTRY_VERIFY(!dialog);
+}
+
+// The message and the log at each file. A staging folder that cannot be made fails a fetch at once, without
+// the seconds that a silent controller takes.
+void TestUsbExport::anyFileCannotBeFetched()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    QCOMPARE(pendant.runExport(), Success);
+    pendant.clearDrive();
+    const std::vector<TransferFile>& set = FileLocations::transferSet();
+    for (std::size_t i = 0; i < set.size(); ++i) {
+        const QString folder = QFileInfo(set[i].staging).path();
+        const auto block = [&] {
+            QDir(folder).removeRecursively();
+            QFile file(folder);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        };
+        if (i > 0)
+            pendant.atStep(static_cast<int>(i), block);
+        else
+            pendant.controller().faults().set(Faults::FetchFails, 30, set[i].controller);
+        UsbPendant::logged().clear();
+        QCOMPARE(pendant.runExport(), Failure);
+        QCOMPARE(UsbPendant::logged().filter("failed"),
+                 QStringList({QStringLiteral("Get fidbus %1 file failed!").arg(set[i].label),
+                              QStringLiteral("Bus failed to obtain file from controller!")}));
+        QVERIFY(pendant.folders().isEmpty());
+        QFile::remove(folder);
+    }
 }
 
 void TestUsbExport::cannotBeInterrupted()

@@ -1,5 +1,6 @@
 #include "UsbPendant.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 namespace {
@@ -9,6 +10,8 @@ const QString Imported = QStringLiteral("The imported configuration takes effect
                                         "Until then the pages may show the former one.");
 const QString NothingChanged = QStringLiteral("Nothing was changed on the controller.");
 const QString PutBack = QStringLiteral("The former files were put back.");
+const QString Unfinished = QStringLiteral("An earlier import was neither finished nor undone.\n"
+                                          "Put the former files of the controller back now?");
 const QString TryAgain = QStringLiteral("Try again to put the former files back?");
 
 bool write(const QString& path, const QByteArray& content)
@@ -39,6 +42,7 @@ private slots:
     void listsFolders();
     void refusedFolders();
     void takesOnlyPlainFilesOfTheSet();
+    void unlistedRolesGoOff();
     void roleRules_data();
     void roleRules();
     void profinetSlaveIsSwitchedOff();
@@ -47,6 +51,13 @@ private slots:
     void driveGoesAtEveryFile();
     void userLevelDropsAtEveryStep();
     void notPutBackIsToldAndKept();
+    void newFileStaysUntilItCanBeRemoved();
+    void fileThatCannotBeReadStays();
+    void formerFilesOutliveALeftPreview();
+    void buttonsRestDuringAPutBack();
+    void pendantCannotWrite_data();
+    void pendantCannotWrite();
+    void controllerChangesMeanwhile_data();
     void controllerChangesMeanwhile();
     void restartIsOffered();
 
@@ -264,23 +275,52 @@ void TestUsbImport::takesOnlyPlainFilesOfTheSet()
     QVERIFY(!pendant.controllerFile("/fa/override.cfg").contains("not of the set"));
 }
 
+// A role that the imported file does not list is off on the controller that gets it.
+void TestUsbImport::unlistedRolesGoOff()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.controller().files().write(
+        "/application/fidbus/fieldbus.xml",
+        roles({{"Mes", true}, {"DeviceNetSlave", true}, {"FinsTcp", false}})));
+    QVERIFY(pendant.open());
+    QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/fieldbus.xml",
+                  roles({{"EtherCatMaster", true}, {"Mes", true}})));
+    pendant.confirm = false;
+    pendant.runImport();
+    QCOMPARE(pendant.shownRoles,
+             (QMap<QString, QString>{
+                 {"Mes", "ON>ON"}, {"EtherCatMaster", "OFF>ON"}, {"DeviceNetSlave", "ON>OFF"}}));
+}
+
 void TestUsbImport::roleRules_data()
 {
+    QTest::addColumn<bool>("profisafe");
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("notice");
     const QString masters =
         "EthernetIP master EtherCat master and Profinet master cannot be enabled at the same time!";
     const QString deviceNet = "DeviceNet slave and DeviceNet master cannot be enabled at the same time!";
-    const auto row = [](const char* name, const QMap<QByteArray, bool>& on, const QString& notice) {
-        QTest::newRow(name) << QByteArray("fieldbus.xml") << roles(on) << notice;
+    const QString mtcp =
+        "If ModbusTcp Master switch is ON,\n the bus free configuration switch needs to be ON!";
+    const QString mtcpOrProfinet = "If ModbusTcp Master or Profinet Slave switch is ON,\n the bus free "
+                                   "configuration switch needs to be ON!";
+    const auto row = [](const char* name, const QMap<QByteArray, bool>& on, const QString& notice,
+                        bool profisafe = true) {
+        QTest::newRow(name) << profisafe << QByteArray("fieldbus.xml") << roles(on) << notice;
     };
     row("two masters", {{"EtherNetIPMaster", true}, {"EtherCatMaster", true}}, masters);
     row("the other two", {{"ProfinetMaster", true}, {"EtherCatMaster", true}}, masters);
     row("DeviceNet twice", {{"DeviceNetMaster", true}, {"DeviceNetSlave", true}}, deviceNet);
     row("one of each", {{"ProfinetMaster", true}, {"DeviceNetSlave", true}, {"DeviceNetMaster", false}}, "");
+    row("Modbus without free bus", {{"ModbusTcpMaster", true}, {"FreeBus", false}}, mtcp, false);
+    row("Modbus with it", {{"ModbusTcpMaster", true}, {"FreeBus", true}}, "", false);
+    row("ProfiSAFE, PROFINET without free bus", {{"ProfinetSlave", true}}, mtcpOrProfinet);
+    row("ProfiSAFE, Modbus without free bus", {{"ModbusTcpMaster", true}}, mtcpOrProfinet);
+    row("ProfiSAFE, both with it", {{"ProfinetSlave", true}, {"ModbusTcpMaster", true}, {"FreeBus", true}},
+        "");
     QTest::newRow("in the bus switch file")
-        << QByteArray("Fieldbus.cfg")
+        << true << QByteArray("Fieldbus.cfg")
         << QByteArray("<FieldbusSettingConfig><R name='EtherNetIPMaster'><enable>1</enable></R>"
                       "<R name='ProfinetMaster'><enable>1</enable></R></FieldbusSettingConfig>")
         << masters;
@@ -288,10 +328,12 @@ void TestUsbImport::roleRules_data()
 
 void TestUsbImport::roleRules()
 {
+    QFETCH(bool, profisafe);
     QFETCH(QByteArray, file);
     QFETCH(QByteArray, content);
     QFETCH(QString, notice);
     UsbPendant pendant;
+    pendant.controller().variables().set("io_man.profisafe_status", profisafe ? 1 : 0);
     QVERIFY(pendant.open());
     QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/" + file, content));
     pendant.controller().traffic().clear();
@@ -463,16 +505,189 @@ void TestUsbImport::notPutBackIsToldAndKept()
     QVERIFY(pendant.runImport() != PutBack); // and no second time
 }
 
-void TestUsbImport::controllerChangesMeanwhile()
+// A controller that cannot be reached does not say that a file is gone.
+void TestUsbImport::newFileStaysUntilItCanBeRemoved()
 {
     UsbPendant pendant;
     QVERIFY(pendant.open());
     putOtherRobot(pendant);
-    pendant.whilePreview = [&pendant] { pendant.vary("/fa/pfb.cfg", "by somebody else"); };
+    QVERIFY(pendant.controller().files().remove(controllerPath("heartbeat.xml")));
+    const UsbPendant::Bytes before = pendant.configuration();
+    // Down from the event-loop turn after the first file was sent and read back, until the first series of
+    // attempts to fetch it is over.
+    pendant.controller().setRestartDuration(240 * 1000);
+    pendant.whilePreview = [&] { pendant.atStep(3, [&] { pendant.controller().requestRestart(); }); };
+    QCOMPARE(pendant.runImport(), PutBack);
+    QVERIFY(pendant.stepReached());
+    QCOMPARE(pendant.messages(),
+             QStringList({"Import file failed!\nThe file fixed/dns_fixed.cfg could not be sent to "
+                          "the controller.\nThese files could not be put back:\n"
+                          "fixed/dns_fixed.cfg",
+                          TryAgain, PutBack}));
+    QVERIFY(pendant.configuration() == before);
+}
+
+// It was taken for one that the controller does not have: removing it could take away what was there before.
+void TestUsbImport::fileThatCannotBeReadStays()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    UsbPendant::Bytes before = pendant.configuration();
+    const QString path = controllerPath("fixed/dns_fixed.cfg");
+    pendant.controller().faults().set(Faults::FetchFails, -1, path);
     QCOMPARE(pendant.runImport(),
-             "Import file failed!\nThe file fa/pfb.cfg of the controller has changed meanwhile.\n" +
-                 NothingChanged);
-    QVERIFY(pendant.controllerFile("/fa/pfb.cfg").contains("by somebody else"));
+             QString("Import file failed!\nThe file fixed/dns_fixed.cfg could not be sent to the "
+                     "controller.\nThese files could not be put back:\nfixed/dns_fixed.cfg"));
+    QCOMPARE(pendant.shownFiles.value("fixed/dns_fixed.cfg"), QString("new"));
+    QVERIFY(pendant.controllerFile(path).contains("; other"));
+    before["fixed/dns_fixed.cfg"] = pendant.controllerFile(path);
+    QVERIFY(pendant.configuration() == before);
+    // There is nothing more that could be tried.
+    pendant.controller().faults().clearAll();
+    pendant.confirm = false;
+    const int told = pendant.messages().size();
+    pendant.runImport();
+    QCOMPARE(pendant.messages().size(), told);
+}
+
+// Declining to put back is final only when a new import begins.
+void TestUsbImport::formerFilesOutliveALeftPreview()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    pendant.controller().faults().set(Faults::SendFails, -1, QString(), 2);
+    pendant.declined << TryAgain << Unfinished;
+    pendant.runImport();
+    pendant.controller().faults().clearAll();
+    QVERIFY(pendant.configuration() != before);
+
+    const auto leave = [] {};
+    const auto cannotBegin = [] { write("../Application/fidbus/import-present/unfinished/in the way", "x"); };
+    pendant.confirm = false;
+    for (const std::function<void()>& act :
+         {std::function<void()>(leave), std::function<void()>(cannotBegin)}) {
+        pendant.whilePreview = act;
+        pendant.runImport();
+        QVERIFY(pendant.couldConfirm);
+        pendant.confirm = true;
+    }
+    QVERIFY2(pendant.messages().constLast().endsWith("could not be written.\n" + NothingChanged),
+             qPrintable(pendant.messages().constLast()));
+    pendant.declined.removeAll(Unfinished);
+    QCOMPARE(pendant.runImport(), PutBack);
+    QVERIFY(pendant.configuration() == before);
+}
+
+// Input is blocked for fingers; a key gets through to the button that has the focus.
+void TestUsbImport::buttonsRestDuringAPutBack()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    pendant.controller().faults().set(Faults::SendFails, -1, QString(), 2);
+    pendant.declined << TryAgain;
+    pendant.runImport();
+    pendant.controller().faults().clearAll();
+
+    pendant.controller().faults().set(Faults::FetchFails, 5); // half a second
+    const int told = pendant.messages().size();
+    int pressed = 0;
+    QTimer keys;
+    QObject::connect(&keys, &QTimer::timeout, [&] {
+        if (pendant.controller().faults().timesLeft(Faults::FetchFails) == 0 ||
+            pendant.messages().size() == told)
+            return;
+        for (const char* button : {"btn_import", "btn_export", "saveBusBt"}) {
+            QTest::keyClick(pendant.find(button), Qt::Key_Space);
+            ++pressed;
+        }
+    });
+    keys.start(50);
+    QCOMPARE(pendant.runImport(), PutBack);
+    QVERIFY(pressed > 0);
+    QCOMPARE(pendant.messages().mid(told), QStringList({Unfinished, PutBack}));
+    QVERIFY(pendant.configuration() == before);
+}
+
+void TestUsbImport::pendantCannotWrite_data()
+{
+    QTest::addColumn<QString>("inTheWay"); // a file, or a directory when it ends so
+    QTest::addColumn<bool>("later");
+    QTest::newRow("the copies") << "import" << false;
+    QTest::newRow("the present files") << "import-present" << false;
+    QTest::newRow("the journal") << "import-present/unfinished/" << true;
+}
+
+void TestUsbImport::pendantCannotWrite()
+{
+    QFETCH(QString, inTheWay);
+    QFETCH(bool, later);
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    const QString path = "../Application/fidbus/" + inTheWay;
+    const auto block = [&] { QVERIFY(write(path + (path.endsWith('/') ? "file" : ""), "x")); };
+    if (later)
+        pendant.whilePreview = block;
+    else
+        block();
+    const QString last = pendant.runImport();
+    QVERIFY2(
+        QRegularExpression("^Import file failed!\nThe file ../Application/fidbus/import\\S* of the pendant "
+                           "could not be written.\n" +
+                           NothingChanged + '$')
+            .match(last)
+            .hasMatch(),
+        qPrintable(last));
+    QVERIFY(pendant.configuration() == before);
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
+}
+
+void TestUsbImport::controllerChangesMeanwhile_data()
+{
+    QTest::addColumn<QString>("what");
+    QTest::addColumn<QString>("reason");
+    const QString changed = "The file fa/pfb.cfg of the controller has changed meanwhile.";
+    const QString notFetched = "The file %1 could not be fetched from the controller.";
+    QTest::newRow("changed") << "changed" << changed;
+    QTest::newRow("new one comes") << "comes" << changed;
+    QTest::newRow("unreachable") << "unreachable" << notFetched.arg("heartbeat.xml");
+    QTest::newRow("unreachable at a new one") << "unreachable, new" << notFetched.arg("heartbeat.xml");
+    QTest::newRow("unreachable before") << "before" << notFetched.arg("heartbeat.xml");
+}
+
+void TestUsbImport::controllerChangesMeanwhile()
+{
+    QFETCH(QString, what);
+    QFETCH(QString, reason);
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    Faults& faults = pendant.controller().faults();
+    const QByteArray content = pendant.controllerFile("/fa/pfb.cfg");
+    if (what == "comes")
+        QVERIFY(pendant.controller().files().remove("/fa/pfb.cfg"));
+    if (what == "unreachable, new")
+        QVERIFY(pendant.controller().files().remove(controllerPath("heartbeat.xml")));
+    if (what == "before")
+        faults.set(Faults::FetchFails);
+    pendant.whilePreview = [&] {
+        if (what == "changed" || what == "comes")
+            pendant.controller().files().write("/fa/pfb.cfg", content + "; by somebody else\n");
+        else
+            faults.set(Faults::FetchFails);
+    };
+    UsbPendant::Bytes before = pendant.configuration();
+    const QString last = pendant.runImport();
+    QCOMPARE(last, "Import file failed!\n" + reason + '\n' + NothingChanged);
+    if (what == "changed" || what == "comes")
+        before["fa/pfb.cfg"] = content + "; by somebody else\n";
+    QVERIFY(pendant.configuration() == before);
     QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
 }
 

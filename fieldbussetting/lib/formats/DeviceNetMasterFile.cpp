@@ -146,13 +146,9 @@ public:
     {
     }
 
-    /// Whether anything of a scan list was seen; what is none may be any file, or noise.
-    bool isScanList() const { return m_isScanList; }
-
     bool operator()(std::string_view line, std::string_view /*end*/)
     {
         m_isBelowHeader |= TextTemplate::contains(line, Marker);
-        m_isScanList |= m_isBelowHeader;
         const std::size_t macId = line.find(MacIdKeyword);
         // Blocks in a header are the controller's prose: they come through a write as they are, and must not
         // appear a second time.
@@ -168,12 +164,10 @@ public:
             return true;
         }
         const std::vector<std::string_view> words = lineWords(line);
-        if (m_device) {
+        if (m_device)
             readDeviceLine(words, *m_device);
-        } else if (const Field<Master>* setting = settingOf(words)) {
-            m_isScanList = true;
-            readField(setting, words, m_record);
-        }
+        else
+            readField(settingOf(words), words, m_record);
         return true;
     }
 
@@ -181,8 +175,18 @@ private:
     Master& m_record;
     Device* m_device = nullptr;
     bool m_isBelowHeader = false;
-    bool m_isScanList = false;
 };
+
+// Without marker and setting it may be any file, or noise: a write would keep that as the header.
+bool isScanList(const QByteArray& content)
+{
+    bool found = false;
+    TextTemplate::forEachLine(content, [&found](std::string_view line, std::string_view /*end*/) {
+        found = TextTemplate::contains(line, Marker) || settingOf(lineWords(line));
+        return !found;
+    });
+    return found;
+}
 
 QByteArray rewrittenHeader(const QByteArray& content, const Master& record)
 {
@@ -256,27 +260,20 @@ void DeviceNetMasterConfig::layOutRegisters()
     }
 }
 
-// A keyword that the file lacks leaves its setting as it was; the devices are always those of the file. A
-// file without marker and keyword is refused: a save would keep it as the header, and send it.
+// A keyword that the file lacks leaves its setting as it was; the devices are always those of the file.
 bool HandleBusFiles::readDeviceNetMasterFile(const QString& path, DeviceNetMasterConfig& record)
 {
     QByteArray content;
-    if (!WholeFile::read(path, content) || content.isEmpty())
+    if (!WholeFile::read(path, content) || !isScanList(content))
         return false;
-    DeviceNetMasterConfig read = record;
-    read.count = 0;
-    read.devices = {};
-    Reader reader(read);
-    TextTemplate::forEachLine(
-        content, [&reader](std::string_view line, std::string_view end) { return reader(line, end); });
-    if (!reader.isScanList())
-        return false;
-    record = read;
+    record.count = 0;
+    record.devices = {};
+    TextTemplate::forEachLine(content, Reader(record));
     return true;
 }
 
 // The header is the controller's, and a file without one could not carry the master's own settings: an empty
-// copy, as a broken transfer leaves it, must not become a file that is sent.
+// copy or noise, as a broken transfer leaves it, must not become a file that is sent.
 bool HandleBusFiles::writeDeviceNetMasterFile(const QString& path, DeviceNetMasterConfig& record)
 {
     const QString oldCopy = FileLocations::workingDirectory() + QLatin1String("/test1.txt");
@@ -285,7 +282,7 @@ bool HandleBusFiles::writeDeviceNetMasterFile(const QString& path, DeviceNetMast
     QFile::remove(newCopy);
     const QString current = QFile::exists(path) ? path : FileLocations::of(ConfigFile::DeviceNetMaster).local;
     QByteArray content;
-    if (!QFile::copy(current, oldCopy) || !WholeFile::read(oldCopy, content))
+    if (!QFile::copy(current, oldCopy) || !WholeFile::read(oldCopy, content) || !isScanList(content))
         return false;
     const QByteArray header = rewrittenHeader(content, record);
     if (header.isEmpty())

@@ -8,6 +8,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QLocale>
 
 #include <utility>
 
@@ -82,7 +83,7 @@ TransferResult ConfigExport::fetch(const TransferFile& file)
         return {TransferResult::DriveGone, QLatin1String(file.label)};
     for (int attempt = 0; attempt < FetchTries; ++attempt) {
         const bool fetched =
-            FieldbusSettingLib::getInstance()->getFileFromCtrl(file.staging, QLatin1String(file.controller));
+            FieldbusSettingLib::getInstance()->getFileFromCtrl(file.staging, file.controller);
         if (fetched)
             return stepped();
         if (m_watch.isWanted())
@@ -96,7 +97,9 @@ TransferResult ConfigExport::fetch(const TransferFile& file)
 
 TransferResult ConfigExport::writeAll()
 {
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_hhmmss"));
+    // Digits that every pendant and computer reads, whatever the language is set to.
+    const QString time =
+        QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("yyyyMMdd_hhmmss"));
     const QString target = m_drive + QStringLiteral("/fidbus_%1").arg(time);
     TransferResult result = makeFolder(target);
     for (const char* folder : Folders) {

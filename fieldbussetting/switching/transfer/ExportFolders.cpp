@@ -3,6 +3,7 @@
 #include "ImportSet.h"
 
 #include <QDir>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -13,7 +14,7 @@ const QString Prefix = QStringLiteral("fidbus_");
 QDateTime timeOf(const QFileInfo& folder)
 {
     const QDateTime named =
-        QDateTime::fromString(folder.fileName().mid(Prefix.size()), QStringLiteral("yyyyMMdd_hhmmss"));
+        QLocale::c().toDateTime(folder.fileName().mid(Prefix.size()), QStringLiteral("yyyyMMdd_hhmmss"));
     return named.isValid() ? named : folder.lastModified();
 }
 

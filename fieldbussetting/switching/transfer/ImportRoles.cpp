@@ -1,6 +1,7 @@
 #include "ImportRoles.h"
 
 #include "BusFileDataManager.h"
+#include "BusSwitches.h"
 #include "FieldbusSettingLib.h"
 #include "RoleListFile.h"
 
@@ -8,61 +9,79 @@
 
 #include <algorithm>
 
-namespace {
+using namespace BusSwitches;
 
-// The roles that rules are about, as each of the two files tells of them.
-struct RuledRoles
-{
-    bool eipMaster;
-    bool etherCatMaster;
-    bool profinetMaster;
-    bool deviceNetSlave;
-    bool deviceNetMaster;
-};
+namespace {
 
 const QString ProfinetSlave = QStringLiteral("ProfinetSlave");
 
-bool isOn(const std::vector<ListedRole>& roles, const char* name)
+bool isOn(const std::vector<ListedRole>& roles, const QString& name)
 {
-    return std::any_of(roles.begin(), roles.end(), [name](const ListedRole& role) {
-        return role.on && role.name == QLatin1String(name);
-    });
+    return std::any_of(roles.begin(), roles.end(),
+                       [&name](const ListedRole& role) { return role.on && role.name == name; });
 }
 
-RuledRoles ruled(const std::vector<ListedRole>& roles)
+States switchedOn(const std::vector<ListedRole>& roles)
 {
-    return {isOn(roles, "EtherNetIPMaster"), isOn(roles, "EtherCatMaster"), isOn(roles, "ProfinetMaster"),
-            isOn(roles, "DeviceNetSlave"), isOn(roles, "DeviceNetMaster")};
+    States on{};
+    for (int i = 0; i < Count; ++i)
+        on[i] = isOn(roles, QLatin1String(rows()[i].busName));
+    return on;
 }
 
-RuledRoles ruled(const BusSwitchSet& switches)
+States switchedOn(const BusSwitchSet& set)
 {
-    return {switches.EtherNetIPMaster, switches.EtherCatMaster, switches.ProfinetMaster,
-            switches.DeviceNetSlave, switches.DeviceNetMaster};
+    States on{};
+    on[EipMaster] = set.EtherNetIPMaster;
+    on[EtherCatMaster] = set.EtherCatMaster;
+    on[PfnMaster] = set.ProfinetMaster;
+    on[PfnSlave] = set.ProfinetSlave;
+    on[DeviceNetSlave] = set.DeviceNetSlave;
+    on[DeviceNetMaster] = set.DeviceNetMaster;
+    on[MtcpMaster] = set.ModbusTcpMaster;
+    on[FreeBus] = set.FreeBus;
+    return on;
 }
 
-void checkRules(const RuledRoles& roles, QStringList& broken)
+// As the page's save checks them. The page never lets both DeviceNet roles be on, so it has no such text.
+void checkRules(const States& on, bool profisafePresent, QStringList& broken)
 {
     const auto add = [&broken](const char* text) {
-        const QString rule = QCoreApplication::translate("ImportRoles", text);
+        const QString rule = QCoreApplication::translate("BusSettingWidget", text);
         if (!broken.contains(rule))
             broken << rule;
     };
-    if (int(roles.eipMaster) + int(roles.etherCatMaster) + int(roles.profinetMaster) > 1)
-        add(QT_TRANSLATE_NOOP("ImportRoles",
-                              "EthernetIP master EtherCat master and Profinet master cannot be "
-                              "enabled at the same time!"));
-    if (roles.deviceNetSlave && roles.deviceNetMaster)
-        add(QT_TRANSLATE_NOOP("ImportRoles",
+    if (const char* objection = mastersObjection(on))
+        add(objection);
+    if (on[DeviceNetSlave] && on[DeviceNetMaster])
+        add(QT_TRANSLATE_NOOP("BusSettingWidget",
                               "DeviceNet slave and DeviceNet master cannot be enabled at the same time!"));
+    for (const Switch which : {PfnSlave, MtcpMaster}) {
+        const char* objection = freeConfigurationObjection(
+            QLatin1String(rows()[which].objectName), on[which] ? On : Off, on[FreeBus], profisafePresent);
+        if (objection)
+            add(objection);
+    }
 }
 
-bool planRoleList(const QString& path, bool profinetSlaveAllowed, ImportedRoles& plan)
+// What is on at present and not listed goes off.
+void planUnlisted(const QMap<QString, BusName>& present, std::vector<ImportedRole>& roles)
+{
+    for (const BusName& role : present) {
+        const bool isListed = std::any_of(roles.begin(), roles.end(), [&role](const ImportedRole& known) {
+            return known.name == role.name;
+        });
+        if (role.enabled && !isListed)
+            roles.push_back({role.name, true, false});
+    }
+}
+
+bool planRoleList(const QString& path, RoleConditions conditions, ImportedRoles& plan)
 {
     std::vector<ListedRole> listed;
     if (!RoleListFile::read(path, listed))
         return false;
-    if (!profinetSlaveAllowed && isOn(listed, "ProfinetSlave")) {
+    if (!conditions.profinetSlaveAllowed && isOn(listed, ProfinetSlave)) {
         if (!RoleListFile::switchOff(path, ProfinetSlave) || !RoleListFile::read(path, listed))
             return false;
         plan.profinetSlaveSwitchedOff = true;
@@ -70,38 +89,39 @@ bool planRoleList(const QString& path, bool profinetSlaveAllowed, ImportedRoles&
     const QMap<QString, BusName> present = BusFileDataManager::getInstance()->getAllBusName();
     for (const ListedRole& role : listed)
         plan.roles.push_back({role.name, present.value(role.name).enabled, role.on});
-    checkRules(ruled(listed), plan.brokenRules);
+    planUnlisted(present, plan.roles);
+    checkRules(switchedOn(listed), conditions.profisafePresent, plan.brokenRules);
     return true;
 }
 
-bool planSwitchFile(const QString& path, bool profinetSlaveAllowed, ImportedRoles& plan)
+bool planSwitchFile(const QString& path, RoleConditions conditions, ImportedRoles& plan)
 {
     FieldbusSettingLib* lib = FieldbusSettingLib::getInstance();
     // Reading keeps the PROFINET master of the file before, which was another robot's.
     lib->importSwitches = BusSwitchSet();
     if (!lib->readFieldbusCfg(path, true))
         return false;
-    if (!profinetSlaveAllowed && lib->importSwitches.ProfinetSlave) {
+    if (!conditions.profinetSlaveAllowed && lib->importSwitches.ProfinetSlave) {
         if (!lib->writeFieldbusCfg(path, true) || !lib->readFieldbusCfg(path, true))
             return false;
         plan.profinetSlaveSwitchedOff = true;
     }
-    checkRules(ruled(lib->importSwitches), plan.brokenRules);
+    checkRules(switchedOn(lib->importSwitches), conditions.profisafePresent, plan.brokenRules);
     return true;
 }
 
 } // namespace
 
-bool planRoles(const std::vector<ImportEntry>& entries, bool profinetSlaveAllowed, ImportedRoles& plan)
+bool planRoles(const std::vector<ImportEntry>& entries, RoleConditions conditions, ImportedRoles& plan)
 {
     plan = {};
     for (const ImportEntry& entry : entries) {
         const ImportFile& file = *entry.file;
         if (!entry.isBrought())
             continue;
-        if (file.listsRoles && !planRoleList(file.staged(), profinetSlaveAllowed, plan))
+        if (file.listsRoles && !planRoleList(file.staged(), conditions, plan))
             return false;
-        if (file.optional && !planSwitchFile(file.staged(), profinetSlaveAllowed, plan))
+        if (file.optional && !planSwitchFile(file.staged(), conditions, plan))
             return false;
     }
     return true;

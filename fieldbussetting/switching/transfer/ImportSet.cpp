@@ -12,52 +12,12 @@ namespace {
 // The service that reads them refuses larger ones as well.
 constexpr qint64 LargestFile = qint64(4) * 1024 * 1024;
 
-struct Root
-{
-    const char* file;
-    const char* element;
-};
-
-// What is not listed is a text file.
-constexpr Root Roots[] = {
-    {"heartbeat.xml", "Fidbus"},
-    {"fieldbus_config.xml", "FieldbusConfig"},
-    {"fieldbus.xml", "Fieldbus"},
-    {"user_description.xml", "UserDescription"},
-    {"pfs_description.xml", "ProfiSafe"},
-    {"devicenetSlave.xml", "devicenet"},
-    {"eip_master.xml", "EipMasterCommunication"},
-    {"pfn_master.xml", "PfnMasterCommunication"},
-    {"mtcp_master.xml", "MtcpMasterCommunication"},
-    {"description_fixed.xml", "Description"},
-    {"fieldbus_fixed.xml", "Fieldbus"},
-    {"description_free.xml", "Description"},
-    {"fieldbus_free.xml", "Fieldbus"},
-    {"rs232FileConfig.xml", "Rs232Config"},
-    {"ABXS_ECT_V_3_28.xml", "EtherCATInfo"},
-    {"GSDML-V2.33-Kliklus-RP2-20200520.xml", "ISO15745Profile"},
-    {"fbslave.cfgx", "FbSlave"},
-};
-
-const char* rootOf(const char* name)
-{
-    for (const Root& root : Roots) {
-        if (qstrcmp(root.file, name) == 0)
-            return root.element;
-    }
-    return nullptr;
-}
-
 std::vector<ImportFile> makeImportSet()
 {
     std::vector<ImportFile> set;
-    for (const TransferFile& file : FileLocations::transferSet()) {
-        const QString folder = QLatin1String(file.folder);
-        const QString name = QLatin1String(file.name);
-        set.push_back({folder.isEmpty() ? name : folder + QLatin1Char('/') + name,
-                       QLatin1String(file.controller), rootOf(file.name), false,
-                       qstrcmp(file.controller, FileLocations::FieldbusXml) == 0});
-    }
+    for (const TransferFile& file : FileLocations::transferSet())
+        set.push_back({file.path, file.controller, file.xmlRoot, false,
+                       file.controller == QLatin1String(FileLocations::FieldbusXml)});
     set.push_back({QStringLiteral("Fieldbus.cfg"), FileLocations::of(ConfigFile::BusSwitch).controller,
                    "FieldbusSettingConfig", true});
     return set;
@@ -77,6 +37,11 @@ QString ImportFile::staged() const
     return importDirectory() + QLatin1Char('/') + name;
 }
 
+QString ImportFile::present() const
+{
+    return presentDirectory() + QLatin1Char('/') + name;
+}
+
 QString ImportFile::kept() const
 {
     return keptDirectory() + QLatin1Char('/') + name;
@@ -91,6 +56,13 @@ const std::vector<ImportFile>& importSet()
 const QString& importDirectory()
 {
     static const QString path = ZelGetLocalizedFileName(QStringLiteral("../Application/fidbus/import"), 1);
+    return path;
+}
+
+const QString& presentDirectory()
+{
+    static const QString path =
+        ZelGetLocalizedFileName(QStringLiteral("../Application/fidbus/import-present"), 1);
     return path;
 }
 
@@ -114,7 +86,7 @@ TransferResult copyFromDrive(const QString& drive, const QString& folder, Transf
 {
     entries.clear();
     if (!prepareImportDirectory(importDirectory()))
-        return {TransferResult::DriveFailed, importDirectory()};
+        return {TransferResult::LocalFailed, importDirectory()};
     for (const ImportFile& file : importSet()) {
         if (!DriveFiles::isThere(drive))
             return {TransferResult::DriveGone, file.name};

@@ -16,15 +16,17 @@ struct ImportFile
     bool optional = false;   ///< not of the transfer set: imported when the folder carries it
     bool listsRoles = false; ///< fieldbus.xml
     QString staged() const;  ///< its copy in the import directory
+    QString present() const; ///< the controller's present file, as it was fetched for the preview
     QString kept() const;    ///< the controller's former file, kept to be put back
 };
 
 /// The transfer set in its order, then the bus switch file, which folders of other origin carry.
 const std::vector<ImportFile>& importSet();
 
-/// Directories of an import, beside the staging directory of the export. What was kept stays there until the
-/// next import.
+/// Directories of an import, beside the staging directory of the export. What is present becomes what is kept
+/// when sending begins: until then the files that an earlier import has kept stay.
 const QString& importDirectory();
+const QString& presentDirectory();
 const QString& keptDirectory();
 
 /// Clears one of these directories and makes the folders of the import set in it.

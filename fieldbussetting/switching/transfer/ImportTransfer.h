@@ -20,11 +20,13 @@ public:
     ImportTransfer(const ImportTransfer&) = delete;
     ImportTransfer& operator=(const ImportTransfer&) = delete;
 
-    /// Fetches the controller's present files, keeps them, and says in the entries what would change.
-    TransferResult keep(TransferWatch& watch);
-    /// Fetches them once more: whether they are what was kept, and what the operator was shown.
-    TransferResult confirmKept(TransferWatch& watch);
-    /// Sends what would change, and reads back what arrived.
+    /// Fetches the controller's present files, and says in the entries what would change. What an earlier
+    /// import has kept stays.
+    TransferResult fetchPresent(TransferWatch& watch);
+    /// Fetches them once more: whether they are what the operator was shown.
+    TransferResult confirmPresent(TransferWatch& watch);
+    /// Keeps the present files, sends what would change, and reads back what arrived. Nothing was sent when
+    /// it ends with `LocalFailed`: what is to be put back could not be written to the disk.
     TransferResult send(TransferWatch& watch);
     /// The files that were sent stay.
     void finish();
@@ -32,9 +34,11 @@ public:
     void leaveUnfinished() { m_sent.clear(); }
     /// Whether anything was sent that is neither finished nor put back.
     bool hasSent() const { return !m_sent.empty(); }
-    /// Puts the former files back, the last one first. False when some could not be; may be tried again.
+    /// Puts the former files back, the last one first. False when some could not be; may be tried again while
+    /// `hasSent()`.
     bool putBack();
-    /// Names of the files that are still to be put back.
+    /// Names of the files that are not put back, also of one that never will be: whether the controller had
+    /// it before cannot be told.
     QStringList notPutBack() const;
 
     /// The files of an import that was neither finished nor undone, from its journal; none when there is no
@@ -44,10 +48,14 @@ public:
     void resume();
 
 private:
-    bool writeJournal() const;
+    TransferResult beginJournal();
+    static bool writeJournal(const std::vector<const ImportEntry*>& entries);
+    bool sendOne(const ImportEntry& entry);
 
     std::vector<ImportEntry>& m_entries;
     std::vector<const ImportEntry*> m_sent; ///< the one that failed on the way too: it may have arrived
+    const ImportEntry* m_unreadable = nullptr;
+    QStringList m_remaining; ///< of what was sent, without a way back
 };
 
 #endif

@@ -11,6 +11,7 @@ struct TransferResult
         DriveGone,   ///< the drive is not reachable under its path any more
         DriveFailed, ///< a folder or file of the drive could not be written or read
         FetchFailed, ///< a file did not come from the controller
+        LocalFailed, ///< a folder or file of the pendant could not be written
         Changed,     ///< a file of the controller is not what it was shortly before
         SendFailed,  ///< a file did not reach the controller
         Unwanted     ///< nobody is left who wants the result

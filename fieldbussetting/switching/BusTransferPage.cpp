@@ -1,5 +1,4 @@
-// The two buttons of the page that carry the whole bus configuration to a USB drive and back.
-#include "BusSettingWidget.h"
+#include "BusTransferPage.h"
 
 #include "BusFileDataManager.h"
 #include "ConfigExport.h"
@@ -21,20 +20,24 @@ constexpr int ImportAtTheEnd = 99; // of the progress bar
 // Why a transfer failed, by TransferResult::Code. Nothing where there is nobody to tell.
 constexpr const char* Reasons[] = {
     nullptr,
-    QT_TRANSLATE_NOOP("BusSettingWidget", "The USB drive was removed."),
-    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be read."),
-    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be fetched from the controller."),
-    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 of the controller has changed meanwhile."),
-    QT_TRANSLATE_NOOP("BusSettingWidget", "The file %1 could not be sent to the controller."),
+    QT_TRANSLATE_NOOP("BusTransferPage", "The USB drive was removed."),
+    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be read."),
+    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be fetched from the controller."),
+    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 of the pendant could not be written."),
+    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 of the controller has changed meanwhile."),
+    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be sent to the controller."),
     nullptr,
 };
 static_assert(std::size(Reasons) == TransferResult::Unwanted + 1, "a row a code");
+
+// What was sent is put back also when its page has gone.
+bool transferring = false;
 
 QString listed(const QStringList& lines)
 {
     QStringList shown = lines.mid(0, LongestList);
     if (lines.size() > shown.size())
-        shown << BusSettingWidget::tr("... and %1 more").arg(lines.size() - shown.size());
+        shown << BusTransferPage::tr("... and %1 more").arg(lines.size() - shown.size());
     return shown.join(QLatin1Char('\n'));
 }
 
@@ -52,16 +55,40 @@ bool isAccepted(Dialog* made, const Chosen& chosen)
 
 } // namespace
 
-ProgressDialog* BusSettingWidget::progressDialog()
+ProgressDialog* BusTransferPage::progressDialog()
 {
     if (!m_progress)
         m_progress = new ProgressDialog(this);
     return m_progress;
 }
 
-void BusSettingWidget::on_btn_export_clicked()
+void BusTransferPage::on_btn_import_clicked()
 {
-    if (m_busy || !checkServoOff())
+    transferOnce(&BusTransferPage::importFromDrive);
+}
+
+void BusTransferPage::on_btn_export_clicked()
+{
+    transferOnce(&BusTransferPage::exportToDrive);
+}
+
+void BusTransferPage::transferOnce(void (BusTransferPage::*transfer)())
+{
+    if (isSaving() || transferring)
+        return;
+    transferring = true;
+    (this->*transfer)();
+    transferring = false;
+}
+
+bool BusTransferPage::isTransferring()
+{
+    return transferring;
+}
+
+void BusTransferPage::exportToDrive()
+{
+    if (!checkServoOff())
         return;
     if (!confirmed(tr("Do you want to export the current robot\n bus related configuration file to the USB "
                       "drive?")))
@@ -90,9 +117,9 @@ void BusSettingWidget::on_btn_export_clicked()
         tell(MsgBox::Error, tr("Export file failed!"));
 }
 
-void BusSettingWidget::on_btn_import_clicked()
+void BusTransferPage::importFromDrive()
 {
-    if (m_busy || !checkServoOff() || !settleUnfinishedImport())
+    if (!checkServoOff() || !settleUnfinishedImport())
         return;
     const QString drive = ZelGetUSBDrives();
     if (drive.isEmpty()) {
@@ -110,7 +137,7 @@ void BusSettingWidget::on_btn_import_clicked()
         importFolder(drive, folders[static_cast<std::size_t>(chosen)]);
 }
 
-void BusSettingWidget::importFolder(const QString& drive, const ExportFolder& folder)
+void BusTransferPage::importFolder(const QString& drive, const ExportFolder& folder)
 {
     std::vector<ImportEntry> entries;
     ImportedRoles roles;
@@ -118,7 +145,7 @@ void BusSettingWidget::importFolder(const QString& drive, const ExportFolder& fo
     if (!prepareImport(drive, folder, transfer, entries, roles) || !isImportWanted(folder, entries, roles) ||
         !checkServoOff())
         return;
-    const QPointer<BusSettingWidget> self(this);
+    const QPointer<BusTransferPage> self(this);
     const TransferResult result = sendImport(transfer, 2 * static_cast<int>(entries.size()) + 1);
     if (!self)
         return; // what was sent is put back when the transfer goes
@@ -129,9 +156,9 @@ void BusSettingWidget::importFolder(const QString& drive, const ExportFolder& fo
 }
 
 // Up to the preview: nothing is sent yet.
-bool BusSettingWidget::prepareImport(const QString& drive, const ExportFolder& folder,
-                                     ImportTransfer& transfer, std::vector<ImportEntry>& entries,
-                                     ImportedRoles& roles)
+bool BusTransferPage::prepareImport(const QString& drive, const ExportFolder& folder,
+                                    ImportTransfer& transfer, std::vector<ImportEntry>& entries,
+                                    ImportedRoles& roles)
 {
     Busy busy(this);
     TransferProgress progress(progressDialog(), tr("Importing..."), 2 * static_cast<int>(importSet().size()));
@@ -139,10 +166,10 @@ bool BusSettingWidget::prepareImport(const QString& drive, const ExportFolder& f
     QStringList faults;
     if (result.isDone()) {
         faults = judgeImport(entries);
-        if (faults.isEmpty() && !planRoles(entries, canHaveProfinetSlave(), roles))
+        if (faults.isEmpty() && !planRoles(entries, roleConditions(), roles))
             faults << tr("Its bus switches cannot be read.");
         if (faults.isEmpty())
-            result = transfer.keep(progress);
+            result = transfer.fetchPresent(progress);
     }
     if (!progress.isWanted())
         return false;
@@ -155,18 +182,18 @@ bool BusSettingWidget::prepareImport(const QString& drive, const ExportFolder& f
     return result.isDone() && faults.isEmpty();
 }
 
-bool BusSettingWidget::isImportWanted(const ExportFolder& folder, const std::vector<ImportEntry>& entries,
-                                      const ImportedRoles& roles)
+bool BusTransferPage::isImportWanted(const ExportFolder& folder, const std::vector<ImportEntry>& entries,
+                                     const ImportedRoles& roles)
 {
     return isAccepted(new ImportPreviewDialog(folder.name, entries, roles, this),
                       [](const ImportPreviewDialog& /*dialog*/) {});
 }
 
-TransferResult BusSettingWidget::sendImport(ImportTransfer& transfer, int steps)
+TransferResult BusTransferPage::sendImport(ImportTransfer& transfer, int steps)
 {
     const Busy busy(this);
     TransferProgress progress(progressDialog(), tr("Importing..."), steps);
-    TransferResult result = transfer.confirmKept(progress);
+    TransferResult result = transfer.confirmPresent(progress);
     if (result.isDone())
         result = transfer.send(progress);
     if (result.isDone()) {
@@ -178,10 +205,10 @@ TransferResult BusSettingWidget::sendImport(ImportTransfer& transfer, int steps)
     return result;
 }
 
-void BusSettingWidget::finishImport()
+void BusTransferPage::finishImport()
 {
     // The service holds what it read before, and would write that back with the next save.
-    const QPointer<BusSettingWidget> self(this);
+    const QPointer<BusTransferPage> self(this);
     BusFileDataManager::getInstance()->emitGetFieldXml();
     if (self)
         BusFileDataManager::getInstance()->emitGetFieldbusCfg();
@@ -192,7 +219,7 @@ void BusSettingWidget::finishImport()
         if (Restart::isAllowed())
             Restart::perform(Restart::Way::WhenAllowed);
         else
-            tell(MsgBox::Information, tr("Please manually power off and restart the robot!"));
+            tellRestarted(false);
         break;
     case Answer::Gone:
         break;
@@ -203,9 +230,9 @@ void BusSettingWidget::finishImport()
     }
 }
 
-void BusSettingWidget::failImport(const TransferResult& result, ImportTransfer& transfer)
+void BusTransferPage::failImport(const TransferResult& result, ImportTransfer& transfer)
 {
-    const QString outcome = transfer.hasSent() ? notPutBackText(transfer)
+    const QString outcome = !transfer.notPutBack().isEmpty() ? notPutBackText(transfer)
                             : result.code == TransferResult::SendFailed
                                 ? tr("The former files were put back.")
                                 : tr("Nothing was changed on the controller.");
@@ -215,13 +242,13 @@ void BusSettingWidget::failImport(const TransferResult& result, ImportTransfer& 
         offerPutBack(transfer);
 }
 
-QString BusSettingWidget::notPutBackText(const ImportTransfer& transfer) const
+QString BusTransferPage::notPutBackText(const ImportTransfer& transfer) const
 {
     return tr("These files could not be put back:\n%1").arg(listed(transfer.notPutBack()));
 }
 
 // For as long as something is to be put back and the operator wants to try.
-void BusSettingWidget::offerPutBack(ImportTransfer& transfer)
+void BusTransferPage::offerPutBack(ImportTransfer& transfer)
 {
     while (transfer.hasSent()) {
         const Answer answer = ask(tr("Try again to put the former files back?"), MsgBox::YesNo);
@@ -234,9 +261,9 @@ void BusSettingWidget::offerPutBack(ImportTransfer& transfer)
     }
 }
 
-bool BusSettingWidget::putBack(ImportTransfer& transfer)
+bool BusTransferPage::putBack(ImportTransfer& transfer)
 {
-    const QPointer<BusSettingWidget> self(this);
+    const QPointer<BusTransferPage> self(this);
     Busy busy(this);
     const bool isBack = transfer.putBack();
     if (!self)
@@ -246,7 +273,7 @@ bool BusSettingWidget::putBack(ImportTransfer& transfer)
                    : tell(MsgBox::Error, notPutBackText(transfer))) != Answer::Gone;
 }
 
-bool BusSettingWidget::settleUnfinishedImport()
+bool BusTransferPage::settleUnfinishedImport()
 {
     std::vector<ImportEntry> entries = ImportTransfer::unfinished();
     if (entries.empty())
