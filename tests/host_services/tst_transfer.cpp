@@ -1,6 +1,6 @@
 #include "CurrentLink.h"
 #include "DataAccess.h"
-#include "MemoryLink.h"
+#include "LibFixture.h"
 #include "PendantPower.h"
 #include "SysSettingApi.h"
 #include "TimeScale.h"
@@ -22,18 +22,6 @@
 #include <sys/resource.h>
 
 namespace {
-
-bool put(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
-QByteArray get(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-}
 
 using Step = std::function<void(UsbDrive&)>;
 
@@ -86,14 +74,13 @@ void TestTransfer::aFetchReplacesTheWholeFileOrNothing_data()
     QTest::addColumn<QString>("ctrlPath");
     QTest::addColumn<QString>("target");
     QTest::addColumn<bool>("copied");
-    QTest::newRow("another spelling of the path") << "/FA/PFB.cfg"
-                                                  << "old.cfg" << true;
-    QTest::newRow("no such controller file") << "/fa/none.cfg"
-                                             << "old.cfg" << false;
-    QTest::newRow("no such directory") << "/fa/pfb.cfg"
-                                       << "none/new.cfg" << false;
-    QTest::newRow("a directory in its place") << "/fa/pfb.cfg"
-                                              << "drive" << false;
+    const auto row = [](const char* name, const char* ctrlPath, const char* target, bool copied) {
+        QTest::newRow(name) << QString(ctrlPath) << QString(target) << copied;
+    };
+    row("another spelling of the path", "/FA/PFB.cfg", "old.cfg", true);
+    row("no such controller file", "/fa/none.cfg", "old.cfg", false);
+    row("no such directory", "/fa/pfb.cfg", "none/new.cfg", false);
+    row("a directory in its place", "/fa/pfb.cfg", "drive", false);
 }
 
 void TestTransfer::aFetchReplacesTheWholeFileOrNothing()
@@ -102,9 +89,9 @@ void TestTransfer::aFetchReplacesTheWholeFileOrNothing()
     QFETCH(QString, target);
     QFETCH(bool, copied);
     m_link->files["/fa/pfb.cfg"] = "new";
-    QVERIFY(put(local("old.cfg"), "old and longer"));
+    QVERIFY(LibFixture::put(local("old.cfg"), "old and longer"));
     QCOMPARE(DataAccess::GetFileFromController2TPU(ctrlPath, m_folder->filePath(target), false), copied);
-    QCOMPARE(get(local("old.cfg")), QByteArray(copied ? "new" : "old and longer"));
+    QCOMPARE(LibFixture::get(local("old.cfg")), QByteArray(copied ? "new" : "old and longer"));
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
              (QStringList{"drive", "old.cfg"}));
 }
@@ -112,7 +99,7 @@ void TestTransfer::aFetchReplacesTheWholeFileOrNothing()
 void TestTransfer::aFullDiskKeepsTheOldFile()
 {
     m_link->files["/fa/pfb.cfg"] = "new";
-    QVERIFY(put(local("old.cfg"), "old"));
+    QVERIFY(LibFixture::put(local("old.cfg"), "old"));
     // A limit on the size of files stands for the disk: the bytes are refused when they leave the buffer.
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
@@ -122,13 +109,13 @@ void TestTransfer::aFullDiskKeepsTheOldFile()
     const bool copied = DataAccess::GetFileFromController2TPU("/fa/pfb.cfg", local("old.cfg"), false);
     setrlimit(RLIMIT_FSIZE, &before);
     QVERIFY(!copied);
-    QCOMPARE(get(local("old.cfg")), QByteArray("old"));
+    QCOMPARE(LibFixture::get(local("old.cfg")), QByteArray("old"));
 }
 
 void TestTransfer::aSendTakesTheWholeFileOrNothing()
 {
     const QByteArray content("\0\xff\r\n", 4);
-    QVERIFY(put(local("a.cfg"), content));
+    QVERIFY(LibFixture::put(local("a.cfg"), content));
     QVERIFY(DataAccess::SendFileFromTPU2Controller(local("a.cfg"), "/FA/a.cfg", false));
     QCOMPARE(m_link->files["/fa/a.cfg"], content);
     QVERIFY(!DataAccess::SendFileFromTPU2Controller(local("none.cfg"), "/FA/a.cfg", false));
@@ -167,9 +154,9 @@ void TestTransfer::copiesToADriveThatFails()
     QFETCH(bool, copied);
     UsbDrive& drive = UsbDrive::instance();
     drive.insert(local("drive"));
-    QVERIFY(put(local("source"), "new"));
-    QVERIFY(put(local("drive/target"), "old"));
-    QVERIFY(put(local("drive-side"), "old")); // beside the drive, and no part of it
+    QVERIFY(LibFixture::put(local("source"), "new"));
+    QVERIFY(LibFixture::put(local("drive/target"), "old"));
+    QVERIFY(LibFixture::put(local("drive-side"), "old")); // beside the drive, and no part of it
     QString path = ZelGetUSBDrives();
     QCOMPARE(path, local("drive"));
 
@@ -177,7 +164,7 @@ void TestTransfer::copiesToADriveThatFails()
     QCOMPARE(ZelMountFloppy(path) == 0, mounted);
     QCOMPARE(ZelFileCopy(local("source"), local("drive/target"), overwrite) != 0, copied);
     if (QFileInfo::exists(local("drive")))
-        QCOMPARE(get(local("drive/target")), QByteArray(copied ? "new" : "old"));
+        QCOMPARE(LibFixture::get(local("drive/target")), QByteArray(copied ? "new" : "old"));
     QVERIFY(ZelFileCopy(local("source"), local("drive-side"), true) != 0);
 
     drive.setReadOnly(false);

@@ -63,15 +63,12 @@ private slots:
     void boxResults();
     void boxDiesWhileItWaits();
     void boxBesideTheRunningCode();
-    void boxScript();
     void unansweredBox();
     void targetsAreLargeEnough();
 
     void keyboardByFinger();
     void keyboardByHardware();
     void keyboardRefuses();
-    void execNumericKeyboard_data();
-    void execNumericKeyboard();
     void receiverDiesWhileOpen();
 
     void editOpensItsKeyboard_data();
@@ -117,14 +114,10 @@ void DialogsTest::boxResults_data()
                         int key, int result) {
         QTest::newRow(name) << int(buttons) << QByteArray(focus) << QByteArray(click) << key << result;
     };
-    row("ok", MsgBox::Ok, "", "confirmButton", 0, 1);
     row("yes", MsgBox::YesNo, "", "confirmButton", 0, 1);
     row("no", MsgBox::YesNo, "", "secondButton", 0, 2);
-    row("cancel", MsgBox::OkCancel, "", "secondButton", 0, 2);
     row("escape", MsgBox::YesNo, "", "", Qt::Key_Escape, 0);
-    row("escape on ok", MsgBox::Ok, "", "", Qt::Key_Escape, 0);
     row("return", MsgBox::OkCancel, "", "", Qt::Key_Return, 1);
-    row("enter", MsgBox::Ok, "", "", Qt::Key_Enter, 1);
     row("return on the second button", MsgBox::YesNo, "secondButton", "", Qt::Key_Return, 2);
 }
 
@@ -174,29 +167,6 @@ void DialogsTest::boxBesideTheRunningCode()
     QVERIFY(!m_window->findChild<QWidget*>(QStringLiteral("dialogShade")));
     // The answer is still there for the box that asks.
     QCOMPARE(MsgBox(MsgBox::Information, QStringLiteral("Really?"), m_window.get(), MsgBox::YesNo).exec(), 1);
-}
-
-void DialogsTest::boxScript()
-{
-    const auto ask = [this](MsgBox::Buttons buttons) {
-        return MsgBox(MsgBox::Warning, QStringLiteral("one\ntwo"), m_window.get(), buttons).exec();
-    };
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    MsgBoxScript::answerNext(MsgBox::Second);
-    MsgBoxScript::answerNext(MsgBox::Dismissed);
-    QCOMPARE(ask(MsgBox::YesNo), 2);
-    QCOMPARE(ask(MsgBox::YesNo), 0);
-    QCOMPARE(ask(MsgBox::YesNo), 1);
-    // A box cannot give an answer that it does not offer.
-    MsgBoxScript::answerNext(MsgBox::Second);
-    QCOMPARE(ask(MsgBox::Ok), 0);
-
-    const QList<ShownMsgBox> shown = MsgBoxScript::shown();
-    QCOMPARE(shown.size(), 4);
-    QCOMPARE(shown.constLast().kind, int(MsgBox::Warning));
-    QCOMPARE(shown.constLast().text, QStringLiteral("one\ntwo"));
-    QCOMPARE(shown.constLast().buttons, MsgBox::Ok);
-    QVERIFY(shown.constLast().modal);
 }
 
 void DialogsTest::unansweredBox()
@@ -297,40 +267,6 @@ void DialogsTest::keyboardRefuses()
     QCOMPARE(receiver.values.size(), 1);
 }
 
-void DialogsTest::execNumericKeyboard_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<double>("taken");
-
-    QTest::newRow("decimal") << 12.0 << QByteArray("%li") << "40"
-                             << "12" << 40.0;
-    QTest::newRow("confirmed as it is") << 12.0 << QByteArray("%li") << ""
-                                        << "12" << 12.0;
-    QTest::newRow("hexadecimal") << 255.0 << QByteArray("%lx") << "1f"
-                                 << "FF" << 31.0;
-    QTest::newRow("no format") << 255.0 << QByteArray() << "7"
-                               << "255" << 7.0;
-}
-
-void DialogsTest::execNumericKeyboard()
-{
-    QFETCH(double, value);
-    QFETCH(QByteArray, format);
-    QFETCH(QString, typed);
-    QFETCH(double, taken);
-
-    Receiver receiver;
-    NumericKeyboardScript::enterNext(typed);
-    ZelExecNumericKeyboard(value, 0, 65535, format.isNull() ? nullptr : format.constData(),
-                           QStringLiteral("Flags"), &receiver, SLOT(take(double)));
-    QCOMPARE(receiver.values, QList<double>{taken});
-    QTEST(NumericKeyboardScript::shown().constFirst().text, "shown");
-    QCOMPARE(NumericKeyboardScript::shown().constFirst().caption, QStringLiteral("Flags"));
-}
-
 void DialogsTest::receiverDiesWhileOpen()
 {
     auto* receiver = new Receiver;
@@ -354,17 +290,12 @@ void DialogsTest::editOpensItsKeyboard_data()
         QTest::newRow(name) << cast << decimals << ranged << typed << text;
     };
     row("real", QTouchLineEdit::CastReal, 3, true, "2.5", "2.500");
-    row("real out of range", QTouchLineEdit::CastReal, 3, true, "10.1", "old");
     row("real, free decimals", QTouchLineEdit::CastReal, -1, false, "2.50", "2.5");
     row("unsigned", QTouchLineEdit::CastUnsigned, -1, false, "4294967295", "4294967295");
-    row("unsigned too large", QTouchLineEdit::CastUnsigned, -1, false, "4294967296", "old");
     row("unsigned has no sign", QTouchLineEdit::CastUnsigned, -1, false, "-1", "old");
     row("integer", QTouchLineEdit::CastInteger, -1, false, "-2147483648", "-2147483648");
-    row("integer too large", QTouchLineEdit::CastInteger, -1, false, "2147483648", "old");
-    row("integer, range without negatives", QTouchLineEdit::CastInteger, -1, true, "-1", "old");
     row("base 16", QTouchLineEdit::CastHexadecimal, -1, false, "ffffffff", "FFFFFFFF");
     row("address", QTouchLineEdit::CastIpAddress, -1, false, "192.168.1.10", "192.168.1.10");
-    row("address incomplete", QTouchLineEdit::CastIpAddress, -1, false, "192.168.1", "old");
 }
 
 void DialogsTest::editOpensItsKeyboard()

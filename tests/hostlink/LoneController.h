@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <memory>
 
 /// A controller without a pendant, whose only file is the one under test.
@@ -25,14 +24,6 @@ public:
         file.close();
         m_controller = std::make_unique<SimulatedController>(m_directory.path());
         m_controller->setTimeScale(timeScale);
-    }
-
-    /// Whether the pendant wrote the variable.
-    static bool wasWritten(SimulatedController& controller, const QString& name)
-    {
-        const auto& writes = controller.traffic().writes();
-        return std::any_of(writes.begin(), writes.end(),
-                           [&name](const Traffic::Write& write) { return write.name == name; });
     }
 
     SimulatedController& controller() { return *m_controller; }

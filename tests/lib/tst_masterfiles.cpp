@@ -2,8 +2,6 @@
 
 #include <QTest>
 
-#include <functional>
-
 namespace {
 
 struct Twin
@@ -244,7 +242,8 @@ void TestMasterFiles::tablesAreRead_data()
                            "<SlaveNum>1</SlaveNum></Group>") +
                 (twin.root == EtherNetIp.root ? "</Pfn" : "</Eip") + QByteArray("MasterCommunication>"),
             true, "|||000000000|000000000");
-        row("a count that is none", "{<SlaveNum>many</SlaveNum>}", true, "many|||000000000|000000000");
+        row("no group", "<" + twin.root + "><SlaveNum>1</SlaveNum></" + twin.root + ">", true,
+            "|||000000000|000000000");
         row("deep nesting",
             "{" + QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000) +
                 "<SlaveNum>1</SlaveNum>}",
@@ -252,7 +251,6 @@ void TestMasterFiles::tablesAreRead_data()
         row("a megabyte of one element", "{<SlaveNum>" + QByteArray(1 << 20, '7') + "</SlaveNum>}", true,
             QString(1 << 20, '7') + "|||000000000|000000000");
         row("nesting that is not closed", QByteArray("<a>").repeated(100000), false, SampleTableText);
-        row("empty", "", false, SampleTableText);
     }
 }
 
@@ -293,23 +291,23 @@ void TestMasterFiles::filesCutShortLeaveTheRecord()
 {
     FieldbusSettingLib& lib = LibFixture::lib();
     lib.mtcpMaster = SampleMtcp;
-    lib.eipMaster = sampleTable();
-    const auto cut = [](const QByteArray& whole, const std::function<bool()>& leftAsItWas) {
-        // Without its last line feed the file is still whole.
-        for (int length = 0; length < whole.size() - 1; ++length) {
-            if (!LibFixture::put(Path, whole.left(length)) || !leftAsItWas())
-                return length;
-        }
-        return -1;
-    };
     QVERIFY(lib.writeMtcpFile(Path));
-    QCOMPARE(cut(LibFixture::get(Path),
-                 [&] { return !lib.readMtcpFile(Path) && text(lib.mtcpMaster) == SampleMtcpText; }),
+    QCOMPARE(LibFixture::cutAtEveryByte(Path,
+                                        [&] {
+                                            const bool isRead = lib.readMtcpFile(Path);
+                                            return isRead || text(lib.mtcpMaster) != SampleMtcpText;
+                                        }),
              -1);
-    QVERIFY(lib.writeEimXMLFile(Path));
-    QCOMPARE(cut(LibFixture::get(Path),
-                 [&] { return !lib.readEimXMLFile(Path) && text(lib.eipMaster) == SampleTableText; }),
-             -1);
+    for (const Twin& twin : {EtherNetIp, Profinet}) {
+        lib.*twin.table = sampleTable();
+        QVERIFY((lib.*twin.write)(Path));
+        QCOMPARE(LibFixture::cutAtEveryByte(Path,
+                                            [&] {
+                                                const bool isRead = (lib.*twin.read)(Path);
+                                                return isRead || text(lib.*twin.table) != SampleTableText;
+                                            }),
+                 -1);
+    }
 }
 
 void TestMasterFiles::foldersOfOneLevelAreMade()

@@ -1,12 +1,11 @@
 #include "DeviceRows.h"
-#include "Faults.h"
-#include "UserSession.h"
+#include "Texts.h"
 
 namespace {
 
 const QString Override = QStringLiteral("/FA/override.cfg");
-const QString Sure = QStringLiteral("Are you sure to save?");
-const QString Restart = QStringLiteral("Save successfully, Are you sure to restart robot to make it effect?");
+using Texts::Restart;
+using Texts::Sure;
 constexpr int PageId = 8;
 
 bool openPage(PendantFixture& pendant)
@@ -26,10 +25,6 @@ private slots:
     void savesNothing();
     void restartIsAllowedNoMore();
     void shorterFileShowsItsDevicesOnly();
-    void transferFaults_data();
-    void transferFaults();
-    void userLevelDrops_data();
-    void userLevelDrops();
 };
 
 void TestEtherCatMaster::savesWithTheServoOn()
@@ -99,7 +94,7 @@ void TestEtherCatMaster::shorterFileShowsItsDevicesOnly()
     QVERIFY(openPage(pendant));
     QVERIFY(pendant.press("exitBtn"));
     QTRY_VERIFY(!pendant.isOpen());
-    QVERIFY(pendant.controller().files().write(Override, "ECAT_SLAVE_OFF 2 7;A\n;ECAT_SLAVE_OFF 2 8;EIM_DEVICE\n"));
+    QVERIFY(pendant.put(Override, "ECAT_SLAVE_OFF 2 7;A\n;ECAT_SLAVE_OFF 2 8;EIM_DEVICE\n"));
     QVERIFY(openPage(pendant));
     QCOMPARE(DeviceRows(pendant, "ecatTableWidget").shown(), QStringList({"1 2 7 A ", "2 2 8 EIM_DEVICE x"}));
 }
@@ -117,70 +112,6 @@ void TestEtherCatMaster::savesNothing()
     QTEST(pendant.messages(), "messages");
     QCOMPARE(pendant.controller().traffic().count(Traffic::Fetch), 0);
     QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
-}
-
-void TestEtherCatMaster::transferFaults_data()
-{
-    QTest::addColumn<bool>("whileLoading");
-    QTest::addColumn<QString>("fault");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("fetch fails") << true << "fetch-fails"
-                                 << "Failed to get file.";
-    QTest::newRow("template fails") << false << "fetch-fails"
-                                    << "Failed to write file.";
-    QTest::newRow("send fails") << false << "send-fails"
-                                << "Failed to send file.";
-}
-
-void TestEtherCatMaster::transferFaults()
-{
-    QFETCH(bool, whileLoading);
-    QFETCH(QString, fault);
-    QFETCH(QString, message);
-    PendantFixture pendant;
-    const QByteArray before = pendant.controllerFile(Override);
-    QVERIFY(pendant.open());
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    if (whileLoading)
-        QVERIFY(pendant.controller().faults().setFromText(fault));
-    QVERIFY(pendant.selectPage(PageId));
-    if (!whileLoading) {
-        QVERIFY(pendant.controller().faults().setFromText(fault));
-        QVERIFY(pendant.press("saveBt_Ecat"));
-        QVERIFY(pendant.settle());
-    }
-    QCOMPARE(pendant.messages().mid(whileLoading ? 0 : 1), QStringList(message));
-    QCOMPARE(MsgBoxScript::shown().constLast().kind, int(MsgBox::Warning));
-    QCOMPARE(pendant.controllerFile(Override), before);
-
-    pendant.controller().faults().clearAll();
-    QVERIFY(pendant.press("saveBt_Ecat"));
-    QTRY_VERIFY(!pendant.isOpen());
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 1);
-}
-
-void TestEtherCatMaster::userLevelDrops_data()
-{
-    QTest::addColumn<QString>("box");
-    QTest::newRow("in the question") << Sure;
-    QTest::newRow("in the restart question") << Restart;
-}
-
-void TestEtherCatMaster::userLevelDrops()
-{
-    QFETCH(QString, box);
-    PendantFixture pendant;
-    QVERIFY(openPage(pendant));
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    MsgBoxScript::onShown([box](const MsgBox* shown) {
-        if (shown->text() == box)
-            UserSession::instance().setUserLevel(1);
-    });
-    pendant.press("saveBt_Ecat");
-    QTRY_VERIFY(!pendant.isOpen());
-    QTest::qWait(300);
-    QVERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
 }
 
 PENDANT_TEST_MAIN(TestEtherCatMaster)

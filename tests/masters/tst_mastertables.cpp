@@ -1,21 +1,19 @@
 #include "DeviceRows.h"
-#include "Faults.h"
 #include "MasterSlaveStates.h"
 #include "QTouchLineEdit.h"
-#include "TickCost.h"
-#include "UserSession.h"
+#include "Texts.h"
 
-#include <QDir>
 #include <QLabel>
 
 namespace {
+
+using namespace Texts;
 
 // The two pages and where they differ. "%1" stands for a position.
 struct Twin
 {
     const char* name;
     int page;
-    const char* pageClass;
     const char* save;
     const char* table;
     const char* alarmBox;
@@ -24,12 +22,8 @@ struct Twin
     const char* lights[3]; // connected, coupling, decoupling
     const char* variable;  // first part of the names
     const char* file;
-    const char* localDirectory;
     const char* root;
     const char* getText;
-    const char* readText;
-    const char* writeText;
-    const char* sendText;
     MasterSlaveStates::Master master;
     const char* role;
 };
@@ -37,7 +31,6 @@ struct Twin
 constexpr Twin Twins[] = {
     {"EtherNet/IP",
      11,
-     "EipMasterSettingWidget",
      "saveBt_EipM",
      "eipMTableWidget",
      "dynalm_checkbox_",
@@ -46,17 +39,12 @@ constexpr Twin Twins[] = {
      {"eipConnectStatLb_%1", "eipCouplingStatLb_%1", "eipDecouplingStatLb_%1"},
      "ifidbus.eim",
      "/application/fidbus/eipMaster/eip_master.xml",
-     "eipMaster",
      "EipMasterCommunication",
      "Failed to get eip_master.xml file.",
-     "Failed to read eip_master.xml file.",
-     "Failed to write eip_master.xml file.",
-     "Failed to send eip_master.xml file.",
      MasterSlaveStates::EtherNetIp,
      "EtherNetIPMaster"},
     {"PROFINET",
      12,
-     "PfnMasterSetting",
      "btn_save",
      "pfnMasterTableWdt",
      "dynalm_checkbox",
@@ -65,21 +53,13 @@ constexpr Twin Twins[] = {
      {"connectStatLb_%1", "couplingStatLb_%1", "decouplingStatLb_%1"},
      "ifidbus.pnm",
      "/application/fidbus/pfnMaster/pfn_master.xml",
-     "pfnMaster",
      "PfnMasterCommunication",
      "Failed to get pfn_master.xml file.",
-     "Failed to read pfn_master.xml file.",
-     "Failed to write pnm_master.xml file.",
-     "Failed to send pnm_master.xml file.",
      MasterSlaveStates::Profinet,
      "ProfinetMaster"},
 };
 
 const QString Override = QStringLiteral("/FA/override.cfg");
-const QString Sure = QStringLiteral("Are you sure to save?");
-const QString Restart = QStringLiteral("Save successfully, Are you sure to restart robot to make it effect?");
-const QString ServoFirst = QStringLiteral("Please turn off the servo first!");
-
 QString numbered(const char* pattern, int number)
 {
     return QString::fromLatin1(pattern).arg(number);
@@ -129,8 +109,8 @@ private slots:
     void questionComesBeforeTheSecondFile();
     void saveIsRefused_data();
     void saveIsRefused();
-    void transferFaults_data();
-    void transferFaults();
+    void neitherFileIsThere_data() { twins(); }
+    void neitherFileIsThere();
     void profisafeKeepsTheDevices_data() { twins(); }
     void profisafeKeepsTheDevices();
     void slaveCounts_data();
@@ -141,10 +121,6 @@ private slots:
     void slavesFollowTheSavedTable();
     void alarmActsAtOnce_data() { twins(); }
     void alarmActsAtOnce();
-    void userLevelDrops_data();
-    void userLevelDrops();
-    void tickWithoutChangeCostsNothing_data() { twins(); }
-    void tickWithoutChangeCostsNothing();
 
 private:
     static void twins();
@@ -207,8 +183,7 @@ void TestMasterTables::showsAndSaves()
 {
     PendantFixture pendant;
     const QByteArray before = pendant.controllerFile(Override);
-    QVERIFY(
-        pendant.controller().files().write(twin().file, tableFile(twin(), "4", "50", "60", 0b0101, 0b1010)));
+    QVERIFY(pendant.put(twin().file, tableFile(twin(), "4", "50", "60", 0b0101, 0b1010)));
     QVERIFY(openPage(pendant));
     QCOMPARE(pendant.controller().traffic().fetches(), QStringList({Override, twin().file}));
     const DeviceRows devices(pendant, twin().table);
@@ -329,77 +304,15 @@ void TestMasterTables::saveIsRefused()
     QTEST(pendant.controller().traffic().stores().size(), "stores");
 }
 
-void TestMasterTables::transferFaults_data()
+// Both are asked for, whatever became of the first.
+void TestMasterTables::neitherFileIsThere()
 {
-    QTest::addColumn<int>("twin");
-    QTest::addColumn<QString>("fault"); // "disk": the pendant cannot keep the file
-    QTest::addColumn<bool>("whileLoading");
-    QTest::addColumn<QStringList>("messages");
-    QTest::addColumn<bool>("overrideStored");
-    for (int index = 0; index < 2; ++index) {
-        const Twin& twin = Twins[index];
-        const QString onTable = QLatin1Char(':') + QLatin1String(twin.file);
-        const QString onDevices = QLatin1Char(':') + Override;
-        const auto add = [&](const char* name, const QString& fault, bool loading,
-                             const QStringList& messages, bool stored) {
-            QTest::addRow("%s: %s", twin.name, name) << index << fault << loading << messages << stored;
-        };
-        add("override is not fetched, the table is", "fetch-fails:-1" + onDevices, true,
-            {"Failed to get file."}, false);
-        add("table is not fetched", "fetch-fails:-1" + onTable, true, {twin.getText}, false);
-        add("neither is fetched", "fetch-fails", true, {"Failed to get file.", twin.getText}, false);
-        add("table is garbage", "fetch-garbage:-1" + onTable, true, {twin.readText}, false);
-        add("table is cut short", "fetch-cut-short:-1" + onTable, true, {twin.readText}, false);
-        add("override is not written", "fetch-fails:-1" + onDevices, false, {Sure, "Failed to write file."},
-            false);
-        add("override is not sent", "send-fails:-1" + onDevices, false, {Sure, "Failed to send file."},
-            false);
-        add("table is not written", "disk", false, {Sure, Restart, twin.writeText}, true);
-        add("table is not sent", "send-fails:-1" + onTable, false, {Sure, Restart, twin.sendText}, true);
-    }
-}
-
-void TestMasterTables::transferFaults()
-{
-    QFETCH(QString, fault);
-    QFETCH(bool, whileLoading);
-    QFETCH(bool, overrideStored);
     PendantFixture pendant;
-    const QByteArray before = pendant.controllerFile(twin().file);
     QVERIFY(pendant.openPastStartPage());
+    QVERIFY(pendant.controller().faults().setFromText("fetch-fails"));
     MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    if (whileLoading)
-        QVERIFY(pendant.controller().faults().setFromText(fault));
     QVERIFY(pendant.selectPage(twin().page));
-    const QString directory =
-        QStringLiteral("../Application/fieldbusSetting/") + QLatin1String(twin().localDirectory);
-    if (!whileLoading) {
-        pendant.controller().traffic().clear();
-        if (fault == QLatin1String("disk")) {
-            QVERIFY(QDir(directory).removeRecursively());
-            QVERIFY(QFile(directory).open(QIODevice::WriteOnly));
-        } else {
-            QVERIFY(pendant.controller().faults().setFromText(fault));
-        }
-        QVERIFY(pendant.press(twin().save));
-        QVERIFY(pendant.settle());
-        QCOMPARE(pendant.controllerFile(twin().file), before);
-        QCOMPARE(pendant.controller().traffic().stores().contains(Override) &&
-                     pendant.controller().traffic().failed(Traffic::Store) == 0,
-                 overrideStored && !fault.contains(QLatin1String("send")));
-    }
-    QTEST(pendant.messages(), "messages");
-    QCOMPARE(MsgBoxScript::shown().constLast().kind, int(MsgBox::Error));
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
-
-    // With the cause gone the next save goes through.
-    pendant.controller().faults().clearAll();
-    QFile::remove(directory);
-    pendant.controller().traffic().clear();
-    QVERIFY(pendant.press(twin().save));
-    QTRY_VERIFY(!pendant.isOpen());
-    QCOMPARE(pendant.controller().traffic().stores(), QStringList({Override, twin().file}));
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 1);
+    QCOMPARE(pendant.messages(), QStringList({GetFailed, twin().getText}));
 }
 
 void TestMasterTables::profisafeKeepsTheDevices()
@@ -444,7 +357,7 @@ void TestMasterTables::slaveCounts()
     QFETCH(int, rows);
     QFETCH(QByteArray, saved);
     PendantFixture pendant;
-    QVERIFY(pendant.controller().files().write(twin().file, tableFile(twin(), count, "soon", "", 0, 0)));
+    QVERIFY(pendant.put(twin().file, tableFile(twin(), count, "soon", "", 0, 0)));
     QVERIFY(openPage(pendant));
     QTest::qWait(150); // a tick
     QCOMPARE(pendant.find<QLineEdit>("lineEdit_slave_count")->text(), QString::fromLatin1(count));
@@ -482,7 +395,7 @@ void TestMasterTables::lightsFollowTheStates()
     QFETCH(QString, variable);
     QFETCH(QStringList, images);
     PendantFixture pendant;
-    QVERIFY(pendant.controller().files().write(twin().file, tableFile(twin(), "9", "0", "0", 0, 0)));
+    QVERIFY(pendant.put(twin().file, tableFile(twin(), "9", "0", "0", 0, 0)));
     // The controller's own slaves would change the states.
     QVERIFY(pendant.controller().setRoleOn(twin().role, false));
     QVERIFY(openPage(pendant));
@@ -557,59 +470,6 @@ void TestMasterTables::alarmActsAtOnce()
     QCOMPARE(pendant.variable(variable), 1.0);
     QCOMPARE(pendant.controller().traffic().writeCount(), 2);
     QCOMPARE(pendant.messages(), QStringList());
-}
-
-void TestMasterTables::userLevelDrops_data()
-{
-    QTest::addColumn<int>("twin");
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QStringList>("stores");
-    QTest::newRow("while fetching") << 0 << "" << QStringList();
-    QTest::newRow("in the question") << 1 << Sure << QStringList();
-    QTest::newRow("in the restart question") << 0 << Restart << QStringList(Override);
-    QTest::newRow("in the last failure") << 1 << Twins[1].sendText << QStringList({Override, Twins[1].file});
-}
-
-// The application goes away under a slot that waits; nothing may be touched afterwards.
-void TestMasterTables::userLevelDrops()
-{
-    QFETCH(QString, box);
-    PendantFixture pendant;
-    QVERIFY(pendant.openPastStartPage());
-    const auto drop = [] { UserSession::instance().setUserLevel(1); };
-    if (box.isEmpty()) {
-        pendant.controller().faults().set(Faults::FetchFails);
-        QTimer::singleShot(350, drop);
-        pendant.selectPage(twin().page);
-    } else {
-        QVERIFY(pendant.selectPage(twin().page));
-        pendant.controller().traffic().clear();
-        pendant.controller().faults().set(Faults::SendFails, -1, twin().file);
-        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-        MsgBoxScript::onShown([drop, box](const MsgBox* shown) {
-            if (shown->text() == box)
-                drop();
-        });
-        pendant.press(twin().save);
-    }
-    QTRY_VERIFY(!pendant.isOpen());
-    QTest::qWait(300);
-    QVERIFY(!QApplication::activeModalWidget());
-    QTEST(pendant.controller().traffic().stores(), "stores");
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
-}
-
-void TestMasterTables::tickWithoutChangeCostsNothing()
-{
-    PendantFixture pendant;
-    QVERIFY(pendant.controller().files().write(twin().file, tableFile(twin(), "9", "1", "1", 0, 0)));
-    QVERIFY(pendant.controller().setRoleOn(twin().role, false)); // or its slaves change a light meanwhile
-    QVERIFY(openPage(pendant));
-    QTest::qWait(300);
-    const TickCost cost = TickCost::of(pendant, twin().pageClass);
-    QCOMPARE(cost.allocations, 0LL);
-    QCOMPARE(cost.styleChanges, 0);
-    QCOMPARE(cost.paints, 0);
 }
 
 PENDANT_TEST_MAIN(TestMasterTables)

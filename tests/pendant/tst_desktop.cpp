@@ -305,21 +305,13 @@ void TestDesktop::options_data()
     QTest::addColumn<bool>("accepted");
     QTest::addColumn<QString>("tourDirectory");
     const QString here = QDir::currentPath();
-    QTest::newRow("nothing") << QStringList() << true << QString();
     QTest::newRow("tour alone") << QStringList{"--tour"} << true << here + "/tour";
     QTest::newRow("tour, then an option") << QStringList{"--tour", "--panel"} << true << here + "/tour";
-    QTest::newRow("tour with a folder") << QStringList{"--tour", "a b"} << true << here + "/a b";
     QTest::newRow("tour=folder") << QStringList{"--tour=/x/../y"} << true << "/y";
     QTest::newRow("stray word") << QStringList{"word"} << false << QString();
-    QTest::newRow("unknown option") << QStringList{"--nothing"} << false << QString();
-    QTest::newRow("level 5") << QStringList{"--user-level", "5"} << true << QString();
     QTest::newRow("level 6") << QStringList{"--user-level", "6"} << false << QString();
-    QTest::newRow("level -1") << QStringList{"--user-level=-1"} << false << QString();
-    QTest::newRow("level word") << QStringList{"--user-level", "high"} << false << QString();
-    QTest::newRow("port 0") << QStringList{"--mtcp-port", "0"} << false << QString();
     QTest::newRow("port 65536") << QStringList{"--mtcp-port", "65536"} << false << QString();
     QTest::newRow("scale nan") << QStringList{"--time-scale", "nan"} << false << QString();
-    QTest::newRow("scale 0") << QStringList{"--time-scale", "0"} << false << QString();
     QTest::newRow("scale 10") << QStringList{"--time-scale", "10"} << true << QString();
 }
 

@@ -1,8 +1,8 @@
 #include "Faults.h"
+#include "Finger.h"
 #include "PendantFixture.h"
 #include "QTouchLineEdit.h"
-#include "SlavePage.h"
-#include "UserSession.h"
+#include "Texts.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -13,9 +13,6 @@ const QString FilePath = QStringLiteral("/application/fidbus/devicenet/devicenet
 const QString Button = QStringLiteral("deviceBtn");
 const QString UpdateState = QStringLiteral("ifidbus.xml_update_state");
 
-const QString SaveQuestion = QStringLiteral("Are you sure to save?");
-const QString RestartQuestion =
-    QStringLiteral("Save successfully, Are you sure to restart robot to make it effect?");
 const QString NotEven = QStringLiteral("MACID value must be even!");
 const QString SaveFailed = QStringLiteral("Save failed!");
 
@@ -31,16 +28,10 @@ QByteArray fileWith(const QByteArray& macId, const QByteArray& baudRate)
 class DeviceNetPage : public PendantFixture
 {
 public:
-    /// `loadFault` strikes while the page loads; its boxes are confirmed.
-    explicit DeviceNetPage(const QByteArray& file = fileWith("12", "250"), const QString& loadFault = {})
+    explicit DeviceNetPage(const QByteArray& file = fileWith("12", "250"))
     {
-        m_isReady = controller().setRoleOn("DeviceNetSlave", true) &&
-                    controller().files().write(FilePath, file) && open();
-        if (!loadFault.isEmpty()) {
-            MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-            m_isReady = m_isReady && controller().faults().setFromText(loadFault);
-        }
-        m_isReady = m_isReady && openPage(Button);
+        m_isReady = controller().setRoleOn("DeviceNetSlave", true) && put(FilePath, file) && open() &&
+                    openPage(Button);
     }
 
     bool isReady() const { return m_isReady; }
@@ -48,20 +39,9 @@ public:
     QString macId() const { return find<QTouchLineEdit>("le_macid")->text(); }
     QString baudRate() const { return find<QComboBox>("cbb_baud")->currentText(); }
     bool isLinked() const { return page()->findChild<QLabel*>("led_status")->isEnabled(); }
-    QWidget* saveButton() const { return onPage(*this, "DeviceNetSlaverSetting", "btn_save"); }
+    QWidget* saveButton() const { return findOn("DeviceNetSlaverSetting", "btn_save"); }
     bool pressSave() const { return Finger::press(saveButton()); }
     QTimer* handshake() const { return page()->findChild<QTimer*>(); }
-
-    /// What the pendant wrote to the handshake's variable so far.
-    QVector<int> asked()
-    {
-        QVector<int> values;
-        for (const Traffic::Write& write : controller().traffic().writes()) {
-            if (write.name == UpdateState)
-                values.append(static_cast<int>(write.value));
-        }
-        return values;
-    }
 
     bool save()
     {
@@ -93,8 +73,6 @@ private slots:
     void showsTheFile();
     void onlyEvenMacIds();
     void savesWhatIsEntered();
-    void transferFaults_data();
-    void transferFaults();
     void handshakeIsGivenUp();
     void answeredLateInRealTime();
     void otherBitsStay();
@@ -169,13 +147,13 @@ void TestDeviceNetSlave::savesWhatIsEntered()
 
     QVERIFY(pendant.save());
     QVERIFY(pendant.controllerFile(FilePath).contains(fileWith("44", "500")));
-    QCOMPARE(pendant.asked(), QVector<int>({Asked}));
+    QCOMPARE(pendant.writesOf(UpdateState), QVector<double>({Asked}));
     QVERIFY(!pendant.pressSave()); // one handshake at a time
     QVERIFY(pendant.handshake()->isActive());
     QCOMPARE(pendant.handshake()->interval(), 500);
     PendantFixture::answer({MsgBox::Second});
-    QTRY_COMPARE(pendant.messages().constLast(), RestartQuestion);
-    QCOMPARE(pendant.asked(), QVector<int>({Asked, 0}));
+    QTRY_COMPARE(pendant.messages().constLast(), Texts::Restart);
+    QCOMPARE(pendant.writesOf(UpdateState), QVector<double>({Asked, 0}));
     QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
     QVERIFY(pendant.settle());
     QCOMPARE(pendant.variable(UpdateState), 0.0);
@@ -185,45 +163,7 @@ void TestDeviceNetSlave::savesWhatIsEntered()
     QTRY_COMPARE(pendant.controller().traffic().restartRequests(), 1);
     QTRY_VERIFY(!pendant.isOpen()); // the pendant restarts as well
     QCOMPARE(pendant.messages(),
-             QStringList({SaveQuestion, SaveQuestion, RestartQuestion, SaveQuestion, RestartQuestion}));
-}
-
-void TestDeviceNetSlave::transferFaults_data()
-{
-    QTest::addColumn<QString>("fault");
-    QTest::addColumn<bool>("whileLoading");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("the fetch fails") << "fetch-fails" << true << "Failed to get file.";
-    QTest::newRow("nine fetches fail") << "fetch-fails:9" << true << "";
-    QTest::newRow("garbage arrives") << "fetch-garbage" << true << "Failed to read file.";
-    QTest::newRow("half a file arrives") << "fetch-cut-short" << true << "Failed to read file.";
-    QTest::newRow("the write fails") << "write" << false << "Failed to write file.";
-    QTest::newRow("the send is refused") << "send-fails" << false << "Failed to send file.";
-}
-
-void TestDeviceNetSlave::transferFaults()
-{
-    QFETCH(QString, fault);
-    QFETCH(bool, whileLoading);
-    QFETCH(QString, message);
-    const QByteArray before = fileWith("12", "250");
-    DeviceNetPage pendant(before, whileLoading ? fault : QString());
-    QVERIFY(pendant.isReady());
-    if (!whileLoading) {
-        // A folder in the place of the file cannot be replaced by one.
-        const QString localFile = "../Application/fieldbusSetting/devicenetSlave.xml";
-        QVERIFY(fault == "write" ? QFile::remove(localFile) && QDir().mkpath(localFile)
-                                 : pendant.controller().faults().setFromText(fault));
-        PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
-        QVERIFY(pendant.pressSave());
-        QVERIFY(pendant.settle());
-        QVERIFY(!pendant.handshake()->isActive());
-    }
-    QCOMPARE(pendant.messages().mid(whileLoading ? 0 : 1),
-             message.isEmpty() ? QStringList() : QStringList(message));
-    QCOMPARE(pendant.controllerFile(FilePath), before);
-    QCOMPARE(pendant.variable(UpdateState), 0.0);
-    QVERIFY(pendant.saveButton()->isEnabled());
+             QStringList({Texts::Sure, Texts::Sure, Texts::Restart, Texts::Sure, Texts::Restart}));
 }
 
 // Twelve polls are waited through at the first save and ten at each later one; the poll after that gives up.
@@ -255,7 +195,7 @@ void TestDeviceNetSlave::handshakeIsGivenUp()
     PendantFixture::answer({MsgBox::Second});
     QTest::qWait(20); // until the pendant knows
     QMetaObject::invokeMethod(pendant.page(), "getFileSaveStatus");
-    QCOMPARE(pendant.messages().constLast(), RestartQuestion);
+    QCOMPARE(pendant.messages().constLast(), Texts::Restart);
     PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
     QVERIFY(pendant.pressSave());
     QCOMPARE(pendant.pollToTheEnd(), 11);
@@ -271,7 +211,7 @@ void TestDeviceNetSlave::answeredLateInRealTime()
     elapsed.start();
     QVERIFY(pendant.save());
     PendantFixture::answer({MsgBox::Second});
-    QTRY_COMPARE_WITH_TIMEOUT(pendant.messages().constLast(), RestartQuestion, 8000);
+    QTRY_COMPARE_WITH_TIMEOUT(pendant.messages().constLast(), Texts::Restart, 8000);
     QVERIFY2(elapsed.elapsed() > 5000, qPrintable(QString::number(elapsed.elapsed())));
 }
 
@@ -284,7 +224,7 @@ void TestDeviceNetSlave::otherBitsStay()
     QTest::qWait(50);
     pendant.controller().faults().set(Faults::SlaveNeverAnswered);
     QVERIFY(pendant.save());
-    QCOMPARE(pendant.asked(), QVector<int>({Asked | 0x4003}));
+    QCOMPARE(pendant.writesOf(UpdateState), QVector<double>({Asked | 0x4003}));
 }
 
 void TestDeviceNetSlave::lightFollowsItsBit()
@@ -306,8 +246,6 @@ void TestDeviceNetSlave::userLevelDrops_data()
 {
     QTest::addColumn<QString>("box");
     QTest::newRow("while a MAC ID is refused") << NotEven;
-    QTest::newRow("while the confirmation is open") << SaveQuestion;
-    QTest::newRow("while the restart is offered") << RestartQuestion;
     QTest::newRow("while the failure is shown") << SaveFailed;
     QTest::newRow("while the handshake runs") << "";
 }
@@ -320,31 +258,21 @@ void TestDeviceNetSlave::userLevelDrops()
     QVERIFY(pendant.isReady());
     if (box == SaveFailed || box.isEmpty())
         pendant.controller().faults().set(Faults::SlaveNeverAnswered);
-    const auto drop = [] { UserSession::instance().setUserLevel(1); };
-    MsgBoxScript::onShown([drop, box](const MsgBox* shown) {
+    MsgBoxScript::onShown([box](const MsgBox* shown) {
         if (shown->text() == box)
-            drop();
+            PendantFixture::dropUserLevel();
     });
-    if (box == NotEven) {
+    if (box == NotEven)
         pendant.enter("le_macid", "7");
-    } else {
-        if (box != SaveQuestion)
-            PendantFixture::answer({MsgBox::Confirmed});
-        pendant.pressSave();
-    }
+    else
+        QVERIFY(pendant.save());
     if (box.isEmpty())
-        drop();
+        PendantFixture::dropUserLevel();
     else if (box == SaveFailed)
         pendant.pollToTheEnd();
     QTRY_VERIFY(!pendant.isOpen());
-    QTest::qWait(box.isEmpty() ? 700 : 100); // the timer would have polled
-    QVERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
-
-    // It opens again and works.
-    MsgBoxScript::onShown({});
-    UserSession::instance().setUserLevel(4);
-    QVERIFY(pendant.open());
+    QTest::qWait(box.isEmpty() ? 700 : 0); // the timer would have polled
+    QVERIFY(pendant.reopensAfterDrop());
     QVERIFY(pendant.openPage(Button));
     QVERIFY(pendant.saveButton()->isEnabled());
 }

@@ -1,6 +1,6 @@
 #include "DeviceRows.h"
 #include "Faults.h"
-#include "UserSession.h"
+#include "Texts.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -12,9 +12,9 @@ namespace {
 const QString Override = QStringLiteral("/FA/override.cfg");
 const QString Module = QStringLiteral("/fa/fbslave.cfgx");
 const QString Button = QStringLiteral("etherCatBtn");
-const QString Sure = QStringLiteral("Are you sure to save?");
-const QString Restart = QStringLiteral("Save successfully, Are you sure to restart robot to make it effect?");
-const QString ServoFirst = QStringLiteral("Please turn off the servo first!");
+using Texts::Restart;
+using Texts::ServoFirst;
+using Texts::Sure;
 
 constexpr int EtherCatModule = 13;
 
@@ -29,16 +29,7 @@ bool openPage(PendantFixture& pendant, int module = 0)
     return pendant.openPastStartPage() && pendant.openPage(Button);
 }
 
-// The values that the pendant gave the variable of the role.
-QVector<double> enableWrites(PendantFixture& pendant)
-{
-    QVector<double> values;
-    for (const Traffic::Write& write : pendant.controller().traffic().writes()) {
-        if (write.name == QLatin1String("ifidbus.ethcat_enable"))
-            values << write.value;
-    }
-    return values;
-}
+const QString Enable = QStringLiteral("ifidbus.ethcat_enable");
 
 QByteArray endianFile(const QByteArray& endian)
 {
@@ -60,14 +51,11 @@ private slots:
     void fifthFunctionActsAtOnce();
     void saveIsRefused_data();
     void saveIsRefused();
-    void transferFaults_data();
-    void transferFaults();
+    void moduleFileIsNotFetched();
     void byteOrderIsShown_data();
     void byteOrderIsShown();
     void byteOrderIsSaved_data();
     void byteOrderIsSaved();
-    void userLevelDrops_data();
-    void userLevelDrops();
     void tableScrollsByFinger();
 };
 
@@ -114,7 +102,7 @@ void TestEtherCatSlave::tableShowsTheFile()
 {
     QFETCH(QByteArray, file);
     PendantFixture pendant;
-    QVERIFY(pendant.controller().files().write(Override, file));
+    QVERIFY(pendant.put(Override, file));
     QVERIFY(openPage(pendant));
     const DeviceRows rows(pendant, "ecatTableWidget");
     QTEST(rows.shown(), "rows");
@@ -146,7 +134,7 @@ void TestEtherCatSlave::savesTheTable()
     expected.replace("\nECAT_SLAVE_OFF 1 1001", "\n;ECAT_SLAVE_OFF 1 1001");
     QCOMPARE(pendant.controllerFile(Override), expected);
     QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
-    QVERIFY(enableWrites(pendant).isEmpty());
+    QVERIFY(pendant.writesOf(Enable).isEmpty());
 
     // What was saved is what a reset goes back to; and a yes restarts.
     QVERIFY(pendant.press("btn_reset"));
@@ -166,10 +154,10 @@ void TestEtherCatSlave::fifthFunctionActsAtOnce()
     pendant.controller().traffic().clear();
     for (const int row : {0, 1, 2, 3, 5})
         QVERIFY(rows.press(row));
-    QVERIFY(enableWrites(pendant).isEmpty());
+    QVERIFY(pendant.writesOf(Enable).isEmpty());
     QVERIFY(rows.press(4));
     QVERIFY(pendant.pressCell("ecatTableWidget", 4, DeviceRows::ActivateColumn));
-    QCOMPARE(enableWrites(pendant), QVector<double>({0.0, 1.0}));
+    QCOMPARE(pendant.writesOf(Enable), QVector<double>({0.0, 1.0}));
     QVERIFY(rows.press(4));
 
     // A reset shows the record and takes nothing back; nor does a save that is refused.
@@ -179,7 +167,7 @@ void TestEtherCatSlave::fifthFunctionActsAtOnce()
     QVERIFY(pendant.press("saveBt_Ecat"));
     QVERIFY(pendant.settle());
     QCOMPARE(pendant.messages(), QStringList(ServoFirst));
-    QCOMPARE(pendant.variable("ifidbus.ethcat_enable"), 0.0);
+    QCOMPARE(pendant.variable(Enable), 0.0);
 }
 
 void TestEtherCatSlave::saveIsRefused_data()
@@ -220,61 +208,16 @@ void TestEtherCatSlave::saveIsRefused()
     QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
 }
 
-void TestEtherCatSlave::transferFaults_data()
+// A page that cannot learn the module's byte order says nothing.
+void TestEtherCatSlave::moduleFileIsNotFetched()
 {
-    QTest::addColumn<int>("module");
-    QTest::addColumn<bool>("whileLoading");
-    QTest::addColumn<QString>("fault");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("fetch fails") << 0 << true << "fetch-fails"
-                                 << "Failed to get file.";
-    QTest::newRow("nine fetches fail") << 0 << true << "fetch-fails:9"
-                                       << "";
-    QTest::newRow("template fails") << 0 << false << "fetch-fails"
-                                    << "Failed to write file.";
-    QTest::newRow("send fails") << 0 << false << "send-fails"
-                                << "Failed to send file.";
-    QTest::newRow("module: fetch fails") << EtherCatModule << true << "fetch-fails"
-                                         << "";
-    QTest::newRow("module: template fails") << EtherCatModule << false << "fetch-fails"
-                                            << "Failed to write file.";
-    QTest::newRow("module: send fails") << EtherCatModule << false << "send-fails"
-                                        << "Failed to write file.";
-}
-
-void TestEtherCatSlave::transferFaults()
-{
-    QFETCH(int, module);
-    QFETCH(bool, whileLoading);
-    QFETCH(QString, fault);
-    QFETCH(QString, message);
-    const QString file = module == 0 ? Override : Module;
-    const QString save = module == 0 ? "saveBt_Ecat" : "btn_saveFbECAT";
     PendantFixture pendant;
-    const QByteArray before = pendant.controllerFile(file);
-    fit(pendant, module);
+    fit(pendant, EtherCatModule);
     QVERIFY(pendant.openPastStartPage());
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    if (whileLoading)
-        QVERIFY(pendant.controller().faults().setFromText(fault));
+    pendant.controller().faults().set(Faults::FetchFails);
     QVERIFY(pendant.openPage(Button));
-    if (!whileLoading) {
-        QVERIFY(pendant.controller().faults().setFromText(fault));
-        QVERIFY(pendant.press(save));
-        QVERIFY(pendant.settle());
-    }
-    QCOMPARE(pendant.messages().mid(whileLoading ? 0 : 1),
-             message.isEmpty() ? QStringList() : QStringList(message));
-    if (!message.isEmpty())
-        QCOMPARE(MsgBoxScript::shown().constLast().kind, int(MsgBox::Warning));
-    QCOMPARE(pendant.controllerFile(file), before);
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
-
-    // With the cause gone the next save goes through.
-    pendant.controller().faults().clearAll();
-    QVERIFY(pendant.press(save));
-    QTRY_VERIFY(!pendant.isOpen());
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 1);
+    QCOMPARE(pendant.find<QComboBox>("cbb_Endian")->currentIndex(), 1);
+    QCOMPARE(pendant.messages(), QStringList());
 }
 
 void TestEtherCatSlave::byteOrderIsShown_data()
@@ -291,7 +234,7 @@ void TestEtherCatSlave::byteOrderIsShown()
 {
     QFETCH(QByteArray, endian);
     PendantFixture pendant;
-    QVERIFY(pendant.controller().files().write(Module, endianFile(endian)));
+    QVERIFY(pendant.put(Module, endianFile(endian)));
     QVERIFY(openPage(pendant, EtherCatModule));
     QTEST(pendant.find<QComboBox>("cbb_Endian")->currentIndex(), "item");
 }
@@ -314,7 +257,7 @@ void TestEtherCatSlave::byteOrderIsSaved()
     QFETCH(int, answer);
     QFETCH(QByteArray, saved);
     PendantFixture pendant;
-    QVERIFY(pendant.controller().files().write(Module, endianFile("littleEndian")));
+    QVERIFY(pendant.put(Module, endianFile("littleEndian")));
     QVERIFY(openPage(pendant, EtherCatModule));
     auto* combo = pendant.find<QComboBox>("cbb_Endian");
     combo->setCurrentIndex(chosen);
@@ -336,52 +279,13 @@ void TestEtherCatSlave::byteOrderIsSaved()
     QCOMPARE(combo->currentIndex(), saved == "littleEndian" ? 0 : 1);
 }
 
-void TestEtherCatSlave::userLevelDrops_data()
-{
-    QTest::addColumn<int>("module");
-    QTest::addColumn<QString>("box");
-    QTest::newRow("while fetching") << 0 << "";
-    QTest::newRow("table: in the question") << 0 << Sure;
-    QTest::newRow("table: in the restart question") << 0 << Restart;
-    QTest::newRow("module: in the question") << EtherCatModule << Sure;
-    QTest::newRow("module: in the restart question") << EtherCatModule << Restart;
-}
-
-// The application goes away under a slot that waits; nothing may be touched afterwards.
-void TestEtherCatSlave::userLevelDrops()
-{
-    QFETCH(int, module);
-    QFETCH(QString, box);
-    PendantFixture pendant;
-    const auto drop = [] { UserSession::instance().setUserLevel(1); };
-    if (box.isEmpty()) {
-        QVERIFY(pendant.openPastStartPage());
-        fit(pendant, 0);
-        pendant.controller().faults().set(Faults::FetchFails);
-        QTimer::singleShot(350, drop);
-        pendant.press(Button);
-    } else {
-        QVERIFY(openPage(pendant, module));
-        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-        MsgBoxScript::onShown([drop, box](const MsgBox* shown) {
-            if (shown->text() == box)
-                drop();
-        });
-        pendant.press(module == 0 ? "saveBt_Ecat" : "btn_saveFbECAT");
-    }
-    QTRY_VERIFY(!pendant.isOpen());
-    QTest::qWait(300);
-    QVERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
-}
-
 void TestEtherCatSlave::tableScrollsByFinger()
 {
     PendantFixture pendant;
     QByteArray file;
     for (int number = 1; number <= 25; ++number)
         file += "ECAT_SLAVE_OFF 1 " + QByteArray::number(number) + " ;DEVICE\n";
-    QVERIFY(pendant.controller().files().write(Override, file));
+    QVERIFY(pendant.put(Override, file));
     QVERIFY(openPage(pendant));
     const DeviceRows rows(pendant, "ecatTableWidget");
     QCOMPARE(rows.shown().size(), 20);

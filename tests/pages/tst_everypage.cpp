@@ -1,0 +1,537 @@
+#include "DeviceRows.h"
+#include "Faults.h"
+#include "FieldbusSettingLib.h"
+#include "ProfisafeDevice.h"
+#include "Texts.h"
+#include "TickCost.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QTabWidget>
+
+namespace {
+
+using namespace Texts;
+
+// What an override file, of which any text is one, cannot be: longer than the pendant takes.
+constexpr int TooLongBytes = 17 * 1024 * 1024;
+constexpr int EtherCatModule = 13;
+
+/// A file of a page. A text that is null is not said: the page does not take that step by itself.
+struct PageFile
+{
+    const char* path;   // on the controller
+    QString local;      // below the working directory's fieldbusSetting
+    QString unreadable; // faults that leave nothing to be read, and "too-long"
+    QString getText = GetFailed;
+    QString readText = ReadFailed;
+    QString writeText = WriteFailed;
+    QString sendText = SendFailed;
+    // Boxes between the question and the failure of a save, confirmed.
+    QStringList between = {};
+    // The controller's present file is fetched for a save.
+    bool isTemplate = false;
+};
+
+struct Page
+{
+    const char* name;
+    int id;
+    const char* widget;
+    const char* edit; // button that begins editing; null: it can be edited at once
+    const char* save;
+    std::function<bool(PendantFixture&)> change; // something that a save has to save
+    std::vector<PageFile> files;
+    const char* announced;   // variable that tells the controller of the file; null: a restart does
+    QString saved = Restart; // last text of a save, when no restart is wanted
+    int kind = MsgBox::Warning;
+    QString question = Sure;
+    std::function<bool(PendantFixture&)> prepare = {};
+    bool announcesUnsent = false;  // also when the file could not be sent
+    bool allocatesInATick = false; // for the texts of its CONNECT column
+    bool needsItsCopy = false;     // of the file, or it writes nothing
+};
+
+// A number that was not entered before.
+QString fresh(int first, int step = 1)
+{
+    static int entered = 0;
+    return QString::number(first + step * (++entered % 8));
+}
+
+bool tickRow(PendantFixture& pendant, const char* table, int row)
+{
+    return DeviceRows(pendant, table).press(row);
+}
+
+bool chooseAnother(PendantFixture& pendant, const char* page, const char* combo)
+{
+    auto* box = pendant.findOn<QComboBox>(page, combo);
+    if (box->currentIndex() < 0)
+        QTest::qFail("what could not be read is shown as the record has it, not as nothing", __FILE__,
+                     __LINE__);
+    box->setCurrentIndex(box->currentIndex() == 0 ? 1 : 0);
+    return true;
+}
+
+PageFile overrideFile()
+{
+    PageFile file{"/FA/override.cfg", "override.cfg", "too-long"};
+    file.isTemplate = true;
+    return file;
+}
+
+Page masterTable(const char* name, int id, const char* widget, const char* save, const char* table,
+                 const QString& folder, const char* path, const char* writeName, const char* root)
+{
+    const QString file = QString::fromLatin1(path).section('/', -1);
+    const QString text = QStringLiteral("Failed to %1 %2 file.");
+    Page page{name,
+              id,
+              widget,
+              nullptr,
+              save,
+              [table](PendantFixture& pendant) {
+                  return pendant.enter("lineEdit_enable_timeout", fresh(77)) && tickRow(pendant, table, 1);
+              },
+              {overrideFile(),
+               {path,
+                folder + "/" + file,
+                "fetch-garbage fetch-cut-short",
+                text.arg("get", file),
+                text.arg("read", file),
+                text.arg("write", writeName),
+                text.arg("send", writeName),
+                {Restart}}},
+              nullptr};
+    page.kind = MsgBox::Error;
+    page.prepare = [path, root](PendantFixture& pendant) { // all lights
+        return pendant.put(path,
+                           QByteArray("<") + root + "><Group><SlaveNum>9</SlaveNum></Group></" + root + ">");
+    };
+    return page;
+}
+
+Page textSlave(const char* name, int id, const char* widget, const char* save, const QString& file,
+               const QString& variant)
+{
+    static QList<QByteArray> paths; // that live as long as the pages
+    paths << "/FA/" + file.toLatin1() << "/application/fidbus/free/" + variant.toLatin1();
+    PageFile driver{paths.end()[-2].constData(), file, "fetch-empty"};
+    driver.isTemplate = true;
+    PageFile inMode{paths.end()[-1].constData(), variant, ""};
+    inMode.getText = QString();
+    inMode.isTemplate = true;
+    return {name,
+            id,
+            widget,
+            nullptr,
+            save,
+            [widget](PendantFixture& pendant) { return chooseAnother(pendant, widget, "cbb_largeSmall"); },
+            {driver, inMode},
+            nullptr};
+}
+
+const std::vector<Page>& pages()
+{
+    static const std::vector<Page> all = [] {
+        const QString anyXml = "fetch-garbage fetch-cut-short";
+        const QString mtcpText = "Failed to %1 mtcp_master.xml file.";
+        const QString mapping = "/application/fidbus/fieldbus_config.xml";
+        std::vector<Page> pages = {
+            {"heartbeat",
+             6,
+             "HeartbeatDetectionWidget",
+             nullptr,
+             "saveButton",
+             [](PendantFixture& pendant) { return pendant.press("modbusCheckBox"); },
+             {{"/application/fidbus/heartbeat.xml", "heartbeat.xml", anyXml}},
+             "ifidbus.xml_heartbeat",
+             Saved,
+             MsgBox::Error,
+             "Are you sure to save the data ?"},
+            {"MES",
+             0,
+             "MesSettingWidget",
+             nullptr,
+             "saveButton",
+             [](PendantFixture& pendant) { return pendant.enter("port_edit", fresh(9009)); },
+             {{"/application/mes/TcpServerConfig.xml", "TcpServerConfig.xml", anyXml}},
+             "imes.update_tcp_server_cfg",
+             Saved},
+            {"FINS",
+             2,
+             "FinsTcpSettingWidget",
+             nullptr,
+             "saveFinsButton",
+             [](PendantFixture& pendant) { return pendant.enter("serverPort_edit", fresh(9700)); },
+             {{"/application/finstcp/FinsTcpConfig.xml", "FinsTcpConfig.xml", anyXml}},
+             "ifins_tcp.bupdate_cfg",
+             Saved},
+            {"Modbus TCP master",
+             10,
+             "MtcpMasterSetting",
+             nullptr,
+             "btn_save",
+             [](PendantFixture& pendant) { return pendant.enter("le_masterId", fresh(33)); },
+             {{"/application/fidbus/mtcpMaster/mtcp_master.xml", "mtcpMaster/mtcp_master.xml", anyXml,
+               mtcpText.arg("get"), mtcpText.arg("read"), mtcpText.arg("write"), mtcpText.arg("send")}},
+             "ifidbus.mbc_save_enable",
+             "Successfully saved."},
+            {"DeviceNet slave",
+             9,
+             "DeviceNetSlaverSetting",
+             nullptr,
+             "btn_save",
+             [](PendantFixture& pendant) { return pendant.enter("le_macid", fresh(40, 2)); },
+             {{"/application/fidbus/devicenet/devicenetSlave.xml", "devicenetSlave.xml", anyXml}},
+             "ifidbus.xml_update_state"},
+            {"DeviceNet master",
+             13,
+             "DeviceNetMasterSetting",
+             "btn_edit",
+             "btn_edit",
+             [](PendantFixture& pendant) { return pendant.enter("le_wsid", fresh(9)); },
+             {{"/fa/dnmst0.cfg", "dnmst0.cfg", "fetch-garbage fetch-empty"}},
+             "ifidbus.dnm_save_config"},
+            {"EtherCAT slave",
+             3,
+             "EtherCatSettingWidget",
+             nullptr,
+             "saveBt_Ecat",
+             [](PendantFixture& pendant) { return tickRow(pendant, "ecatTableWidget", 0); },
+             {overrideFile()},
+             nullptr},
+            {"EtherCAT slave, module",
+             3,
+             "EtherCatSettingWidget",
+             nullptr,
+             "btn_saveFbECAT",
+             [](PendantFixture& pendant) {
+                 return chooseAnother(pendant, "EtherCatSettingWidget", "cbb_Endian");
+             },
+             {{"/fa/fbslave.cfgx", "fbslave.cfgx", "", "", "", "", WriteFailed}},
+             nullptr},
+            {"EtherCAT master",
+             8,
+             "EcatMasterSettingWidget",
+             nullptr,
+             "saveBt_Ecat",
+             [](PendantFixture& pendant) { return tickRow(pendant, "ecatTableWidget", 1); },
+             {overrideFile()},
+             nullptr},
+            masterTable("EtherNet/IP master", 11, "EipMasterSettingWidget", "saveBt_EipM", "eipMTableWidget",
+                        "eipMaster", "/application/fidbus/eipMaster/eip_master.xml", "eip_master.xml",
+                        "EipMasterCommunication"),
+            // Its texts call the file by another name when it is saved.
+            masterTable("PROFINET master", 12, "PfnMasterSetting", "btn_save", "pfnMasterTableWdt",
+                        "pfnMaster", "/application/fidbus/pfnMaster/pfn_master.xml", "pnm_master.xml",
+                        "PfnMasterCommunication"),
+            textSlave("PROFINET slave", 1, "Pfb_PfnSettingWidget", "saveBt", "pfb.cfg", "pfb_free.cfg"),
+            textSlave("EtherNet/IP slave", 4, "EtherNetSettingWidget", "saveButton", "dns-1.cfg",
+                      "dns_free.cfg"),
+            // The menu has fetched its file; it is written and sent by the bus file service.
+            {"I/O mapping",
+             7,
+             "ConfigWidget",
+             "bt_EditOrSave",
+             "bt_EditOrSave",
+             [](PendantFixture& pendant) {
+                 pendant.find<QTabWidget>("tabWidget_Bus")->setCurrentIndex(2);
+                 NumericKeyboardScript::enterNext(fresh(1));
+                 return pendant.pressCell("tableView_Eip", 2, 1) && pendant.settle();
+             },
+             {{"/application/fidbus/fieldbus_config.xml",
+               "",
+               "",
+               "",
+               "",
+               "",
+               "Failed to send " + mapping + " file to controller!",
+               {"Please wait...."}}},
+             "ifidbus.xml_update_state",
+             "Please manually power off and restart the robot later!",
+             MsgBox::Error,
+             "Are you sure to Save Configuration?"},
+        };
+        for (Page& page : pages) {
+            if (qstrcmp(page.name, "DeviceNet master") == 0)
+                page.announcesUnsent = page.needsItsCopy = page.allocatesInATick = true;
+            if (page.id == 10) // an empty record is refused
+                page.prepare = [](PendantFixture&) {
+                    FieldbusSettingLib::getInstance()->mtcpMaster = {"10.0.0.1", "502", "4", "2",
+                                                                     "3",        "5",   ""};
+                    return true;
+                };
+            if (page.save == QLatin1String("btn_saveFbECAT"))
+                page.prepare = [](PendantFixture& pendant) {
+                    pendant.controller().variables().set("ifidbus.anybus_fm", EtherCatModule);
+                    return true;
+                };
+        }
+        return pages;
+    }();
+    return all;
+}
+
+class AnyPage : public PendantFixture
+{
+public:
+    explicit AnyPage(const Page& page)
+        : m_page(page)
+    {
+    }
+    /// As far as the page, which is the next one to be opened.
+    bool openUpTo() { return isPrepared() && openPastStartPage() && isPrepared(); }
+    bool isPrepared() { return !m_page.prepare || m_page.prepare(*this); }
+    bool show() { return selectPage(m_page.id); }
+    bool save()
+    {
+        return (m_page.edit != m_page.save || caption() == QLatin1String("Save") ||
+                pressOn(m_page.widget, m_page.edit)) &&
+               Finger::press(findOn(m_page.widget, m_page.save));
+    }
+    bool change() { return (!m_page.edit || pressOn(m_page.widget, m_page.edit)) && m_page.change(*this); }
+
+private:
+    QString caption() const { return findOn<QAbstractButton>(m_page.widget, m_page.save)->text(); }
+
+    const Page& m_page;
+};
+
+} // namespace
+
+class TestEveryPage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void loadFaults_data();
+    void loadFaults();
+    void saveFaults_data() { eachPage(); }
+    void saveFaults();
+    void userLevelDrops_data() { eachPage(); }
+    void userLevelDrops();
+    void tickWithoutChangeCostsNothing_data();
+    void tickWithoutChangeCostsNothing();
+
+private:
+    static void eachPage();
+};
+
+void TestEveryPage::eachPage()
+{
+    QTest::addColumn<int>("pageIndex");
+    for (int index = 0; index < int(pages().size()); ++index)
+        QTest::newRow(pages()[index].name) << index;
+}
+
+void TestEveryPage::loadFaults_data()
+{
+    QTest::addColumn<int>("pageIndex");
+    QTest::addColumn<int>("fileIndex");
+    QTest::addColumn<QString>("fault");
+    for (int index = 0; index < int(pages().size()); ++index) {
+        const Page& page = pages()[index];
+        for (int number = 0; number < int(page.files.size()); ++number) {
+            const PageFile& file = page.files[number];
+            if (file.getText.isEmpty())
+                continue;
+            for (const QString& fault : ("fetch-fails " + file.unreadable).split(' ', Qt::SkipEmptyParts))
+                QTest::addRow("%s: %s, %s", page.name, file.path, qPrintable(fault))
+                    << index << number << fault;
+        }
+    }
+}
+
+void TestEveryPage::loadFaults()
+{
+    QFETCH(int, pageIndex);
+    QFETCH(int, fileIndex);
+    QFETCH(QString, fault);
+    const Page& page = pages()[pageIndex];
+    const PageFile& file = page.files[fileIndex];
+    AnyPage pendant(page);
+    QVERIFY(pendant.openUpTo());
+    const QByteArray sound = pendant.controllerFile(file.path);
+    if (fault == "too-long")
+        QVERIFY(pendant.put(file.path, QByteArray(TooLongBytes, 'x')));
+    else
+        QVERIFY(pendant.controller().faults().setFromText(fault + ":-1:" + file.path));
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    QVERIFY(pendant.show());
+    QCOMPARE(pendant.messages(), QStringList(fault == "fetch-fails" ? file.getText : file.readText));
+    QCOMPARE(MsgBoxScript::shown().constLast().kind, page.kind);
+    QCOMPARE(pendant.controller().traffic().stores(), QStringList());
+    QVERIFY(!page.announced || pendant.writesOf(page.announced).isEmpty());
+
+    // The page is usable: with the cause gone a save goes through, but for one that would send what is no
+    // file.
+    pendant.controller().faults().clearAll();
+    QVERIFY(pendant.put(file.path, sound));
+    pendant.change(); // of a table that could not be loaded there is nothing to change
+    PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second});
+    QVERIFY(pendant.save());
+    QTRY_COMPARE(pendant.messages().constLast(), page.needsItsCopy ? file.writeText : page.saved);
+    QCOMPARE(pendant.controller().traffic().stores().contains(file.path), !page.needsItsCopy);
+}
+
+// One fault after the other on the same page; each time a save goes through once the cause is gone.
+void TestEveryPage::saveFaults()
+{
+    QFETCH(int, pageIndex);
+    const Page& page = pages()[pageIndex];
+    AnyPage pendant(page);
+    QVERIFY(pendant.openUpTo());
+    QVERIFY(pendant.show());
+    QStringList sent; // what comes before a file in a save
+    for (const PageFile& file : page.files) {
+        const QString local = "../Application/fieldbusSetting/" + file.local;
+        const struct
+        {
+            const char* fault; // "folder": in the place of the pendant's own file, which cannot replace it
+            bool canBe;
+            QString text;
+        } cases[] = {{"send-fails", true, file.sendText},
+                     {"fetch-fails", file.isTemplate, file.writeText},
+                     {"folder", !file.writeText.isEmpty(), file.writeText}};
+        for (const auto& row : cases) {
+            if (!row.canBe)
+                continue;
+            const QByteArray name = QByteArray(file.path) + " " + row.fault;
+            const bool isUnsent = row.fault == QLatin1String("send-fails");
+            const bool isInTheWay = row.fault == QLatin1String("folder");
+            const QByteArray before = pendant.controllerFile(file.path);
+            QVERIFY2(pendant.change(), name);
+            if (isInTheWay)
+                QVERIFY(QFile::remove(local) && QDir().mkdir(local));
+            else
+                QVERIFY(pendant.controller().faults().setFromText(QString(row.fault) + ":-1:" + file.path));
+            Traffic& traffic = pendant.controller().traffic();
+            traffic.clear();
+            int shown = pendant.messages().size();
+            MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+            QVERIFY2(pendant.save(), name);
+            QTRY_COMPARE(pendant.messages().mid(shown),
+                         QStringList(page.question) + file.between + QStringList(row.text));
+            QVERIFY(pendant.settle());
+            QCOMPARE(MsgBoxScript::shown().constLast().kind, page.kind);
+            QVERIFY2(pendant.controllerFile(file.path) == before, name);
+            QCOMPARE(traffic.stores(), isUnsent ? sent + QStringList(file.path) : sent);
+            if (page.announced)
+                QCOMPARE(!pendant.writesOf(page.announced).isEmpty(), isUnsent && page.announcesUnsent);
+            QCOMPARE(traffic.restartRequests(), 0);
+
+            pendant.controller().faults().clearAll();
+            QVERIFY(!isInTheWay || QDir().rmdir(local));
+            const bool isLost = isInTheWay && page.needsItsCopy;
+            shown = pendant.messages().size();
+            PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second});
+            QVERIFY2(pendant.save(), name);
+            QTRY_VERIFY2(pendant.messages().mid(shown).contains(isLost ? file.writeText : page.saved), name);
+            QVERIFY(pendant.settle());
+            QVERIFY2((pendant.controllerFile(file.path) == before) == isLost, name);
+        }
+        sent << file.path;
+    }
+}
+
+// The application goes away under a slot that waits; nothing may be touched afterwards.
+void TestEveryPage::userLevelDrops()
+{
+    QFETCH(int, pageIndex);
+    const Page& page = pages()[pageIndex];
+    const PageFile& first = page.files.front();
+    const PageFile& last = page.files.back();
+    const struct
+    {
+        QString fault;
+        QString box; // in which it drops; none: while the file is fetched again and again
+        bool whileLoading;
+    } cases[] = {{"fetch-fails", {}, true},
+                 {"fetch-fails", first.getText, true},
+                 {QStringLiteral("send-fails:-1:") + last.path, last.sendText, false},
+                 {{}, page.question, false},
+                 {{}, page.saved, false}};
+    AnyPage pendant(page);
+    QVERIFY(pendant.openUpTo());
+    Traffic& traffic = pendant.controller().traffic();
+    for (const auto& row : cases) {
+        if (row.whileLoading && first.getText.isEmpty())
+            continue;
+        const QByteArray name = row.fault.toUtf8() + " " + row.box.toUtf8();
+        const QByteArray before = pendant.controllerFile(last.path);
+        QObject context;
+        int dropped = 0;
+        const auto drop = [&dropped] {
+            if (++dropped == 1)
+                PendantFixture::dropUserLevel();
+        };
+        if (row.box.isEmpty()) {
+            QObject::connect(&traffic, &Traffic::logged, &context, [&] {
+                if (traffic.failed(Traffic::Fetch) == 2)
+                    QTimer::singleShot(0, &context, drop);
+            });
+        }
+        MsgBoxScript::onShown([&](const MsgBox* shown) {
+            if (shown->text() == row.box)
+                drop();
+        });
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+        const auto strike = [&] {
+            return row.fault.isEmpty() || pendant.controller().faults().setFromText(row.fault);
+        };
+        QVERIFY(!row.whileLoading || strike());
+        pendant.show();
+        if (!row.whileLoading) {
+            QVERIFY2(pendant.change(), name);
+            QVERIFY(strike());
+            if (row.box == page.saved && page.saved != Restart)
+                PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second}); // of an offered restart
+            QVERIFY2(pendant.save(), name);
+        }
+        QTRY_VERIFY2(dropped == 1, name);
+        QVERIFY2(pendant.reopensAfterDrop(), name);
+        QCOMPARE(traffic.restartRequests(), 0);
+        if (row.box != page.saved)
+            QVERIFY2(pendant.controllerFile(last.path) == before, name);
+        QVERIFY(pendant.isPrepared());
+    }
+    QVERIFY(pendant.show());
+    QVERIFY(pendant.change());
+}
+
+void TestEveryPage::tickWithoutChangeCostsNothing_data()
+{
+    eachPage(); // -1 and -2: pages without a file
+    QTest::newRow("Modbus TCP slave") << -1;
+    QTest::newRow("ProfiSAFE") << -2;
+}
+
+void TestEveryPage::tickWithoutChangeCostsNothing()
+{
+    QFETCH(int, pageIndex);
+    const Page none{"", pageIndex == -1 ? 15 : 14, "", nullptr, "", {}, {}, nullptr};
+    AnyPage pendant(pageIndex < 0 ? none : pages()[pageIndex]);
+    if (pageIndex == -2)
+        pendant.controller().behaviour<ProfisafeDevice>().setPresent(true);
+    QVERIFY(pendant.openUpTo());
+    QVERIFY(pendant.show());
+    // Once what the page found has settled.
+    TickCost cost;
+    const bool allocates = pageIndex >= 0 && pages()[pageIndex].allocatesInATick;
+    const bool isFree = QTest::qWaitFor(
+        [&] {
+            cost = TickCost::of(pendant);
+            return cost.styleChanges == 0 && cost.paints == 0 &&
+                   (allocates ? cost.allocations >= 0 : cost.allocations == 0);
+        },
+        3000);
+    QVERIFY2(isFree, qPrintable(QStringLiteral("%1 allocations, %2 style changes, %3 paints")
+                                    .arg(cost.allocations)
+                                    .arg(cost.styleChanges)
+                                    .arg(cost.paints)));
+}
+
+PENDANT_TEST_MAIN(TestEveryPage)
+#include "tst_everypage.moc"
