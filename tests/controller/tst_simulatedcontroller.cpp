@@ -44,6 +44,8 @@ private slots:
     void commandsAreTaken();
     void updateState_data();
     void updateState();
+    void slaveFileIsChecked_data();
+    void slaveFileIsChecked();
     void mappingIsChecked_data();
     void mappingIsChecked();
     void withdrawnAnnouncementIsNotAnswered();
@@ -341,6 +343,41 @@ void TestSimulatedController::updateState()
     // Late is late by the pendant's clock, however fast the controller lives.
     if (fault == QLatin1String("slave-answered-late"))
         QTRY_COMPARE_WITH_TIMEOUT(intValue(UpdateState), 0x2000, FieldbusManager::SlaveLateMs + 500);
+}
+
+void TestSimulatedController::slaveFileIsChecked_data()
+{
+    QTest::addColumn<QByteArray>("file"); // null: removed
+    QTest::addColumn<bool>("mappingStored");
+    QTest::addColumn<int>("answer");
+    const QByteArray good = "<devicenet><Dns><Dns_MACID>1</Dns_MACID></Dns></devicenet>";
+    QTest::newRow("good") << good << false << 0x2000;
+    QTest::newRow("missing") << QByteArray() << false << 0x9000;
+    QTest::newRow("empty") << QByteArray("") << false << 0x9000;
+    QTest::newRow("cut short") << good.left(30) << false << 0x9000;
+    QTest::newRow("another root") << QByteArray("<Dns/>") << false << 0x9000;
+    QTest::newRow("together with the mapping") << good << true << 0x6000;
+}
+
+void TestSimulatedController::slaveFileIsChecked()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(bool, mappingStored);
+    QFETCH(int, answer);
+    const QString path = QStringLiteral("/application/fidbus/devicenet/devicenetSlave.xml");
+    QVERIFY(file.isNull() ? c().removeFile(path) : c().storeFile(path, file));
+    if (mappingStored) {
+        QByteArray mapping;
+        QVERIFY(c().fetchFile(Mapping, mapping) && c().storeFile(Mapping, mapping));
+        c().writeVariable(UpdateState, 0, 0x8000);
+    }
+    c().writeVariable(UpdateState, 0, 0x9000);
+    QTest::qWait(150);
+    QCOMPARE(intValue(UpdateState), answer);
+    // What was answered once is not answered again.
+    c().writeVariable(UpdateState, 0, 0x9000);
+    QTest::qWait(150);
+    QCOMPARE(intValue(UpdateState), answer & ~0x4000);
 }
 
 void TestSimulatedController::mappingIsChecked_data()
