@@ -38,9 +38,10 @@ extern "C" void* malloc(std::size_t size)
 PageBench::PageBench(int id, const QMap<QString, QByteArray>& files)
 {
     m_link.files = files;
-    // The page that is shown first fetches it, and would tell of a failure in a box that nobody answers.
+    // The page that is shown first warns of a role whose device is out of use, in a box that nobody answers.
     if (const QString file = QStringLiteral("/fa/override.cfg"); !files.contains(file))
-        m_link.files.insert(file, "ECAT_SLAVE_OFF 1 1001;ANYBUS\n");
+        m_link.files.insert(file, ";ECAT_SLAVE_OFF 1 1001 ;ANYBUS\n;ECAT_SLAVE_OFF 2 2001;EIM_DEVICE\n"
+                                  ";ECAT_SLAVE_OFF 2 2002;PNM_DEVICE\n");
     setCurrentLink(&m_link);
     BusFileService::instance().resetSession();
     m_data.reset(CreateZelCustomData());
