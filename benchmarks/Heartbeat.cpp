@@ -2,7 +2,6 @@
 #include "FieldbusSettingLib.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QSaveFile>
 
 #include <benchmark/benchmark.h>

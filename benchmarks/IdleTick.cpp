@@ -1,10 +1,5 @@
 // The host's idle tick over a page on which nothing has changed.
-#include "FieldbusSettingLib.h"
 #include "PageBench.h"
-
-#include <benchmark/benchmark.h>
-
-#include <memory>
 
 namespace {
 
@@ -23,30 +18,16 @@ QByteArray masterFile()
     return "<EipMasterCommunication><Group><SlaveNum>9</SlaveNum></Group></EipMasterCommunication>";
 }
 
-void measureTick(benchmark::State& state, int id, const QMap<QString, QByteArray>& files)
-{
-    PageBench page(id, files);
-    const WidgetWork work;
-    const long long before = allocationCount();
-    for (auto _ : state)
-        page.tick();
-    state.counters["allocations"] = benchmark::Counter(static_cast<double>(allocationCount() - before),
-                                                       benchmark::Counter::kAvgIterations);
-    QCoreApplication::processEvents();
-    state.counters["styles"] = work.styleChanges;
-    state.counters["paints"] = work.paints;
-}
-
 void heartbeatTick(benchmark::State& state)
 {
-    measureTick(state, HeartbeatPage, {{"/application/fidbus/heartbeat.xml", heartbeatFile()}});
+    PageBench(HeartbeatPage, {{"/application/fidbus/heartbeat.xml", heartbeatFile()}}).measureTicks(state);
 }
 
 void eipMasterTick(benchmark::State& state)
 {
-    measureTick(state, EipMasterPage,
-                {{"/application/fidbus/eipmaster/eip_master.xml", masterFile()},
-                 {"/fa/override.cfg", "ECAT_SLAVE_OFF 2 2001;EIM_DEVICE\n"}});
+    PageBench(EipMasterPage, {{"/application/fidbus/eipmaster/eip_master.xml", masterFile()},
+                              {"/fa/override.cfg", "ECAT_SLAVE_OFF 2 2001;EIM_DEVICE\n"}})
+        .measureTicks(state);
 }
 
 } // namespace

@@ -5,8 +5,6 @@
 #include <QAbstractButton>
 #include <QCoreApplication>
 
-#include <benchmark/benchmark.h>
-
 #include <memory>
 
 namespace {
@@ -90,16 +88,7 @@ void refillAndPaintLargestTable(benchmark::State& state)
 // The host's tick with the page in viewing mode and no save under way.
 void tickOfMappingPage(benchmark::State& state)
 {
-    PageBench bench(MappingPage, controllerFiles());
-    const WidgetWork work;
-    const long long before = allocationCount();
-    for (auto _ : state)
-        bench.tick();
-    state.counters["allocations"] = benchmark::Counter(static_cast<double>(allocationCount() - before),
-                                                       benchmark::Counter::kAvgIterations);
-    QCoreApplication::processEvents();
-    state.counters["styles"] = work.styleChanges;
-    state.counters["paints"] = work.paints;
+    PageBench(MappingPage, controllerFiles()).measureTicks(state);
 }
 
 } // namespace

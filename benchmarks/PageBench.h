@@ -3,9 +3,10 @@
 
 #include "MemoryLink.h"
 
-#include <QEvent>
 #include <QMetaMethod>
 #include <QWidget>
+
+#include <benchmark/benchmark.h>
 
 #include <memory>
 
@@ -25,8 +26,10 @@ public:
 
     /// The host's idle tick.
     void tick();
+    /// Times idle ticks over the page as it stands. Counters: heap allocations of a tick, and the style
+    /// changes and paints of all widgets in all ticks together.
+    void measureTicks(benchmark::State& state);
     ZelBaseWidget& application() { return *m_application; }
-    MemoryLink& link() { return m_link; }
 
 private:
     MemoryLink m_link;
@@ -34,20 +37,5 @@ private:
     std::unique_ptr<ZelBaseWidget> m_application;
     QMetaMethod m_idle; // by name a call would look the slot up, and allocate
 };
-
-/// Counts style-sheet changes and paints of all widgets while it lives.
-class WidgetWork : public QObject
-{
-public:
-    WidgetWork();
-    int styleChanges = 0;
-    int paints = 0;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-};
-
-/// Number of heap allocations of the process so far.
-long long allocationCount();
 
 #endif

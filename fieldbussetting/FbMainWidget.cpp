@@ -2,6 +2,7 @@
 
 #include "BusFileDataManager.h"
 #include "ExitPermission.h"
+#include "FieldbusModule.h"
 #include "FileLocations.h"
 #include "Logging.h"
 #include "PageBase.h"
@@ -22,7 +23,6 @@ using PageRegistry::Shown;
 namespace {
 
 constexpr int NotificationsAwaited = 2;
-constexpr int ProfisafePresent = 1;
 
 // Progress in per cent at the steps of the start.
 constexpr int ProgressBuilt = 30;
@@ -36,7 +36,7 @@ bool shownAtStart(const Entry& entry)
     case Shown::Always:
         return true;
     case Shown::WithProfisafe:
-        return BusFileDataManager::getInstance()->checkProfiSAFEStatus() == ProfisafePresent;
+        return FieldbusModule::isProfisafePresent();
     case Shown::WhenOn:
     case Shown::Never:
         break;
@@ -85,7 +85,7 @@ void FbMainWidget::buildMenu()
         auto* button = new QPushButton(tr(entry.caption), ui->menuArea);
         button->setObjectName(QLatin1String(entry.button));
         button->setCheckable(true);
-        button->setVisible(entry.create && shownAtStart(entry));
+        button->setVisible(shownAtStart(entry));
         ui->menuLayout->addWidget(button, entry.gridRow, 0);
         m_menuButtons->addButton(button, entry.id);
     }
@@ -142,7 +142,7 @@ void FbMainWidget::busNotification(int kind, const QString& path, bool success)
 void FbMainWidget::showButtonsOf(const QStringList& busNames)
 {
     for (const Entry& entry : PageRegistry::entries()) {
-        if (entry.busName && entry.create && busNames.contains(QLatin1String(entry.busName)))
+        if (entry.busName && busNames.contains(QLatin1String(entry.busName)))
             m_menuButtons->button(entry.id)->show();
     }
 }
@@ -180,7 +180,7 @@ PageBase* FbMainWidget::pageOf(int id)
 {
     const auto index = static_cast<std::size_t>(id);
     const Entry& entry = PageRegistry::entries()[index];
-    if (m_pages[index] || !entry.create || m_pageInTheMaking == id)
+    if (m_pages[index] || m_pageInTheMaking == id)
         return m_pages[index];
 
     // A page may fetch its file while it is built: the application may be closed, or the page asked for

@@ -104,6 +104,8 @@ void MainWidget::closeAppSlot()
 
 void MainWidget::closeApplication(bool hideCurrent)
 {
+    if (m_closing)
+        return;
     m_closing = true;
     setCentralWidget(nullptr);
     ZelCustomData::deleteMenuPage();

@@ -29,7 +29,9 @@ private:
     void closeApplication(bool hideCurrent);
     BaseZelCustomData* customData() const;
 
-    bool m_closing = false; // never cleared once set
+    /// Never cleared once set: closing processes events, and a level that drops meanwhile closes nothing
+    /// twice.
+    bool m_closing = false;
 };
 
 #endif

@@ -26,7 +26,7 @@ struct Entry
     int gridRow;         ///< of the button
     Shown shown;
     const char* busName;   ///< bus that shows the button, null for none
-    PageBase* (*create)(); ///< null while there is no such page; its button then stays hidden
+    PageBase* (*create)(); ///< makes the page
     bool blocksInput;      ///< the page asks for input to be blocked during its long operations
     bool needsFreeMode;    ///< the page is told whether free bus configuration is on
 };

@@ -46,12 +46,7 @@ constexpr std::array<Row, HeartbeatConfig::BusCount> Rows = {{
 constexpr int TimeoutDecimals = 3;
 constexpr double LongestTimeout = 9999.999; // seconds; what the keyboard lets through
 
-TransferTexts transferTexts()
-{
-    TransferTexts texts;
-    texts.kind = MsgBox::Error;
-    return texts;
-}
+constexpr TransferTexts Texts = {MsgBox::Error};
 
 } // namespace
 
@@ -99,8 +94,8 @@ void HeartbeatDetectionWidget::buildRows()
 void HeartbeatDetectionWidget::slotGetFileToUi()
 {
     Busy busy(this);
-    if (fetchAndRead(ConfigFile::Heartbeat, plain(&FieldbusSettingLib::readHeartbeatDetectionFile),
-                     transferTexts()) == Outcome::Gone)
+    if (fetchAndRead(ConfigFile::Heartbeat, plain(&FieldbusSettingLib::readHeartbeatDetectionFile), Texts) ==
+        Outcome::Gone)
         return;
     busy.release();
     fillFromRecord();
@@ -118,8 +113,8 @@ void HeartbeatDetectionWidget::on_saveButton_clicked()
         return;
     }
     storeToRecord();
-    if (writeAndSend(ConfigFile::Heartbeat, plain(&FieldbusSettingLib::writeHeartbeatDetectionFile),
-                     transferTexts()) != Outcome::Done)
+    if (writeAndSend(ConfigFile::Heartbeat, plain(&FieldbusSettingLib::writeHeartbeatDetectionFile), Texts) !=
+        Outcome::Done)
         return;
     lib()->set_ifidbus_heatbeatdet_xml_update(true);
     tell(MsgBox::Information, tr("Save successfully."));

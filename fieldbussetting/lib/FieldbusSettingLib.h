@@ -113,10 +113,14 @@ public:
     bool readFinsTcpFile(QString path);
     bool writeFinsTcpFile(QString path);
 
+    // Variables: what each means stands beside its handle in ControllerVariables.h. A getter reads what the
+    // pendant last heard of, a setter writes to the controller at once.
+
     // Variables of the bus state
 
     int get_ifidbus_bus_type_state() const;
     int get_ifidbus_anybus_fm() const;
+    /// Reads "ifidbus.is_rp2pro", whatever the name says: a controller with a slot for a fieldbus module.
     bool get_ifidbus_ctr_type() const;
     int get_ifidbus_commun_state() const;
     int get_ifidbus_performance_switch() const;

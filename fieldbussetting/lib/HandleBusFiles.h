@@ -2,7 +2,6 @@
 #define HANDLEBUSFILES_H
 
 #include <QString>
-#include <QStringList>
 
 struct BusSwitchSet;
 struct DeviceNetMasterConfig;
@@ -17,8 +16,8 @@ struct MtcpMasterConfig;
 struct OverrideRecord;
 struct PfbSlaveConfig;
 
-/// Carries out the file operations of FieldbusSettingLib. One class; the members of a format are defined in
-/// the source of that format, beside its record.
+/// Carries out the file operations of FieldbusSettingLib and keeps nothing of them. The members of a format
+/// are defined in the source of that format, beside its record.
 ///
 /// A reader takes any bytes: it returns false (file cannot be opened or is no such file) or true with every
 /// field of the record defined. A writer replaces its target in one step or leaves it as it was.
@@ -26,9 +25,6 @@ class HandleBusFiles
 {
 public:
     static HandleBusFiles* getInstance();
-
-    /// The endian names; the position is the code that files and pages use.
-    const QStringList& endianNames() const { return m_endianNames; }
 
     bool readFieldbusCfg(const QString& path, BusSwitchSet& switches, bool isImport);
     bool writeFieldbusCfg(const QString& path);
@@ -70,9 +66,7 @@ public:
     bool writeFinsTcpFile(const QString& path, const FinsClientConfig& record);
 
 private:
-    HandleBusFiles();
-
-    QStringList m_endianNames;
+    HandleBusFiles() = default;
 };
 
 #endif

@@ -1,9 +1,10 @@
 #include "BusMappingTab.h"
 
+#include "TouchTable.h"
+
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableWidget>
@@ -70,11 +71,6 @@ const Names& namesOf(Bus bus)
     return AllNames.at(static_cast<std::size_t>(bus));
 }
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("ConfigWidget", text);
-}
-
 QTableWidgetItem* makeItem(int column)
 {
     auto* item = new QTableWidgetItem;
@@ -126,12 +122,8 @@ BusMappingTab::BusMappingTab(Bus bus)
 
 void BusMappingTab::buildTable()
 {
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // Marks are the page's, not the finger's.
-    m_table->setSelectionMode(QAbstractItemView::NoSelection);
-    m_table->setFocusPolicy(Qt::NoFocus);
+    TouchTable::prepare(m_table); // marks are the page's, not the finger's
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_table->setWordWrap(true); // a row has room for two lines
     // As high as its rows when there is room, and scrolled when there is not.
     m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);

@@ -5,8 +5,6 @@
 
 #include <QWidget>
 
-#include <vector>
-
 class QBoxLayout;
 class QButtonGroup;
 class QLabel;

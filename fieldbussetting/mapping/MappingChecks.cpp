@@ -2,10 +2,6 @@
 
 #include "MappingLayout.h"
 
-#include <QCoreApplication>
-
-#include <algorithm>
-
 namespace Mapping {
 
 namespace {
@@ -85,53 +81,43 @@ constexpr std::array<MasterTexts, 2> MasterConflicts = {{
      QT_TRANSLATE_NOOP("ConfigWidget", "Conflicting with duplicate address reading only!")},
 }};
 
-// One save-time check of bytes; `system` is what the system area adds before the multiple is taken.
-struct ByteCheck
+// What bytes must be a multiple of when they are saved, and what the system area adds to them before.
+struct Multiple
 {
-    ByteRange range;
     int system = 0;
-    int multiple = None;
+    int of = None;
 };
 struct SaveCheck
 {
     Bus bus;
-    const char* switchName;
     const char* nameInMessages;
-    ByteCheck freeSmall, freeAll;
-    ByteCheck fixedSmall, fixedAll;
+    Multiple freeSmall, freeAll;
+    Multiple fixedSmall, fixedAll;
 };
+// In the order in which they are made. The free PROFINET slave's tips tell a multiple of its Bool and Int
+// bytes, but it is not checked.
 constexpr SaveCheck SaveChecks[] = {
-    {Bus::EipSlave, "EtherNetIPSlave", "EtheretIP", {{0, 200}}, {{8, 200}}, {{0, 80}}, {{4, 132}, 68}},
-    {Bus::PfnSlave,
-     "ProfinetSlave",
-     "Profinet",
-     {{0, 192}},
-     {{8, 192}, 0, 8},
-     {{4, 76}, 20, 8},
-     {{4, 124}, 68, 8}},
-    {Bus::DnSlave, "DeviceNetSlave", "DeviceNet", {{0, 200}}, {{8, 200}}, {{0, 80}}, {{4, 132}, 68}},
-    {Bus::EthcatSlave, "EthercatSlave", "EtherCat", {}, {{0, 184}}, {}, {{0, 116}}},
+    {Bus::EipSlave, "EtheretIP", {}, {}, {}, {}},
+    {Bus::PfnSlave, "Profinet", {}, {0, 8}, {20, 8}, {68, 8}},
+    {Bus::DnSlave, "DeviceNet", {}, {}, {}, {}},
+    {Bus::EthcatSlave, "EtherCat", {}, {}, {}, {}},
 };
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("ConfigWidget", text);
-}
 
 Message warning(const QString& text)
 {
     return {Severity::Warning, text};
 }
 
-bool isMultiple(int bytes, const ByteCheck& check)
+bool isMultiple(int bytes, const Multiple& multiple)
 {
-    return check.multiple == None || (check.system + bytes) % check.multiple == 0;
+    return multiple.of == None || (multiple.system + bytes) % multiple.of == 0;
 }
 
 Refusal savedBytesRefusal(const SaveCheck& check, bool freeMode, const Rows& rows)
 {
-    const ByteCheck& small = freeMode ? check.freeSmall : check.fixedSmall;
-    const ByteCheck& all = freeMode ? check.freeAll : check.fixedAll;
+    const Limits& limits = limitsOf(numberOf(check.bus, Direction::ReadOnly), freeMode);
+    const Multiple& small = freeMode ? check.freeSmall : check.fixedSmall;
+    const Multiple& all = freeMode ? check.freeAll : check.fixedAll;
     const QString name = QLatin1String(check.nameInMessages);
     const auto outside = [&name](const char* text, const ByteRange& range) {
         return warning(translated(text).arg(name).arg(range.least).arg(range.most));
@@ -140,14 +126,14 @@ Refusal savedBytesRefusal(const SaveCheck& check, bool freeMode, const Rows& row
         return warning(translated(text).arg(name).arg(multiple));
     };
     // The least bytes of Bool and Int stand in the message only.
-    if (small.range.isGiven() && smallBytesOf(rows) > small.range.most)
-        return outside(NamedSmallBytesRange, small.range);
+    if (limits.smallBytes.isGiven() && smallBytesOf(rows) > limits.smallBytes.most)
+        return outside(NamedSmallBytesRange, limits.smallBytes);
     if (!isMultiple(smallBytesOf(rows), small))
-        return uneven(NamedSmallBytesMultiple, small.multiple);
-    if (bytesOf(rows) < all.range.least || bytesOf(rows) > all.range.most)
-        return outside(NamedBytesRange, all.range);
+        return uneven(NamedSmallBytesMultiple, small.of);
+    if (bytesOf(rows) < limits.allBytes.least || bytesOf(rows) > limits.allBytes.most)
+        return outside(NamedBytesRange, limits.allBytes);
     if (!isMultiple(bytesOf(rows), all))
-        return uneven(NamedBytesMultiple, all.multiple);
+        return uneven(NamedBytesMultiple, all.of);
     return {};
 }
 
@@ -238,7 +224,7 @@ Refusal masterBlockRefusal(const BusAddrNumInfo& bus, Direction direction, Enter
 Refusal saveRefusal(const std::vector<BusAddrNumInfo>& buses, const QStringList& busNames, bool freeMode)
 {
     for (const SaveCheck& check : SaveChecks) {
-        if (!busNames.contains(QLatin1String(check.switchName), Qt::CaseInsensitive))
+        if (!busNames.contains(QLatin1String(infoOf(check.bus).name), Qt::CaseInsensitive))
             continue;
         const BusAddrNumInfo& bus = buses.at(static_cast<std::size_t>(check.bus));
         if (Refusal refusal = savedBytesRefusal(check, freeMode, bus.readOnly.user))

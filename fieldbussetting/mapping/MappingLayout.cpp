@@ -12,8 +12,6 @@ constexpr int BytesPerFloat = 4;
 constexpr int BoolsPerRegister = 16;
 constexpr int RegistersPerFloat = 2;
 
-constexpr BusVariableType Types[] = {BusBool, BusInt, BusFloat};
-
 using SizeOf = int (*)(BusVariableType, int);
 
 int sumOf(const Rows& rows, SizeOf sizeOf)

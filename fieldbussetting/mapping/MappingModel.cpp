@@ -1,6 +1,6 @@
 #include "MappingModel.h"
 
-#include <QCoreApplication>
+#include "MappingRows.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,149 +9,9 @@ using namespace Mapping;
 
 namespace {
 
-using Row = MappingModel::Row;
-
-constexpr BusVariableType Types[] = {BusBool, BusInt, BusFloat};
-
-constexpr const char* UserTypes[] = {QT_TRANSLATE_NOOP("ConfigWidget", "User Bool"),
-                                     QT_TRANSLATE_NOOP("ConfigWidget", "User Int"),
-                                     QT_TRANSLATE_NOOP("ConfigWidget", "User Float")};
-constexpr const char* SystemTypes[] = {QT_TRANSLATE_NOOP("ConfigWidget", "System Bool"),
-                                       QT_TRANSLATE_NOOP("ConfigWidget", "System Int"),
-                                       QT_TRANSLATE_NOOP("ConfigWidget", "System Float")};
-constexpr const char* MasterTypes[] = {QT_TRANSLATE_NOOP("ConfigWidget", "Bool"),
-                                       QT_TRANSLATE_NOOP("ConfigWidget", "Int"),
-                                       QT_TRANSLATE_NOOP("ConfigWidget", "Float")};
-
-// Parts of the names of the bus variables.
-constexpr const char* VariableTypes[] = {"_b", "_i", "_r"};
-
 constexpr const char* SystemIsFixed = QT_TRANSLATE_NOOP("ConfigWidget", "System Quantity Can Not Edit!");
 constexpr const char* NoStartOfNothing =
     QT_TRANSLATE_NOOP("ConfigWidget", "Cannot set start address for quantity 0!");
-
-const QString NoValue = QStringLiteral("--");
-
-// Placeholders that stay to be seen where a block has no system rows in the fixed mode: the numbers of its
-// rows run to 5.
-constexpr int PlaceholdersShown = 2;
-constexpr int SlaveTailRows = 3;
-constexpr int MtcpTailRows = 4;
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("ConfigWidget", text);
-}
-
-QString inBrackets(qint64 number)
-{
-    return QStringLiteral("[%1]").arg(number);
-}
-
-QString registerText(quint32 address)
-{
-    return address == NoBusAddress ? NoValue : QString::number(address);
-}
-
-QString variableText(const QString& name, int quantity)
-{
-    return name + QStringLiteral(":[0]~") + inBrackets(quantity - 1);
-}
-
-Row emptyRow(Row::Kind kind, const char* typeText)
-{
-    Row row;
-    row.kind = kind;
-    row.cells.fill(NoValue);
-    row.cells[MappingModel::TypeColumn] = translated(typeText);
-    return row;
-}
-
-Row placeholder(bool isHidden)
-{
-    Row row = emptyRow(Row::Reserved, QT_TRANSLATE_NOOP("ConfigWidget", "Reserved"));
-    row.isHidden = isHidden;
-    return row;
-}
-
-void fillAddresses(Row& row, const SubTable& table, const BusRowInfo& info)
-{
-    QString& start = row.cells[MappingModel::StartAddress];
-    QString& end = row.cells[MappingModel::EndAddress];
-    switch (infoOf(table.bus).layout) {
-    case Layout::Bytes:
-        if (info.start != NoBusAddress)
-            start = QLatin1String(table.prefix) + QLatin1Char(':') + inBrackets(info.start);
-        if (info.end != NoBusAddress)
-            end = inBrackets(info.end);
-        break;
-    case Layout::SlaveRegisters:
-    case Layout::MasterRegisters:
-        start = registerText(info.start);
-        end = registerText(info.end);
-        break;
-    case Layout::MasterBools:
-        // What the master was given, whatever the file says of addresses.
-        start = QLatin1String(table.prefix);
-        end = inBrackets(bytesOf(BusBool, info.quantity) - 1);
-        break;
-    }
-}
-
-Row dataRow(Row::Kind kind, const char* typeText, BusVariableType type, const SubTable& table,
-            const BusRowInfo& info, const QString& variable)
-{
-    Row row = emptyRow(kind, typeText);
-    row.type = type;
-    row.cells[MappingModel::Quantity] = QString::number(info.quantity);
-    row.cells[MappingModel::Byte] = QString::number(bytesOf(type, info.quantity));
-    if (info.quantity > 0) {
-        fillAddresses(row, table, info);
-        row.cells[MappingModel::BusVariable] = variableText(variable, info.quantity);
-    }
-    return row;
-}
-
-void addDataRows(std::vector<Row>& rows, Row::Kind kind, const char* const (&typeTexts)[3],
-                 const SubTable& table, const Rows& infos)
-{
-    const QString key = QLatin1String(kind == Row::System ? table.systemKey : table.userKey);
-    for (const BusVariableType type : Types)
-        rows.push_back(dataRow(kind, typeTexts[type], type, table, infos[type],
-                               key + QLatin1String(VariableTypes[type])));
-}
-
-Row totalRow(const BusAreaInfo& area, bool freeMode)
-{
-    Row row = emptyRow(Row::Total, QT_TRANSLATE_NOOP("ConfigWidget", "Total"));
-    row.cells[MappingModel::Byte] = QString::number(bytesOf(area.user));
-    if (freeMode) {
-        row.cells[MappingModel::StartAddress] = registerText(area.start);
-        row.cells[MappingModel::EndAddress] = registerText(area.end);
-    }
-    return row;
-}
-
-std::vector<Row> slaveRows(const SubTable& table, const BusAreaInfo& area, bool freeMode)
-{
-    std::vector<Row> rows;
-    const bool isMtcp = table.bus == Bus::MtcpSlave;
-    const bool hasSystem = !freeMode && *table.systemKey;
-    if (isMtcp) {
-        rows.push_back(totalRow(area, freeMode));
-        rows.back().isHidden = !freeMode && !hasSystem;
-    }
-    addDataRows(rows, Row::User, UserTypes, table, area.user);
-    int tail = isMtcp ? MtcpTailRows : SlaveTailRows;
-    if (hasSystem) {
-        addDataRows(rows, Row::System, SystemTypes, table, area.system);
-        tail -= SlaveTailRows;
-    }
-    const int shown = freeMode || hasSystem ? 0 : PlaceholdersShown;
-    for (int i = 0; i < tail; ++i)
-        rows.push_back(placeholder(i >= shown));
-    return rows;
-}
 
 MappingModel::Press refusedPress(Severity severity, const char* text)
 {
@@ -215,24 +75,9 @@ std::vector<BusAddrNumInfo> MappingModel::editedBuses() const
     return edited;
 }
 
-std::vector<Row> MappingModel::rowsOf(int number) const
+std::vector<MappingModel::Row> MappingModel::rowsOf(int number) const
 {
-    const SubTable& table = tableOf(number);
-    const BusAreaInfo& area = shownArea(number);
-    switch (infoOf(table.bus).layout) {
-    case Layout::MasterBools:
-        return {dataRow(Row::User, MasterTypes[BusBool], BusBool, table, area.user[BusBool],
-                        QLatin1String(table.userKey))};
-    case Layout::MasterRegisters: {
-        std::vector<Row> rows;
-        addDataRows(rows, Row::User, MasterTypes, table, area.user);
-        return rows;
-    }
-    case Layout::Bytes:
-    case Layout::SlaveRegisters:
-        break;
-    }
-    return slaveRows(table, area, m_free);
+    return Mapping::rowsOf(tableOf(number), shownArea(number), m_free);
 }
 
 MappingModel::Press MappingModel::pressed(int number, const Row& row, int column) const

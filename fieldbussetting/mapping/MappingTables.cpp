@@ -1,5 +1,7 @@
 #include "MappingTables.h"
 
+#include "BusRoleNames.h"
+
 #include <QCoreApplication>
 
 namespace Mapping {
@@ -113,16 +115,16 @@ constexpr std::array<SubTable, TableCount> Tables = {{
 }};
 
 constexpr std::array<BusInfo, BusCount> Buses = {{
-    {"ModbusTcpSlave", Layout::SlaveRegisters, true, 0, 3},
-    {"EtherCatSlave", Layout::Bytes, true, 3, 2},
-    {"EtherNetIPSlave", Layout::Bytes, true, 5, 2},
-    {"ProfinetSlave", Layout::Bytes, true, 7, 2},
-    {"EtherCatMaster", Layout::MasterBools, false, 9, 2},
-    {"DeviceNetSlave", Layout::Bytes, true, 11, 2},
-    {"ModbusTcpMaster", Layout::MasterRegisters, true, 13, 2},
-    {"EtherNetIPMaster", Layout::MasterBools, false, 15, 2},
-    {"ProfinetMaster", Layout::MasterBools, false, 17, 2},
-    {"DeviceNetMaster", Layout::MasterBools, true, 19, 2},
+    {BusRoleNames::ModbusTcpSlave, Layout::SlaveRegisters, true, 0, 3},
+    {BusRoleNames::EtherCatSlave, Layout::Bytes, true, 3, 2},
+    {BusRoleNames::EtherNetIPSlave, Layout::Bytes, true, 5, 2},
+    {BusRoleNames::ProfinetSlave, Layout::Bytes, true, 7, 2},
+    {BusRoleNames::EtherCatMaster, Layout::MasterBools, false, 9, 2},
+    {BusRoleNames::DeviceNetSlave, Layout::Bytes, true, 11, 2},
+    {BusRoleNames::ModbusTcpMaster, Layout::MasterRegisters, true, 13, 2},
+    {BusRoleNames::EtherNetIPMaster, Layout::MasterBools, false, 15, 2},
+    {BusRoleNames::ProfinetMaster, Layout::MasterBools, false, 17, 2},
+    {BusRoleNames::DeviceNetMaster, Layout::MasterBools, true, 19, 2},
 }};
 
 } // namespace
@@ -148,10 +150,15 @@ const Limits& limitsOf(int number, bool freeMode)
     return freeMode ? *table.freeLimits : *table.fixedLimits;
 }
 
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("ConfigWidget", text);
+}
+
 QString tipsOf(int number, bool freeMode)
 {
     const Limits& limits = limitsOf(number, freeMode);
-    QString tips = QCoreApplication::translate("ConfigWidget", limits.tips);
+    QString tips = translated(limits.tips);
     for (const int value : {limits.quantity[BusBool], limits.quantity[BusInt], limits.quantity[BusFloat],
                             limits.boolMultiple, limits.smallBytes.least, limits.smallBytes.most,
                             limits.allBytes.least, limits.allBytes.most, limits.smallMultiple}) {

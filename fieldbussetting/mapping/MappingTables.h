@@ -36,6 +36,9 @@ enum class Layout {
     MasterBools      ///< a single row of Bools, counted in bytes
 };
 
+/// The types of variables, in the order of their rows.
+constexpr std::array<BusVariableType, 3> Types = {BusBool, BusInt, BusFloat};
+
 /// A limit that a bus does not have.
 constexpr int None = -1;
 
@@ -83,6 +86,8 @@ const BusInfo& infoOf(Bus bus);
 const SubTable& tableOf(int number);
 int numberOf(Bus bus, Direction direction);
 const Limits& limitsOf(int number, bool freeMode);
+/// A text of the page in the operator's language; the translations know them all as the page's own.
+QString translated(const char* text);
 /// The limits of a table in words, for the operator.
 QString tipsOf(int number, bool freeMode);
 

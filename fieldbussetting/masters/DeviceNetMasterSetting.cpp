@@ -1,6 +1,7 @@
 #include "DeviceNetMasterSetting.h"
 
 #include "BusFileDataManager.h"
+#include "BusRoleNames.h"
 #include "QTouchLineEdit.h"
 #include "ZelFunctions.h"
 #include "ui_DeviceNetMasterSetting.h"
@@ -161,7 +162,7 @@ void DeviceNetMasterSetting::takeLimits()
     record.inputLimitBits = 0;
     record.outputLimitBits = 0;
     for (const BusAddrNumInfo& bus : BusFileDataManager::getInstance()->getBusNumAndAddr()) {
-        if (bus.busName != QLatin1String("DeviceNetMaster"))
+        if (bus.busName != QLatin1String(BusRoleNames::DeviceNetMaster))
             continue;
         record.inputLimitBits = bus.readOnly.user[BusBool].quantity;
         record.outputLimitBits = bus.writeOnly.user[BusBool].quantity;

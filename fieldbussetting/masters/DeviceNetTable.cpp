@@ -1,5 +1,7 @@
 #include "DeviceNetTable.h"
 
+#include "TouchTable.h"
+
 #include <QHeaderView>
 
 namespace {
@@ -49,10 +51,7 @@ DeviceNetTable::DeviceNetTable(QWidget* parent)
     : QTableWidget(0, List::ColumnCount, parent)
 {
     setFixedWidth(TableWidth);
-    setFocusPolicy(Qt::NoFocus);
-    setEditTriggers(NoEditTriggers);
-    setSelectionMode(NoSelection);
-    setVerticalScrollMode(ScrollPerPixel);
+    TouchTable::prepare(this);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Of a state that is still too long the code at its end is what matters.
     setWordWrap(false);

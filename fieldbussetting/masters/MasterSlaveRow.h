@@ -7,7 +7,6 @@
 #include <QWidget>
 
 #include <array>
-#include <optional>
 
 class QCheckBox;
 class QGridLayout;

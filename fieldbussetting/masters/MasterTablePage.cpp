@@ -1,6 +1,6 @@
 #include "MasterTablePage.h"
 
-#include "BusFileDataManager.h"
+#include "FieldbusModule.h"
 #include "MasterSlaveList.h"
 #include "ui_MasterSettingsPanel.h"
 
@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int ProfisafePresent = 1;
 constexpr double LongestTimeout = 999999;
 
 // The device table beside the settings, in pixels.
@@ -21,12 +20,7 @@ constexpr int ActivateWidth = 104;
 
 constexpr int SlavesFirst = 100; // share of the height, against 1 of the device table
 
-TransferTexts deviceTexts()
-{
-    TransferTexts texts;
-    texts.kind = MsgBox::Error;
-    return texts;
-}
+constexpr TransferTexts DeviceTexts = {MsgBox::Error};
 
 // The files carry numbers: what is none is written as 0.
 QString wholeNumber(const QLineEdit* edit)
@@ -78,15 +72,14 @@ void MasterTablePage::build(QTableWidget* deviceTable, QBoxLayout* besideTable, 
 
 bool MasterTablePage::usesDevices() const
 {
-    return !m_master.yieldsToProfisafe ||
-           BusFileDataManager::getInstance()->checkProfiSAFEStatus() != ProfisafePresent;
+    return !m_master.yieldsToProfisafe || !FieldbusModule::isProfisafePresent();
 }
 
 void MasterTablePage::slotGetFileToUi()
 {
     const Busy busy(this);
     if (usesDevices() &&
-        fetchAndRead(ConfigFile::Override, plain(m_master.readDevices), deviceTexts()) == Outcome::Gone)
+        fetchAndRead(ConfigFile::Override, plain(m_master.readDevices), DeviceTexts) == Outcome::Gone)
         return;
     if (fetchAndRead(m_master.slaveFile, plain(m_master.readSlaves), m_master.slaveTexts) == Outcome::Gone)
         return;
@@ -112,14 +105,14 @@ void MasterTablePage::on_btn_reset_clicked()
 void MasterTablePage::save()
 {
     const bool allowed = m_master.saveWhen == SaveWhen::ServoOff ? checkServoOff() : Restart::isAllowed();
-    if (!allowed || !confirmed(tr("Are you sure to save?")))
+    if (!allowed || !confirmed(translated(QT_TRANSLATE_NOOP("PageBase", "Are you sure to save?"))))
         return;
     if (usesDevices()) {
         m_devices->storeFlags(devices());
         const auto writeDevices = [write = m_master.writeDevices](const QString& localPath) {
             return (lib()->*write)(localPath, static_cast<int>(OverrideMode::WriteRecord));
         };
-        if (writeAndSend(ConfigFile::Override, writeDevices, deviceTexts()) != Outcome::Done)
+        if (writeAndSend(ConfigFile::Override, writeDevices, DeviceTexts) != Outcome::Done)
             return;
     }
     // Asked before the second file is written: the operator answers once, and the restart comes last.

@@ -4,6 +4,7 @@
 #include "ui_MtcpMasterSetting.h"
 
 #include <QSignalBlocker>
+#include <QStringList>
 
 #include <algorithm>
 #include <iterator>
@@ -47,15 +48,15 @@ constexpr int TimeoutDecimals = 3;
 constexpr double ShortestTimeout = 0.1; // seconds
 constexpr double LongestTimeout = 10.0;
 
-TransferTexts transferTexts()
-{
-    TransferTexts texts;
-    texts.getFailed = QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to get mtcp_master.xml file.");
-    texts.readFailed = QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to read mtcp_master.xml file.");
-    texts.writeFailed = QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to write mtcp_master.xml file.");
-    texts.sendFailed = QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to send mtcp_master.xml file.");
-    return texts;
-}
+constexpr TransferTexts Texts = {
+    MsgBox::Warning, QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to get mtcp_master.xml file."),
+    QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to read mtcp_master.xml file."),
+    QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to write mtcp_master.xml file."),
+    QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to send mtcp_master.xml file.")};
+
+// The ports of other services. None is known: the port is another machine's. The check is kept for the day
+// on which something is.
+const QStringList OccupiedPorts;
 
 // A file may hold an index that is none; the first order is shown for it.
 int shownByteOrder(const QString& text)
@@ -116,7 +117,7 @@ void MtcpMasterSetting::prepareFields()
 void MtcpMasterSetting::slotGetFileToUi()
 {
     Busy busy(this);
-    if (fetchAndRead(ConfigFile::MtcpMaster, plain(&FieldbusSettingLib::readMtcpFile), transferTexts()) ==
+    if (fetchAndRead(ConfigFile::MtcpMaster, plain(&FieldbusSettingLib::readMtcpFile), Texts) ==
         Outcome::Gone)
         return;
     busy.release();
@@ -168,7 +169,7 @@ void MtcpMasterSetting::on_btn_save_clicked()
     if (isSame(settings, record) && isSame(record, m_saved))
         return;
     record = settings;
-    if (writeAndSend(ConfigFile::MtcpMaster, plain(&FieldbusSettingLib::writeMtcpFile), transferTexts()) !=
+    if (writeAndSend(ConfigFile::MtcpMaster, plain(&FieldbusSettingLib::writeMtcpFile), Texts) !=
         Outcome::Done)
         return;
     lib()->set_ifidbus_mbc_save(true);
@@ -187,9 +188,7 @@ void MtcpMasterSetting::slotCheckIpFormat(const QString& text)
 
 void MtcpMasterSetting::slotCheckPortEffect(const QString& text)
 {
-    // The list is empty: the port is another machine's, of which nothing is known. The check is kept for the
-    // day on which something is.
-    if (!m_occupiedPorts.contains(text, Qt::CaseInsensitive))
+    if (!OccupiedPorts.contains(text, Qt::CaseInsensitive))
         m_goodPort = text;
     else if (tell(MsgBox::Warning, tr("The port number is already occupied!")) != Answer::Gone)
         ui->le_masterPort->setText(m_goodPort);

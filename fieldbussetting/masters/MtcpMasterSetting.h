@@ -4,8 +4,6 @@
 #include "LinkLight.h"
 #include "PageBase.h"
 
-#include <QStringList>
-
 #include <memory>
 #include <optional>
 
@@ -43,7 +41,6 @@ private:
     std::unique_ptr<Ui::MtcpMasterSetting> ui;
     std::optional<LinkLight> m_connection;
     MtcpMasterConfig m_saved; ///< what the controller has, as far as this page knows
-    QStringList m_occupiedPorts;
     QString m_goodIp;
     QString m_goodPort;
 };

@@ -1,5 +1,7 @@
 #include "DeviceTable.h"
 
+#include "TouchTable.h"
+
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -50,6 +52,7 @@ QCheckBox* makeBoxIn(QWidget* cell)
 DeviceTable::DeviceTable(QTableWidget* table)
     : m_table(table)
 {
+    TouchTable::prepare(m_table);
     m_table->setRowCount(RowCount);
     m_table->setColumnCount(static_cast<int>(std::size(Columns)));
     int column = 0;
@@ -64,10 +67,6 @@ DeviceTable::DeviceTable(QTableWidget* table)
     m_table->verticalHeader()->setDefaultSectionSize(RowHeight);
     m_table->verticalHeader()->setVisible(false);
     m_table->verticalScrollBar()->setFixedWidth(ScrollBarWidth);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionMode(QAbstractItemView::NoSelection);
-    m_table->setFocusPolicy(Qt::NoFocus);
-    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel); // not a row at a time under a finger
     // A glove that misses the box still meets its cell.
     QObject::connect(m_table, &QTableWidget::cellClicked, m_table, [this](int row, int clickedColumn) {
         if (clickedColumn == ActivateColumn && box(row))

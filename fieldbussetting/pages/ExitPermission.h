@@ -14,9 +14,12 @@ public:
     ExitPermission(const ExitPermission&) = delete;
     ExitPermission& operator=(const ExitPermission&) = delete;
 
+    /// Takes the permission away; again has no effect.
     void withdraw();
+    /// Gives back what this object has taken away, and nothing that another one has.
     void give();
 
+    /// Whether no object holds the permission back.
     static bool isGiven();
 
 private:

@@ -1,13 +1,11 @@
 #include "LinkLight.h"
 
-#include "StatusLight.h"
-
 #include <QLabel>
 
-LinkLight::LinkLight(QLabel* label)
+LinkLight::LinkLight(QLabel* label, int size)
     : m_label(label)
 {
-    m_label->setFixedSize(StatusLight::Size, StatusLight::Size);
+    m_label->setFixedSize(size, size);
     m_label->setEnabled(false);
 }
 

@@ -1,6 +1,8 @@
 #ifndef LINKLIGHT_H
 #define LINKLIGHT_H
 
+#include "StatusLight.h"
+
 class QLabel;
 
 /// A light whose style sheet shows green while its label is enabled and red while it is disabled. The label
@@ -8,7 +10,8 @@ class QLabel;
 class LinkLight
 {
 public:
-    explicit LinkLight(QLabel* label);
+    /// `size` in pixels.
+    explicit LinkLight(QLabel* label, int size = StatusLight::Size);
     void show(bool linked);
 
 private:

@@ -69,7 +69,9 @@ void PageBase::applyStyle()
 
 QString PageBase::translated(const char* text) const
 {
-    return QCoreApplication::translate(m_className, text);
+    QString own = QCoreApplication::translate(m_className, text);
+    // What has no translation comes back as it is.
+    return own == QLatin1String(text) ? QCoreApplication::translate("PageBase", text) : own;
 }
 
 // The box is the page's child, so that it goes when the page does; it may be gone before `exec` returns.
@@ -148,13 +150,14 @@ bool PageBase::checkServoOff()
 {
     if (!DataAccess::isRobotRunning() && !DataAccess::isServoOn())
         return true;
-    tell(MsgBox::Warning, translated("Please turn off the servo first!"));
+    tell(MsgBox::Warning, translated(QT_TRANSLATE_NOOP("PageBase", "Please turn off the servo first!")));
     return false;
 }
 
 PageBase::Answer PageBase::askRestart()
 {
-    return ask(translated("Save successfully, Are you sure to restart robot to make it effect?"));
+    return ask(translated(QT_TRANSLATE_NOOP(
+        "PageBase", "Save successfully, Are you sure to restart robot to make it effect?")));
 }
 
 PageBase::Answer PageBase::tellRestarted(bool stopped)

@@ -17,16 +17,16 @@
 /// have been closed. `Gone` says so; the caller then returns at once without touching the page.
 enum class Outcome { Done, Failed, Gone };
 
-/// The messages of a file's transfer and the kind of box that shows them. Texts in the page's own context. A
+/// The messages of a file's transfer and the kind of box that shows them. Texts as `translated` takes them. A
 /// "%1" in a text stands for the file: its path on the controller when it cannot be fetched, its local path
 /// when it cannot be read, else its name.
 struct TransferTexts
 {
     MsgBox::Kind kind = MsgBox::Warning;
-    const char* getFailed = "Failed to get file.";
-    const char* readFailed = "Failed to read file.";
-    const char* writeFailed = "Failed to write file.";
-    const char* sendFailed = "Failed to send file.";
+    const char* getFailed = QT_TRANSLATE_NOOP("PageBase", "Failed to get file.");
+    const char* readFailed = QT_TRANSLATE_NOOP("PageBase", "Failed to read file.");
+    const char* writeFailed = QT_TRANSLATE_NOOP("PageBase", "Failed to write file.");
+    const char* sendFailed = QT_TRANSLATE_NOOP("PageBase", "Failed to send file.");
 };
 
 /// Base of the bus pages: the steps that every page makes, so that a page is only what is particular to it.
@@ -91,6 +91,10 @@ protected:
     template <typename Page>
     void scheduleOnce(int msec, void (Page::*slot)());
 
+    /// A text in the operator's language: by the page's own translation, else by the one that all pages
+    /// share. What the pages share is marked with QT_TRANSLATE_NOOP("PageBase", ...).
+    QString translated(const char* text) const;
+
     /// Shows a box with one button and gives what it was answered.
     Answer tell(MsgBox::Kind kind, const QString& text);
     /// Asks a question; the box is of kind information.
@@ -123,7 +127,6 @@ private:
     /// Looks after the page while events are processed: false when the page is gone.
     class Presence;
 
-    QString translated(const char* text) const;
     Outcome failed(const TransferTexts& texts, const char* text, const QString& file);
     Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons);
 

@@ -15,7 +15,6 @@ public:
     explicit StatusLight(QLabel* label);
 
     void show(State state);
-    State state() const { return m_state; }
     QLabel* label() const { return m_label; }
 
 private:

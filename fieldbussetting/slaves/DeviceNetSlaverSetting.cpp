@@ -64,11 +64,7 @@ void DeviceNetSlaverSetting::slotCheckMACIDFormat(const QString& text)
 
 void DeviceNetSlaverSetting::refreshStatus()
 {
-    const int state = lib()->get_ifidbus_commun_state();
-    if (state == m_communicationState)
-        return;
-    m_communicationState = state;
-    m_light->show((state & DeviceNetLinkBit) != 0);
+    m_light->show((lib()->get_ifidbus_commun_state() & DeviceNetLinkBit) != 0);
 }
 
 void DeviceNetSlaverSetting::on_btn_save_clicked()

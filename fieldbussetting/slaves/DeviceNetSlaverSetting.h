@@ -37,9 +37,8 @@ private:
     std::optional<LinkLight> m_light;
     QTimer m_handshake{this};
     QString m_acceptedMacId; ///< comes back when another one is refused
-    int m_communicationState = 0;
-    int m_polls = 0;     ///< of the handshake that runs
-    int m_pollLimit = 0; ///< unanswered polls before it is given up
+    int m_polls = 0;         ///< of the handshake that runs
+    int m_pollLimit = 0;     ///< unanswered polls before it is given up
     bool m_firstSave = true;
 };
 

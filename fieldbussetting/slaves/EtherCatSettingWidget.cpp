@@ -1,13 +1,13 @@
 #include "EtherCatSettingWidget.h"
 
 #include "BusFileDataManager.h"
+#include "FieldbusModule.h"
 #include "ui_EtherCatSettingWidget.h"
 
 #include <QCheckBox>
 
 namespace {
 
-constexpr int EtherCatModule = 13; // code of the EtherCAT slave module in the slave slot
 constexpr int DirectFunctionRow = 4;
 
 // Items of the combo box.
@@ -85,7 +85,7 @@ void EtherCatSettingWidget::BtnsClicxkedSlot()
 void EtherCatSettingWidget::slotGetFileToUi()
 {
     const Busy busy(this);
-    if (lib()->get_ifidbus_anybus_fm() == EtherCatModule) {
+    if (lib()->get_ifidbus_anybus_fm() == FieldbusModule::EtherCat) {
         loadByteOrder();
         return;
     }

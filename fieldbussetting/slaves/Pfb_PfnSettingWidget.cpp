@@ -1,12 +1,11 @@
 #include "Pfb_PfnSettingWidget.h"
 
-#include "BusFileDataManager.h"
+#include "FieldbusModule.h"
 #include "ui_Pfb_PfnSettingWidget.h"
 
 namespace {
 
 constexpr int ProfinetBus = 3;
-constexpr int ProfisafePresent = 1;
 constexpr int LowestAddress = 0;
 constexpr int HighestAddress = 125;
 
@@ -51,7 +50,7 @@ void Pfb_PfnSettingWidget::on_saveBt_clicked()
 void Pfb_PfnSettingWidget::slotGetFileToUi()
 {
     Busy busy(this);
-    m_profisafeActive = BusFileDataManager::getInstance()->checkProfiSAFEStatus() == ProfisafePresent;
+    m_profisafeActive = FieldbusModule::isProfisafePresent();
     ui->groupBox_set->setVisible(!m_profisafeActive);
     // Without the settings there is nothing to save: what the record holds was never fetched.
     ui->saveBt->setVisible(!m_profisafeActive);

@@ -104,11 +104,9 @@ void ProfiSAFESlaveWidget::buildRow(Block& block, int row)
     auto* light = new QLabel(cell);
     light->setObjectName(QStringLiteral("pfs[%1]_%2").arg(&block - m_blocks.data()).arg(row));
     light->setProperty("light", true);
-    light->setFixedSize(LightSize, LightSize);
-    light->setEnabled(false);
     layout->addWidget(light, 0, Qt::AlignCenter);
     table->setCellWidget(row, block.firstColumn + LightColumn, cell);
-    block.lights.push_back(light);
+    block.lights.emplace_back(light, LightSize);
 }
 
 void ProfiSAFESlaveWidget::showEvent(QShowEvent* event)
@@ -216,6 +214,6 @@ void ProfiSAFESlaveWidget::showChangedBits(int element, unsigned changed, unsign
     for (int bit = 0; bit < BitsPerElement; ++bit) {
         const int row = element % ElementsPerBlock * BitsPerElement + bit;
         if ((changed >> bit & 1U) != 0 && row < RowCount && block.descriptions.contains(row))
-            block.lights[static_cast<std::size_t>(row)]->setEnabled((value >> bit & 1U) != 0);
+            block.lights[static_cast<std::size_t>(row)].show((value >> bit & 1U) != 0);
     }
 }

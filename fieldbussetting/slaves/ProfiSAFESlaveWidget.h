@@ -1,6 +1,7 @@
 #ifndef PROFISAFESLAVEWIDGET_H
 #define PROFISAFESLAVEWIDGET_H
 
+#include "LinkLight.h"
 #include "PageBase.h"
 
 #include <QMap>
@@ -10,7 +11,6 @@
 #include <vector>
 
 class QAbstractButton;
-class QLabel;
 
 namespace Ui {
 class ProfiSAFESlaveWidget;
@@ -50,7 +50,7 @@ private:
     {
         int firstColumn;
         QMap<int, QString> descriptions; // of the bits
-        std::vector<QLabel*> lights;     // by row, which is the bit
+        std::vector<LinkLight> lights;   // by row, which is the bit
     };
 
     void buildTable();

@@ -1,6 +1,6 @@
 #include "TextFileSlavePage.h"
 
-#include "HandleBusFiles.h"
+#include "EndianNames.h"
 
 #include <QComboBox>
 
@@ -14,17 +14,13 @@ void TextFileSlavePage::bind(QLabel* light, QCheckBox* performanceBox, QComboBox
 {
     m_light.emplace(light);
     m_performanceBox.emplace(performanceBox, m_role.bus);
-    // The names are keywords of the file, not texts: they are the same in every language.
-    endianBox->addItems(HandleBusFiles::getInstance()->endianNames());
+    for (const char* name : EndianNames)
+        endianBox->addItem(QLatin1String(name));
 }
 
 void TextFileSlavePage::refreshStatus()
 {
-    const int state = lib()->get_ifidbus_commun_state();
-    if (state == m_communicationState)
-        return;
-    m_communicationState = state;
-    m_light->show((state & (1 << m_role.bus)) != 0);
+    m_light->show((lib()->get_ifidbus_commun_state() & (1 << m_role.bus)) != 0);
 }
 
 void TextFileSlavePage::showEvent(QShowEvent* event)

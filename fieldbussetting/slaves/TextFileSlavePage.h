@@ -58,7 +58,6 @@ private:
     const Role& m_role;
     std::optional<LinkLight> m_light;
     std::optional<PerformanceBox> m_performanceBox;
-    int m_communicationState = 0; // as last seen
     bool m_freeConfiguration = false;
 };
 

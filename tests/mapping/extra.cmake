@@ -2,4 +2,5 @@
 set(mapping_sources ${CMAKE_SOURCE_DIR}/fieldbussetting/mapping)
 target_sources(
   tst_mappingmodel PRIVATE ${mapping_sources}/MappingTables.cpp ${mapping_sources}/MappingLayout.cpp
-                           ${mapping_sources}/MappingChecks.cpp ${mapping_sources}/MappingModel.cpp)
+                           ${mapping_sources}/MappingChecks.cpp ${mapping_sources}/MappingModel.cpp
+                           ${mapping_sources}/MappingRows.cpp)

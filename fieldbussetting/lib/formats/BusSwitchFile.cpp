@@ -1,5 +1,6 @@
 #include "BusSwitchFile.h"
 
+#include "BusRoleNames.h"
 #include "FileLocations.h"
 #include "HandleBusFiles.h"
 #include "Logging.h"
@@ -18,18 +19,18 @@ struct Role
 };
 
 constexpr Role Roles[] = {
-    {"Mes", &BusSwitchSet::Mes, Qt::CaseInsensitive},
-    {"EtherCatSlave", &BusSwitchSet::EtherCatSlave, Qt::CaseInsensitive},
-    {"ProfinetSlave", &BusSwitchSet::ProfinetSlave, Qt::CaseInsensitive},
-    {"ProfinetMaster", &BusSwitchSet::ProfinetMaster, Qt::CaseInsensitive},
-    {"FinsTcp", &BusSwitchSet::FinsTcp, Qt::CaseSensitive},
-    {"EtherNetIPSlave", &BusSwitchSet::EtherNetIPSlave, Qt::CaseInsensitive},
-    {"EtherCatMaster", &BusSwitchSet::EtherCatMaster, Qt::CaseInsensitive},
-    {"DeviceNetSlave", &BusSwitchSet::DeviceNetSlave, Qt::CaseInsensitive},
-    {"ModbusTcpMaster", &BusSwitchSet::ModbusTcpMaster, Qt::CaseInsensitive},
-    {"EtherNetIPMaster", &BusSwitchSet::EtherNetIPMaster, Qt::CaseSensitive},
-    {"DeviceNetMaster", &BusSwitchSet::DeviceNetMaster, Qt::CaseInsensitive},
-    {"FreeBus", &BusSwitchSet::FreeBus, Qt::CaseInsensitive},
+    {BusRoleNames::Mes, &BusSwitchSet::Mes, Qt::CaseInsensitive},
+    {BusRoleNames::EtherCatSlave, &BusSwitchSet::EtherCatSlave, Qt::CaseInsensitive},
+    {BusRoleNames::ProfinetSlave, &BusSwitchSet::ProfinetSlave, Qt::CaseInsensitive},
+    {BusRoleNames::ProfinetMaster, &BusSwitchSet::ProfinetMaster, Qt::CaseInsensitive},
+    {BusRoleNames::FinsTcp, &BusSwitchSet::FinsTcp, Qt::CaseSensitive},
+    {BusRoleNames::EtherNetIPSlave, &BusSwitchSet::EtherNetIPSlave, Qt::CaseInsensitive},
+    {BusRoleNames::EtherCatMaster, &BusSwitchSet::EtherCatMaster, Qt::CaseInsensitive},
+    {BusRoleNames::DeviceNetSlave, &BusSwitchSet::DeviceNetSlave, Qt::CaseInsensitive},
+    {BusRoleNames::ModbusTcpMaster, &BusSwitchSet::ModbusTcpMaster, Qt::CaseInsensitive},
+    {BusRoleNames::EtherNetIPMaster, &BusSwitchSet::EtherNetIPMaster, Qt::CaseSensitive},
+    {BusRoleNames::DeviceNetMaster, &BusSwitchSet::DeviceNetMaster, Qt::CaseInsensitive},
+    {BusRoleNames::FreeBus, &BusSwitchSet::FreeBus, Qt::CaseInsensitive},
 };
 
 constexpr const char* RootElement = "FieldbusSettingConfig";
@@ -71,7 +72,7 @@ bool HandleBusFiles::readFieldbusCfg(const QString& path, BusSwitchSet& switches
         const QString name = QString::fromUtf8(entry.attribute("name").value());
         if (entry.child("enable").text().as_int() == 1)
             enabledNames.append(name);
-        if (isImport && name.contains(QLatin1String("ModbusTcpMaster"), Qt::CaseInsensitive))
+        if (isImport && name.contains(QLatin1String(BusRoleNames::ModbusTcpMaster), Qt::CaseInsensitive))
             switches.ModbusTcpMasterListed = true;
     }
     for (const Role& role : Roles) {
@@ -93,7 +94,7 @@ bool HandleBusFiles::writeFieldbusCfg(const QString& path)
     }
     for (const pugi::xml_node entry : document.child(RootElement).children()) {
         const QString name = QString::fromUtf8(entry.attribute("name").value());
-        if (name.compare(QLatin1String("ProfinetSlave"), Qt::CaseInsensitive) == 0)
+        if (name.compare(QLatin1String(BusRoleNames::ProfinetSlave), Qt::CaseInsensitive) == 0)
             entry.child("enable").first_child().set_value("0");
     }
     QuoteEscaper escaper;

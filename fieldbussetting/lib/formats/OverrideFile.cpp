@@ -8,14 +8,14 @@
 #include "WholeFile.h"
 
 #include <QFile>
-#include <QTextCodec>
 
 #include <algorithm>
 #include <string>
-#include <type_traits>
 #include <vector>
 
 using AsciiText::Blanks;
+using AsciiText::equalsIgnoringCase;
+using AsciiText::firstWord;
 using AsciiText::WhiteSpace;
 using AsciiText::words;
 using TextTemplate::contains;
@@ -25,19 +25,6 @@ namespace {
 
 constexpr std::string_view MasterSlot = " 2 ";
 constexpr std::string_view SlaveSlot = " 1 ";
-
-std::string_view firstWord(std::string_view line, std::string_view separators)
-{
-    const std::size_t begin = line.find_first_not_of(separators);
-    if (begin == std::string_view::npos)
-        return {};
-    return line.substr(begin, line.find_first_of(separators, begin) - begin);
-}
-
-bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase)
-{
-    return text.size() == lowerCase.size() && TextTemplate::findIgnoringCase(text, lowerCase) == 0;
-}
 
 bool isCommentedDirective(std::string_view word)
 {
@@ -77,19 +64,12 @@ bool isSelected(std::string_view line, std::string_view slot)
     return hasSlot(line, slot) && containsIgnoringCase(line, "ecat_slave");
 }
 
-QByteArray bytes(std::string_view text)
-{
-    return {text.data(), static_cast<int>(text.size())};
-}
-
 void setName(OverrideEntry& entry, std::string_view text)
 {
-    const QByteArray raw = bytes(AsciiText::trimmed(text));
-    QTextCodec::ConverterState state;
-    const QString utf8 = QTextCodec::codecForMib(106)->toUnicode(raw.constData(), raw.size(), &state);
-    const bool isUtf8 = state.invalidChars == 0 && state.remainingChars == 0;
+    const QByteArray raw = AsciiText::raw(AsciiText::trimmed(text));
+    const bool isUtf8 = AsciiText::isUtf8(raw);
     // In an unknown encoding a byte below 0x80 need not be a letter, so none is turned to upper case.
-    entry.name = isUtf8 ? utf8.toUpper().trimmed() : QString::fromLatin1(raw);
+    entry.name = isUtf8 ? QString::fromUtf8(raw).toUpper().trimmed() : QString::fromLatin1(raw);
     entry.foreignName = isUtf8 ? QByteArray() : raw;
 }
 
@@ -108,16 +88,8 @@ QByteArray nameBytes(const OverrideEntry& entry)
 template <typename Number>
 void readNumber(OverrideEntry& entry, Number OverrideEntry::*field, std::string_view text)
 {
-    bool isNumber = false;
-    Number value{};
-    const QByteArray digits = bytes(AsciiText::trimmed(text)); // a tab may stand before the comment
-    if constexpr (std::is_signed_v<Number>)
-        value = digits.toInt(&isNumber);
-    else
-        value = digits.toUInt(&isNumber);
-    if (isNumber)
-        entry.*field = value;
-    else
+    // A tab may stand before the comment.
+    if (!AsciiText::readNumber(AsciiText::trimmed(text), entry.*field))
         entry.understood = false;
 }
 

@@ -1,8 +1,8 @@
 #include "SlaveTextFile.h"
 
 #include "AsciiText.h"
+#include "EndianNames.h"
 #include "FileLocations.h"
-#include "HandleBusFiles.h"
 #include "TextTemplate.h"
 #include "WholeFile.h"
 
@@ -61,11 +61,9 @@ private:
 
 void SlaveTextFile::readEndian(std::string_view line, QString& endian)
 {
-    const QStringList& names = HandleBusFiles::getInstance()->endianNames();
-    const auto name =
-        std::find(names.begin(), names.end(), QLatin1String(line.data(), static_cast<int>(line.size())));
-    if (name != names.end())
-        endian = *name;
+    const auto* name = std::find(EndianNames.begin(), EndianNames.end(), line);
+    if (name != EndianNames.end())
+        endian = QLatin1String(*name);
 }
 
 bool SlaveTextFile::rewrite(const QString& path, const Source& source, const QString& endian,

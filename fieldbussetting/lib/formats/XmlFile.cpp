@@ -1,11 +1,11 @@
 #include "XmlFile.h"
 
+#include "AsciiText.h"
 #include "Logging.h"
 #include "WholeFile.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QTextCodec>
 
 #include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale and uselocale are POSIX
 #include <memory>
@@ -30,13 +30,6 @@ private:
     QByteArray& m_bytes;
 };
 
-bool isUtf8(const QByteArray& bytes)
-{
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForMib(106)->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
-
 // Texts are written in the pendant's 8-bit encoding. Under a locale whose bytes would break the file, which
 // is declared as UTF-8, or that cannot hold the text, it is UTF-8.
 QByteArray encoded(QString text)
@@ -48,7 +41,7 @@ QByteArray encoded(QString text)
             c = QLatin1Char(' ');
     }
     const QByteArray local = text.toLocal8Bit();
-    return isUtf8(local) && QString::fromLocal8Bit(local) == text ? local : text.toUtf8();
+    return AsciiText::isUtf8(local) && QString::fromLocal8Bit(local) == text ? local : text.toUtf8();
 }
 
 } // namespace
