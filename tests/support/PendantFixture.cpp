@@ -153,13 +153,13 @@ void PendantFixture::dropUserLevel()
     UserSession::instance().setUserLevel(1);
 }
 
-bool PendantFixture::reopensAfterDrop()
+bool PendantFixture::reopensAfterDrop(int mostRestarts)
 {
     if (!QTest::qWaitFor([this] { return !menuPage(*m_window); }, 10000))
         return false;
     QTest::qWait(100); // what it left behind would show itself
     if (QApplication::activeModalWidget() || !MsgBoxScript::unanswered().isEmpty() ||
-        m_controller->traffic().restartRequests() > 0)
+        m_controller->traffic().restartRequests() > mostRestarts)
         return false;
     for (const QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget->isVisible() && qobject_cast<const MsgBox*>(widget))

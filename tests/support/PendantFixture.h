@@ -68,9 +68,9 @@ public:
 
     /// The operator's level drops below what the application asks for: it is closed, whatever it waits for.
     static void dropUserLevel();
-    /// Whether it was closed by that with no box left over and no restart asked for, and can be opened again
-    /// with every fault gone.
-    bool reopensAfterDrop();
+    /// Whether it was closed by that with no box left over and at most so many restarts asked for, and can be
+    /// opened again with every fault gone.
+    bool reopensAfterDrop(int mostRestarts = 0);
     /// Idle ticks as the host gives them; false when no application is on the screen.
     bool tick(int times = 1);
 
