@@ -23,16 +23,9 @@ std::unique_ptr<Behaviour> make(ControllerParts& parts)
 
 // The manager first: the others come up with the roles that it switched on.
 constexpr Maker Makers[] = {
-    make<FieldbusManager>,
-    make<ControllerClock>,
-    make<LinkStates>,
-    make<MesServer>,
-    make<FinsClient>,
-    make<ProfisafeDevice>,
-    make<MasterSlaveStates>,
-    make<ModbusSlave>,
-    make<ModbusMaster>,
-    make<DeviceNetMaster>,
+    make<FieldbusManager>, make<ControllerClock>, make<LinkStates>,        make<MesServer>,
+    make<FinsClient>,      make<ProfisafeDevice>, make<MasterSlaveStates>, make<ModbusSlave>,
+    make<ModbusMaster>,    make<DeviceNetMaster>,
 };
 
 } // namespace
