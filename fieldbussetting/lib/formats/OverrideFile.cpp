@@ -156,8 +156,8 @@ void appendEntry(const OverrideEntry& entry, const char* beforeName, QByteArray&
 class RecordWriter
 {
 public:
-    RecordWriter(const OverrideRecord& record, std::string_view slot, const char* beforeName)
-        : m_record(record)
+    RecordWriter(OverrideRecord record, std::string_view slot, const char* beforeName)
+        : m_record(std::move(record))
         , m_slot(slot)
         , m_beforeName(beforeName)
     {
