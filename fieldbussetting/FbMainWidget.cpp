@@ -162,10 +162,10 @@ void FbMainWidget::slotMenuBtnsClicked(int id)
     if (id < 0 || id >= PageRegistry::PageCount)
         id = 0;
     const QPointer<FbMainWidget> self(this);
-    const int choice = ++m_choices;
+    m_chosenPage = id;
     PageBase* page = pageOf(id);
     // A page that waits while it is made does not come in front of the one that was chosen meanwhile.
-    if (!self || !page || choice != m_choices)
+    if (!self || !page || m_chosenPage != id)
         return;
     ui->fieldbusSetSWidget->setCurrentWidget(page);
     // For a page without a button none is pressed, which an exclusive group does not allow.

@@ -55,7 +55,7 @@ private:
     std::unique_ptr<Ui::FbMainWidget> ui;
     QButtonGroup* m_menuButtons;
     int m_mouseBlockCount = 0;
-    int m_choices = 0;          ///< pages that were chosen so far
+    int m_chosenPage = -1;      // id of the page that was asked for last, -1 before the first
     int m_pageInTheMaking = -1; // id of the page whose constructor is running, -1 for none
     QStringList m_busNames;     // switched on
     std::array<PageBase*, PageRegistry::PageCount> m_pages{};

@@ -104,7 +104,8 @@ void MainWidget::closeAppSlot()
 
 void MainWidget::closeApplication(bool hideCurrent)
 {
-    if (m_closing)
+    // A forced close is told to the host also when an ordinary one is under way: that one may be refused.
+    if (m_closing && !hideCurrent)
         return;
     m_closing = true;
     setCentralWidget(nullptr);

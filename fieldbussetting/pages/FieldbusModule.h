@@ -6,8 +6,9 @@
 /// What the controller has in its slot for a fieldbus module, as far as pages depend on it.
 namespace FieldbusModule {
 
-/// Code of the EtherCAT slave module in "ifidbus.anybus_fm".
+/// Codes of the slave modules in "ifidbus.anybus_fm".
 constexpr int EtherCat = 13;
+constexpr int Profinet = 14;
 
 /// The service's answer that there is a ProfiSAFE device; every other one is "no" or "not known".
 constexpr int ProfisafePresent = 1;

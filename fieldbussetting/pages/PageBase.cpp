@@ -162,9 +162,11 @@ PageBase::Answer PageBase::askRestart()
 
 PageBase::Answer PageBase::tellRestarted(bool stopped)
 {
-    return tell(MsgBox::Information,
-                translated(stopped ? "Please close and reopen the teaching pendant."
-                                   : "Please manually power off and restart the robot!"));
+    return tell(
+        MsgBox::Information,
+        translated(stopped
+                       ? QT_TRANSLATE_NOOP("PageBase", "Please close and reopen the teaching pendant.")
+                       : QT_TRANSLATE_NOOP("PageBase", "Please manually power off and restart the robot!")));
 }
 
 void PageBase::offerRestart(Restart::Way way)

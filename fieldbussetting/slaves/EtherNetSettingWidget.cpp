@@ -3,6 +3,7 @@
 #include "ui_EtherNetSettingWidget.h"
 
 #include <QListView>
+#include <QSignalBlocker>
 #include <QStandardItemModel>
 
 #include <algorithm>
@@ -52,8 +53,17 @@ const TextFileSlavePage::Role& EtherNetSettingWidget::role()
 
 void EtherNetSettingWidget::on_localPortIpCB_currentIndexChanged(int index)
 {
-    const bool isPort = index >= 0 && index < NetworkPorts::Count;
-    showAddress(isPort ? m_ports[static_cast<std::size_t>(index)] : NetworkPort());
+    if (index < 0 || index >= NetworkPorts::Count) {
+        showAddress({});
+        return;
+    }
+    const NetworkPort port = NetworkPorts::read()[static_cast<std::size_t>(index)];
+    showAddress(port);
+    if (!hasAddress(
+            port)) { // lost since the page was filled: an empty address is not to be saved as the port's
+        ui->info_label->show();
+        ui->localPortIpCB->setCurrentIndex(NoAdapter);
+    }
 }
 
 void EtherNetSettingWidget::on_saveButton_clicked()
@@ -82,18 +92,20 @@ void EtherNetSettingWidget::fillFromRecord()
     showAddress({record.IPADDR, record.NETMASK});
     showEndian(ui->cbb_largeSmall, record.EipEndian);
 
-    m_ports = NetworkPorts::read();
+    const auto ports = NetworkPorts::read();
     for (int index = 0; index < NetworkPorts::Count; ++index)
-        offer(index, hasAddress(m_ports[static_cast<std::size_t>(index)]));
+        offer(index, hasAddress(ports[static_cast<std::size_t>(index)]));
 
     const QString address = record.IPADDR.trimmed();
-    const auto used = std::find_if(m_ports.begin(), m_ports.end(), [&address](const NetworkPort& port) {
+    const auto used = std::find_if(ports.begin(), ports.end(), [&address](const NetworkPort& port) {
         return !address.isEmpty() && port.ip == address;
     });
-    const bool matches = used != m_ports.end();
+    const bool matches = used != ports.end();
     ui->info_label->setVisible(!matches);
     showAddress(matches ? *used : NetworkPort());
-    ui->localPortIpCB->setCurrentIndex(matches ? static_cast<int>(used - m_ports.begin()) : NoAdapter);
+    // Without its slot, which would fetch once more what is shown already.
+    const QSignalBlocker blocker(ui->localPortIpCB);
+    ui->localPortIpCB->setCurrentIndex(matches ? static_cast<int>(used - ports.begin()) : NoAdapter);
 }
 
 void EtherNetSettingWidget::showAddress(const NetworkPort& port)

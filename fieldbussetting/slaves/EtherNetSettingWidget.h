@@ -33,8 +33,6 @@ private:
     void offer(int index, bool offered);
 
     std::unique_ptr<Ui::EtherNetSettingWidget> ui;
-    /// As they were when the page was filled: what is offered and what a choice gives are the same addresses.
-    std::array<NetworkPort, NetworkPorts::Count> m_ports;
 };
 
 #endif

@@ -98,6 +98,7 @@ class TestFins : public QObject
 
 private slots:
     void pageIsReachedFromThePanel();
+    void chosenAgainWhileItIsMade();
     void pageFollowsTheClient();
     void pageShowsWrongAnswers_data();
     void pageShowsWrongAnswers();
@@ -138,6 +139,19 @@ void TestFins::pageIsReachedFromThePanel()
         QVERIFY(pendant.openPage(name));
         QVERIFY(isDown(name) && isDown("mesBtn") != isDown("heartbeatBtn"));
     }
+}
+
+// The page fetches while it is made, and input is not blocked.
+void TestFins::chosenAgainWhileItIsMade()
+{
+    PendantFixture pendant;
+    QVERIFY(pendant.open());
+    pendant.controller().faults().set(Faults::FetchFails, -1, FilePath);
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    QTimer::singleShot(200, &pendant.window(), [&pendant] { FinsShortcut::show(pendant.window()); });
+    QVERIFY(pendant.selectPage(FinsPage));
+    QVERIFY(pendant.find("FinsTcpSettingWidget")->isVisible());
+    QCOMPARE(pendant.messages().size(), 1);
 }
 
 void TestFins::pageFollowsTheClient()

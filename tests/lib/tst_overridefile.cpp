@@ -87,7 +87,7 @@ void TestOverrideFile::mastersAreRead_data()
     row("a fourth token that is no comment", "ECAT_SLAVE_OFF 2 7 eim\n", "on 2 7 []");
     row("the first character goes, semicolon or not", "ECAT_SLAVE_OFF 2 7 x;y\n", "on 2 7 [;Y]");
     row("UTF-8", "ECAT_SLAVE_OFF 2 7;\u00e4b\n", "on 2 7 [\u00c4B]");
-    row("another encoding", "ECAT_SLAVE_OFF 2 7;\xe4z\n", "on 2 7 [\u00e4z]");
+    row("another encoding", "ECAT_SLAVE_OFF 2 7;\xe4z\n", "on 2 7 [\u00c4Z]");
     row("the other slot", "ECAT_SLAVE_OFF 1 7\n", "");
     row("the other slot, but device 2", ";ECAT_SLAVE_OFF 1 2 ;x\n", "off 1 2 [X]");
     row("largest number", "ECAT_SLAVE_OFF 2 4294967295\n", "on 2 4294967295 []");

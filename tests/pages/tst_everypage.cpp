@@ -74,6 +74,15 @@ bool chooseAnother(PendantFixture& pendant, const char* page, const char* combo)
     return true;
 }
 
+// An XML file tells when it was written; that alone is no change of it.
+QByteArray withoutDate(QByteArray content)
+{
+    const int begin = content.indexOf("<!-- Date");
+    if (begin >= 0)
+        content.remove(begin, content.indexOf("-->", begin) - begin);
+    return content;
+}
+
 PageFile overrideFile()
 {
     PageFile file{"/FA/override.cfg", "override.cfg", "too-long"};
@@ -105,7 +114,8 @@ Page masterTable(const char* name, int id, const char* widget, const char* save,
                 {Restart}}},
               nullptr};
     page.kind = MsgBox::Error;
-    page.prepare = [path, root](PendantFixture& pendant) { // all lights
+    page.prepare = [path, root](PendantFixture& pendant) {
+        // Nine slaves, so that every light is followed in a tick.
         return pendant.put(path,
                            QByteArray("<") + root + "><Group><SlaveNum>9</SlaveNum></Group></" + root + ">");
     };
@@ -132,13 +142,67 @@ Page textSlave(const char* name, int id, const char* widget, const char* save, c
             nullptr};
 }
 
+// An empty record is refused, so it begins with one.
+Page modbusMaster()
+{
+    const QString text = "Failed to %1 mtcp_master.xml file.";
+    const QString anyXml = "fetch-garbage fetch-cut-short";
+    Page page{"Modbus TCP master",
+              10,
+              "MtcpMasterSetting",
+              nullptr,
+              "btn_save",
+              [](PendantFixture& pendant) { return pendant.enter("le_masterId", fresh(33)); },
+              {{"/application/fidbus/mtcpMaster/mtcp_master.xml", "mtcpMaster/mtcp_master.xml", anyXml,
+                text.arg("get"), text.arg("read"), text.arg("write"), text.arg("send")}},
+              "ifidbus.mbc_save_enable",
+              "Successfully saved."};
+    page.prepare = [](PendantFixture&) {
+        FieldbusSettingLib::getInstance()->mtcpMaster = {"10.0.0.1", "502", "4", "2", "3", "5", ""};
+        return true;
+    };
+    return page;
+}
+
+Page deviceNetMaster()
+{
+    Page page{"DeviceNet master",
+              13,
+              "DeviceNetMasterSetting",
+              "btn_edit",
+              "btn_edit",
+              [](PendantFixture& pendant) { return pendant.enter("le_wsid", fresh(9)); },
+              {{"/fa/dnmst0.cfg", "dnmst0.cfg", "fetch-garbage fetch-empty"}},
+              "ifidbus.dnm_save_config"};
+    page.announcesUnsent = page.needsItsCopy = page.allocatesInATick = true;
+    return page;
+}
+
+// The second face of the EtherCAT slave's page: the settings of the module itself.
+Page etherCatModule()
+{
+    Page page{
+        "EtherCAT slave, module",
+        3,
+        "EtherCatSettingWidget",
+        nullptr,
+        "btn_saveFbECAT",
+        [](PendantFixture& pendant) { return chooseAnother(pendant, "EtherCatSettingWidget", "cbb_Endian"); },
+        {{"/fa/fbslave.cfgx", "fbslave.cfgx", "", "", "", "", WriteFailed}},
+        nullptr};
+    page.prepare = [](PendantFixture& pendant) {
+        pendant.controller().variables().set("ifidbus.anybus_fm", EtherCatModule);
+        return true;
+    };
+    return page;
+}
+
 const std::vector<Page>& pages()
 {
     static const std::vector<Page> all = [] {
         const QString anyXml = "fetch-garbage fetch-cut-short";
-        const QString mtcpText = "Failed to %1 mtcp_master.xml file.";
         const QString mapping = "/application/fidbus/fieldbus_config.xml";
-        std::vector<Page> pages = {
+        return std::vector<Page>{
             {"heartbeat",
              6,
              "HeartbeatDetectionWidget",
@@ -168,16 +232,7 @@ const std::vector<Page>& pages()
              {{"/application/finstcp/FinsTcpConfig.xml", "FinsTcpConfig.xml", anyXml}},
              "ifins_tcp.bupdate_cfg",
              Saved},
-            {"Modbus TCP master",
-             10,
-             "MtcpMasterSetting",
-             nullptr,
-             "btn_save",
-             [](PendantFixture& pendant) { return pendant.enter("le_masterId", fresh(33)); },
-             {{"/application/fidbus/mtcpMaster/mtcp_master.xml", "mtcpMaster/mtcp_master.xml", anyXml,
-               mtcpText.arg("get"), mtcpText.arg("read"), mtcpText.arg("write"), mtcpText.arg("send")}},
-             "ifidbus.mbc_save_enable",
-             "Successfully saved."},
+            modbusMaster(),
             {"DeviceNet slave",
              9,
              "DeviceNetSlaverSetting",
@@ -186,14 +241,7 @@ const std::vector<Page>& pages()
              [](PendantFixture& pendant) { return pendant.enter("le_macid", fresh(40, 2)); },
              {{"/application/fidbus/devicenet/devicenetSlave.xml", "devicenetSlave.xml", anyXml}},
              "ifidbus.xml_update_state"},
-            {"DeviceNet master",
-             13,
-             "DeviceNetMasterSetting",
-             "btn_edit",
-             "btn_edit",
-             [](PendantFixture& pendant) { return pendant.enter("le_wsid", fresh(9)); },
-             {{"/fa/dnmst0.cfg", "dnmst0.cfg", "fetch-garbage fetch-empty"}},
-             "ifidbus.dnm_save_config"},
+            deviceNetMaster(),
             {"EtherCAT slave",
              3,
              "EtherCatSettingWidget",
@@ -202,16 +250,7 @@ const std::vector<Page>& pages()
              [](PendantFixture& pendant) { return tickRow(pendant, "ecatTableWidget", 0); },
              {overrideFile()},
              nullptr},
-            {"EtherCAT slave, module",
-             3,
-             "EtherCatSettingWidget",
-             nullptr,
-             "btn_saveFbECAT",
-             [](PendantFixture& pendant) {
-                 return chooseAnother(pendant, "EtherCatSettingWidget", "cbb_Endian");
-             },
-             {{"/fa/fbslave.cfgx", "fbslave.cfgx", "", "", "", "", WriteFailed}},
-             nullptr},
+            etherCatModule(),
             {"EtherCAT master",
              8,
              "EcatMasterSettingWidget",
@@ -254,22 +293,21 @@ const std::vector<Page>& pages()
              MsgBox::Error,
              "Are you sure to Save Configuration?"},
         };
-        for (Page& page : pages) {
-            if (qstrcmp(page.name, "DeviceNet master") == 0)
-                page.announcesUnsent = page.needsItsCopy = page.allocatesInATick = true;
-            if (page.id == 10) // an empty record is refused
-                page.prepare = [](PendantFixture&) {
-                    FieldbusSettingLib::getInstance()->mtcpMaster = {"10.0.0.1", "502", "4", "2",
-                                                                     "3",        "5",   ""};
-                    return true;
-                };
-            if (page.save == QLatin1String("btn_saveFbECAT"))
-                page.prepare = [](PendantFixture& pendant) {
-                    pendant.controller().variables().set("ifidbus.anybus_fm", EtherCatModule);
-                    return true;
-                };
-        }
-        return pages;
+    }();
+    return all;
+}
+
+// Pages that show, and keep nothing in a file.
+const std::vector<Page>& withoutFile()
+{
+    static const std::vector<Page> all = [] {
+        Page modbusSlave{"Modbus TCP slave", 15, "MtcpSlaveSetting", nullptr, "", {}, {}, nullptr};
+        Page profisafe{"ProfiSAFE", 14, "ProfiSAFESlaveWidget", nullptr, "", {}, {}, nullptr};
+        profisafe.prepare = [](PendantFixture& pendant) {
+            pendant.controller().behaviour<ProfisafeDevice>().setPresent(true);
+            return true;
+        };
+        return std::vector<Page>{modbusSlave, profisafe};
     }();
     return all;
 }
@@ -284,7 +322,8 @@ public:
     /// As far as the page, which is the next one to be opened.
     bool openUpTo() { return isPrepared() && openPastStartPage() && isPrepared(); }
     bool isPrepared() { return !m_page.prepare || m_page.prepare(*this); }
-    bool show() { return selectPage(m_page.id); }
+    /// False also when another page is in front; a page that was closed while it loads is not.
+    bool show() { return selectPage(m_page.id) && find(m_page.widget) && find(m_page.widget)->isVisible(); }
     bool save()
     {
         return (m_page.edit != m_page.save || caption() == QLatin1String("Save") ||
@@ -430,7 +469,7 @@ void TestEveryPage::saveFaults()
             QVERIFY2(pendant.save(), name);
             QTRY_VERIFY2(pendant.messages().mid(shown).contains(isLost ? file.writeText : page.saved), name);
             QVERIFY(pendant.settle());
-            QVERIFY2((pendant.controllerFile(file.path) == before) == isLost, name);
+            QVERIFY2((withoutDate(pendant.controllerFile(file.path)) == withoutDate(before)) == isLost, name);
         }
         sent << file.path;
     }
@@ -492,7 +531,6 @@ void TestEveryPage::userLevelDrops()
         }
         QTRY_VERIFY2(dropped == 1, name);
         QVERIFY2(pendant.reopensAfterDrop(), name);
-        QCOMPARE(traffic.restartRequests(), 0);
         if (row.box != page.saved)
             QVERIFY2(pendant.controllerFile(last.path) == before, name);
         QVERIFY(pendant.isPrepared());
@@ -503,28 +541,26 @@ void TestEveryPage::userLevelDrops()
 
 void TestEveryPage::tickWithoutChangeCostsNothing_data()
 {
-    eachPage(); // -1 and -2: pages without a file
-    QTest::newRow("Modbus TCP slave") << -1;
-    QTest::newRow("ProfiSAFE") << -2;
+    eachPage();
+    for (int index = 0; index < int(withoutFile().size()); ++index)
+        QTest::newRow(withoutFile()[index].name) << int(pages().size()) + index;
 }
 
 void TestEveryPage::tickWithoutChangeCostsNothing()
 {
     QFETCH(int, pageIndex);
-    const Page none{"", pageIndex == -1 ? 15 : 14, "", nullptr, "", {}, {}, nullptr};
-    AnyPage pendant(pageIndex < 0 ? none : pages()[pageIndex]);
-    if (pageIndex == -2)
-        pendant.controller().behaviour<ProfisafeDevice>().setPresent(true);
+    const int count = int(pages().size());
+    const Page& page = pageIndex < count ? pages()[pageIndex] : withoutFile()[pageIndex - count];
+    AnyPage pendant(page);
     QVERIFY(pendant.openUpTo());
     QVERIFY(pendant.show());
     // Once what the page found has settled.
     TickCost cost;
-    const bool allocates = pageIndex >= 0 && pages()[pageIndex].allocatesInATick;
     const bool isFree = QTest::qWaitFor(
         [&] {
             cost = TickCost::of(pendant);
             return cost.styleChanges == 0 && cost.paints == 0 &&
-                   (allocates ? cost.allocations >= 0 : cost.allocations == 0);
+                   (page.allocatesInATick || cost.allocations == 0);
         },
         3000);
     QVERIFY2(isFree, qPrintable(QStringLiteral("%1 allocations, %2 style changes, %3 paints")

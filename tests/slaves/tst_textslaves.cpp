@@ -291,12 +291,18 @@ void TestTextSlaves::portsLostAfterLoading()
     const QString address = pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text();
     const int used = ports->currentIndex();
     QVERIFY(used < 2 && !address.isEmpty());
-    // A port that was offered still stands for its address when the controller does not answer any more.
-    pendant.controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
     ports->setCurrentIndex(2);
     QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
     ports->setCurrentIndex(used);
     QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), address);
+    QVERIFY(!pendant.findOn(twin.page, "info_label")->isVisible());
+    // The address of a port that has none any more is not the port's.
+    pendant.controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
+    ports->setCurrentIndex(2);
+    ports->setCurrentIndex(used);
+    QCOMPARE(ports->currentIndex(), 2);
+    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
+    QVERIFY(pendant.findOn(twin.page, "info_label")->isVisible());
 }
 
 void TestTextSlaves::portsWithoutAddress()

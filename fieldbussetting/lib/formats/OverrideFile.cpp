@@ -69,8 +69,8 @@ void setName(OverrideEntry& entry, std::string_view text)
 {
     const QByteArray raw = AsciiText::raw(AsciiText::trimmed(text));
     const bool isUtf8 = AsciiText::isUtf8(raw);
-    // In an unknown encoding a byte below 0x80 need not be a letter, so none is turned to upper case.
-    entry.name = isUtf8 ? QString::fromUtf8(raw).toUpper().trimmed() : QString::fromLatin1(raw);
+    // A name in an unknown encoding is shown as well as can be; what is written back is `foreignName`.
+    entry.name = isUtf8 ? QString::fromUtf8(raw).toUpper().trimmed() : QString::fromLatin1(raw).toUpper();
     entry.foreignName = isUtf8 ? QByteArray() : raw;
 }
 

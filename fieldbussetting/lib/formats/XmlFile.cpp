@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QLocale>
 
 #include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale and uselocale are POSIX
 #include <memory>
