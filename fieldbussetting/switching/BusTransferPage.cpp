@@ -130,16 +130,19 @@ void BusTransferPage::exportToDrive()
 {
     if (!checkServoOff() || !settleUnfinishedImport())
         return;
-    if (!confirmed(tr("Do you want to export the current robot\n bus related configuration file to the USB "
-                      "drive?")))
+    if (!confirmed(translated(QT_TRANSLATE_NOOP(
+            "BusSettingWidget",
+            "Do you want to export the current robot\n bus related configuration file to the USB "
+            "drive?"))))
         return;
     const QString drive = ZelGetUSBDrives();
     if (drive.isEmpty()) {
-        tell(MsgBox::Error, tr("No device found!"));
+        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "No device found!")));
         return;
     }
     Busy busy(this);
-    TransferProgress progress(progressDialog(), tr("Exporting..."));
+    TransferProgress progress(progressDialog(),
+                              translated(QT_TRANSLATE_NOOP("BusSettingWidget", "Exporting...")));
     const TransferResult result = ConfigExport(drive, progress).run();
     if (!progress.isWanted())
         return;
@@ -152,9 +155,9 @@ void BusTransferPage::exportToDrive()
         progress.close();
     busy.release();
     if (result.isDone())
-        tell(MsgBox::Information, tr("Export file success!"));
+        tell(MsgBox::Information, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "Export file success!")));
     else
-        tell(MsgBox::Error, tr("Export file failed!"));
+        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "Export file failed!")));
 }
 
 void BusTransferPage::importFromDrive()
@@ -163,7 +166,7 @@ void BusTransferPage::importFromDrive()
         return;
     const QString drive = ZelGetUSBDrives();
     if (drive.isEmpty()) {
-        tell(MsgBox::Error, tr("No device found!"));
+        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "No device found!")));
         return;
     }
     const std::vector<ExportFolder> folders = exportFoldersOn(drive);
