@@ -107,7 +107,7 @@ bool BusTransferPage::isHeldUp()
     if (!transferring)
         return false;
     if (!transferringPage)
-        tell(MsgBox::Information, tr("The former files of the controller are still being put back.\n"
+        tell(MsgBox::Information, tr("The last import or export is still coming to its end.\n"
                                      "Please try again in a moment."));
     return true;
 }
@@ -116,14 +116,17 @@ bool BusTransferPage::isSaveAllowed()
 {
     if (isHeldUp())
         return false;
-    const bool isUnfinished = !ImportTransfer::unfinished().empty();
-    if (isUnfinished)
+    if (!ImportTransfer::unfinished().empty()) {
         tell(MsgBox::Warning, tr("An earlier import was neither finished nor undone.\n"
                                  "Please press Import and put the former files back first."));
-    else if (m_shownFiles != fileChanges)
+        return false;
+    }
+    if (m_shownFiles != fileChanges) {
         tell(MsgBox::Warning, tr("The files of the controller have changed since this page was opened.\n"
                                  "Please close the application and open it again first."));
-    return !isUnfinished && m_shownFiles == fileChanges;
+        return false;
+    }
+    return true;
 }
 
 void BusTransferPage::exportToDrive()
