@@ -41,7 +41,7 @@ bool isAnyCommandPending()
 
 void BusSettingWidget::on_saveBusBt_clicked()
 {
-    if (m_busy || isTransferring() || !checkServoOff())
+    if (isSaving() || !isSaveAllowed() || !checkServoOff())
         return;
     if (const char* objection = mastersObjection(switchedOn())) {
         tell(MsgBox::Information, tr(objection));

@@ -118,6 +118,7 @@ void BusSettingWidget::slotGetFileToUi()
 Outcome BusSettingWidget::reload()
 {
     m_saving = false;
+    m_loading = true;
     m_profisafePresent = service()->checkProfiSAFEStatus() == ProfisafePresent;
     combo(EtherCatMaster)->setEnabled(!m_profisafePresent);
     combo(EipMaster)->setEnabled(!m_profisafePresent);
@@ -125,6 +126,7 @@ Outcome BusSettingWidget::reload()
         fetchAndRead(ConfigFile::Override, plain(&FieldbusSettingLib::readEtherCatFile), Texts);
     if (read == Outcome::Gone)
         return read;
+    m_loading = false;
     m_overrideRead = read == Outcome::Done;
 
     // Those of the second list warn about what they lack, and count their change. The PROFINET slave's switch

@@ -80,7 +80,7 @@ private:
     void warnLater(const QString& text, QComboBox* switchBack = nullptr);
     void showWarnings();
 
-    bool isSaving() const override { return m_busy.has_value(); }
+    bool isSaving() const override { return m_busy || m_loading; }
     /// Whether the controller can run the PROFINET slave.
     bool canHaveProfinetSlave() const;
     RoleConditions roleConditions() const override;
@@ -102,6 +102,7 @@ private:
     std::array<bool, BusSwitches::Count> m_changed{}; ///< toggled with the switch, for roles with a command
     bool m_profisafePresent = false;
     bool m_overrideRead = true;
+    bool m_loading = false; ///< from the fetch on: a key can press a button meanwhile
     QQueue<SwitchWarning> m_warnings;
     bool m_showingWarnings = false;
     QTimer m_moduleCheck;

@@ -32,6 +32,20 @@ static_assert(std::size(Reasons) == TransferResult::Unwanted + 1, "a row a code"
 
 // What was sent is put back also when its page has gone.
 bool transferring = false;
+QPointer<BusTransferPage> transferringPage;
+
+// How often the controller's files have changed below the bus file data service. A page that was made before
+// shows former ones, also one that was opened while those of a closed page were put back.
+int fileChanges = 0;
+
+// The service holds what it read before, and would write that back with the next save. Also when no page is
+// left: the next one shows what the service holds.
+void readServiceAnew()
+{
+    ++fileChanges;
+    BusFileDataManager::getInstance()->emitGetFieldXml();
+    BusFileDataManager::getInstance()->emitGetFieldbusCfg();
+}
 
 QString listed(const QStringList& lines)
 {
@@ -55,6 +69,12 @@ bool isAccepted(Dialog* made, const Chosen& chosen)
 
 } // namespace
 
+BusTransferPage::BusTransferPage(const char* className)
+    : PageBase(className)
+    , m_shownFiles(fileChanges)
+{
+}
+
 ProgressDialog* BusTransferPage::progressDialog()
 {
     if (!m_progress)
@@ -74,32 +94,58 @@ void BusTransferPage::on_btn_export_clicked()
 
 void BusTransferPage::transferOnce(void (BusTransferPage::*transfer)())
 {
-    if (isSaving() || transferring)
+    if (isSaving() || isHeldUp())
         return;
     transferring = true;
+    transferringPage = this;
     (this->*transfer)();
     transferring = false;
 }
 
-bool BusTransferPage::isTransferring()
+bool BusTransferPage::isHeldUp()
 {
-    return transferring;
+    if (!transferring)
+        return false;
+    if (!transferringPage)
+        tell(MsgBox::Information, tr("The last import or export is still coming to its end.\n"
+                                     "Please try again in a moment."));
+    return true;
+}
+
+bool BusTransferPage::isSaveAllowed()
+{
+    if (isHeldUp())
+        return false;
+    if (!ImportTransfer::unfinished().empty()) {
+        tell(MsgBox::Warning, tr("An earlier import was neither finished nor undone.\n"
+                                 "Please press Import and put the former files back first."));
+        return false;
+    }
+    if (m_shownFiles != fileChanges) {
+        tell(MsgBox::Warning, tr("The files of the controller have changed since this page was opened.\n"
+                                 "Please close the application and open it again first."));
+        return false;
+    }
+    return true;
 }
 
 void BusTransferPage::exportToDrive()
 {
-    if (!checkServoOff())
+    if (!checkServoOff() || !settleUnfinishedImport())
         return;
-    if (!confirmed(tr("Do you want to export the current robot\n bus related configuration file to the USB "
-                      "drive?")))
+    if (!confirmed(translated(QT_TRANSLATE_NOOP(
+            "BusSettingWidget",
+            "Do you want to export the current robot\n bus related configuration file to the USB "
+            "drive?"))))
         return;
     const QString drive = ZelGetUSBDrives();
     if (drive.isEmpty()) {
-        tell(MsgBox::Error, tr("No device found!"));
+        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "No device found!")));
         return;
     }
     Busy busy(this);
-    TransferProgress progress(progressDialog(), tr("Exporting..."));
+    TransferProgress progress(progressDialog(),
+                              translated(QT_TRANSLATE_NOOP("BusSettingWidget", "Exporting...")));
     const TransferResult result = ConfigExport(drive, progress).run();
     if (!progress.isWanted())
         return;
@@ -112,9 +158,9 @@ void BusTransferPage::exportToDrive()
         progress.close();
     busy.release();
     if (result.isDone())
-        tell(MsgBox::Information, tr("Export file success!"));
+        tell(MsgBox::Information, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "Export file success!")));
     else
-        tell(MsgBox::Error, tr("Export file failed!"));
+        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "Export file failed!")));
 }
 
 void BusTransferPage::importFromDrive()
@@ -123,7 +169,7 @@ void BusTransferPage::importFromDrive()
         return;
     const QString drive = ZelGetUSBDrives();
     if (drive.isEmpty()) {
-        tell(MsgBox::Error, tr("No device found!"));
+        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "No device found!")));
         return;
     }
     const std::vector<ExportFolder> folders = exportFoldersOn(drive);
@@ -139,6 +185,14 @@ void BusTransferPage::importFromDrive()
 
 void BusTransferPage::importFolder(const QString& drive, const ExportFolder& folder)
 {
+    const QPointer<BusTransferPage> self(this);
+    replaceFiles(drive, folder);
+    if (!self)
+        readServiceAnew(); // the service may have read in the middle of it
+}
+
+void BusTransferPage::replaceFiles(const QString& drive, const ExportFolder& folder)
+{
     std::vector<ImportEntry> entries;
     ImportedRoles roles;
     ImportTransfer transfer(entries);
@@ -150,7 +204,7 @@ void BusTransferPage::importFolder(const QString& drive, const ExportFolder& fol
     if (!self)
         return; // what was sent is put back when the transfer goes
     if (result.isDone())
-        finishImport();
+        takeFilesOver();
     else
         failImport(result, transfer);
 }
@@ -205,14 +259,11 @@ TransferResult BusTransferPage::sendImport(ImportTransfer& transfer, int steps)
     return result;
 }
 
-void BusTransferPage::finishImport()
+void BusTransferPage::takeFilesOver()
 {
     holdSave();
-    // The service holds what it read before, and would write that back with the next save.
     const QPointer<BusTransferPage> self(this);
-    BusFileDataManager::getInstance()->emitGetFieldXml();
-    if (self)
-        BusFileDataManager::getInstance()->emitGetFieldbusCfg();
+    readServiceAnew();
     if (!self)
         return;
     switch (askRestart()) {
@@ -225,8 +276,8 @@ void BusTransferPage::finishImport()
     case Answer::Gone:
         break;
     default:
-        tell(MsgBox::Information, tr("The imported configuration takes effect with the next restart.\n"
-                                     "Until then the pages may show the former one,\n"
+        tell(MsgBox::Information, tr("The files of the controller take effect with the next restart.\n"
+                                     "Until then the pages may show what was there before,\n"
                                      "and the bus switches cannot be saved."));
         break;
     }
@@ -252,13 +303,14 @@ QString BusTransferPage::notPutBackText(const ImportTransfer& transfer) const
 // For as long as something is to be put back and the operator wants to try.
 void BusTransferPage::offerPutBack(ImportTransfer& transfer)
 {
+    const QPointer<BusTransferPage> self(this);
     while (transfer.hasSent()) {
         const Answer answer = ask(tr("Try again to put the former files back?"), MsgBox::YesNo);
         if (answer == Answer::Gone)
             return;
         if (answer != Answer::Confirmed)
             transfer.leaveUnfinished();
-        else if (!putBack(transfer))
+        else if (checkServoOff() ? !putBack(transfer) : !self)
             return;
     }
 }
@@ -281,13 +333,21 @@ bool BusTransferPage::settleUnfinishedImport()
     if (entries.empty())
         return true;
     const Answer answer = ask(tr("An earlier import was neither finished nor undone.\n"
-                                 "Put the former files of the controller back now?"),
+                                 "Put the former files of the controller back now?\n"
+                                 "A new import gives them up once it is sent."),
                               MsgBox::YesNo);
-    if (answer == Answer::Confirmed) {
+    if (answer != Answer::Confirmed || !checkServoOff())
+        return answer == Answer::Second;
+    const QPointer<BusTransferPage> self(this);
+    {
         ImportTransfer transfer(entries);
         transfer.resume();
         if (putBack(transfer))
             offerPutBack(transfer);
-    }
-    return answer == Answer::Second;
+    } // the page may be gone, and what was left put back
+    if (self)
+        takeFilesOver();
+    else
+        readServiceAnew();
+    return false;
 }

@@ -176,6 +176,7 @@ private slots:
     void performanceSwitch();
     void rules_data();
     void rules();
+    void keysRestWhileItLoads();
     void deviceNetExcludesItself_data();
     void deviceNetExcludesItself();
     void changesAndCancel();
@@ -467,6 +468,31 @@ void TestBusSwitch::rules()
         return;
     QVERIFY(pendant.written().isEmpty());
     QCOMPARE(pendant.combo(choices.constLast().first)->currentIndex(), choices.constLast().second);
+}
+
+// Input is blocked for fingers; a key gets through to the button that has the focus.
+void TestBusSwitch::keysRestWhileItLoads()
+{
+    Pendant pendant({"Mes"});
+    QVERIFY(pendant.open());
+    MsgBoxScript::answerByDefault(MsgBox::Dismissed);
+    Faults& faults = pendant.controller().faults();
+    faults.set(Faults::FetchFails, 4, OverridePath);
+    int pressed = 0;
+    QTimer keys;
+    connect(&keys, &QTimer::timeout, [&] {
+        if (faults.timesLeft(Faults::FetchFails) == 0 || faults.timesLeft(Faults::FetchFails) == 4)
+            return;
+        for (const char* button : {"saveBusBt", "btn_import", "btn_export"}) {
+            QTest::keyClick(pendant.find(button), Qt::Key_Space);
+            ++pressed;
+        }
+    });
+    keys.start(20);
+    QVERIFY(pendant.press("saveBusBt")); // dismissed: what runs is loaded again
+    QVERIFY(pendant.settle());
+    QVERIFY(pressed > 0);
+    QCOMPARE(pendant.messages(), QStringList(AskSave));
 }
 
 void TestBusSwitch::deviceNetExcludesItself_data()

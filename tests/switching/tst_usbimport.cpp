@@ -1,18 +1,25 @@
 #include "UsbPendant.h"
 
+#include "BusFileDataManager.h"
+
 #include <QRegularExpression>
 #include <QTemporaryDir>
+
+#include <csignal>
+#include <optional>
+#include <sys/resource.h>
 
 namespace {
 
 const QString Exported = QStringLiteral("Export file success!");
-const QString Imported = QStringLiteral("The imported configuration takes effect with the next restart.\n"
-                                        "Until then the pages may show the former one,\n"
+const QString Imported = QStringLiteral("The files of the controller take effect with the next restart.\n"
+                                        "Until then the pages may show what was there before,\n"
                                         "and the bus switches cannot be saved.");
 const QString NothingChanged = QStringLiteral("Nothing was changed on the controller.");
 const QString PutBack = QStringLiteral("The former files were put back.");
 const QString Unfinished = QStringLiteral("An earlier import was neither finished nor undone.\n"
-                                          "Put the former files of the controller back now?");
+                                          "Put the former files of the controller back now?\n"
+                                          "A new import gives them up once it is sent.");
 const QString TryAgain = QStringLiteral("Try again to put the former files back?");
 
 bool write(const QString& path, const QByteArray& content)
@@ -29,6 +36,40 @@ QByteArray roles(const QMap<QByteArray, bool>& on)
         xml += "\t<Bus  name='" + role.key() + "' enable=\"" + (role.value() ? "1" : "0") + "\"/>\n";
     return xml + "</Fieldbus>\n";
 }
+
+QString keptFiles()
+{
+    return QStringLiteral("../Application/fidbus/import-kept");
+}
+
+QString presentFiles()
+{
+    return QStringLiteral("../Application/fidbus/import-present");
+}
+
+// A file of the pendant can hold so much while this lives.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(rlim_t bytes)
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit = {bytes, m_before.rlim_max};
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~SmallDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+private:
+    rlimit m_before = {};
+    void (*m_handler)(int) = nullptr;
+};
 
 } // namespace
 
@@ -55,6 +96,11 @@ private slots:
     void newFileStaysUntilItCanBeRemoved();
     void fileThatCannotBeReadStays();
     void formerFilesOutliveALeftPreview();
+    void formerFilesOutliveALaterImport();
+    void putBackAfterAPowerFailure_data();
+    void putBackAfterAPowerFailure();
+    void newFileOfOthersStays();
+    void unfinishedImportIsSettledFirst();
     void buttonsRestDuringAPutBack();
     void pendantCannotWrite_data();
     void pendantCannotWrite();
@@ -65,6 +111,10 @@ private slots:
 private:
     // A folder with a few files of another robot; on a controller with the factory files they differ.
     static QStringList putOtherRobot(UsbPendant& pendant);
+    // Imports it, and leaves that after two of the three files.
+    static void leaveUnfinished(UsbPendant& pendant);
+    // Whether Import asks for an unfinished import, puts it back, and has nothing to ask the next time.
+    static bool isPutBack(UsbPendant& pendant, const QString& outcome = PutBack);
 };
 
 QStringList TestUsbImport::putOtherRobot(UsbPendant& pendant)
@@ -76,6 +126,30 @@ QStringList TestUsbImport::putOtherRobot(UsbPendant& pendant)
         write(pendant.usbDirectory() + "/fidbus_20240102_030405/" + name, present + mark);
     }
     return names;
+}
+
+void TestUsbImport::leaveUnfinished(UsbPendant& pendant)
+{
+    putOtherRobot(pendant);
+    pendant.controller().faults().set(Faults::SendFails, -1, QString(), 2);
+    pendant.declined << TryAgain;
+    pendant.runImport();
+    pendant.controller().faults().clearAll();
+}
+
+bool TestUsbImport::isPutBack(UsbPendant& pendant, const QString& outcome)
+{
+    pendant.declined.removeAll(Unfinished);
+    const int told = pendant.messages().size();
+    pendant.runImport();
+    const QStringList all = {Unfinished, outcome, UsbPendant::restartQuestion(), Imported};
+    if (pendant.messages().mid(told) != all) {
+        qWarning() << pendant.messages().mid(told);
+        return false;
+    }
+    pendant.confirm = false;
+    pendant.runImport();
+    return pendant.messages().size() == told + all.size();
 }
 
 void TestUsbImport::freshControllerGetsTheSame()
@@ -140,6 +214,15 @@ void TestUsbImport::changesWhatThePreviewNames()
     // Nothing is left to be imported.
     pendant.runImport();
     QVERIFY(!pendant.couldConfirm);
+
+    // The file that tells missing ones from a controller that is down may be missing as well.
+    for (const char* path : {"fieldbus_config.xml", "user_groupio.cfg"})
+        QVERIFY(pendant.controller().files().remove(controllerPath(path)));
+    pendant.confirm = false;
+    pendant.runImport();
+    states["fieldbus_config.xml"] = states["user_groupio.cfg"] = "new";
+    states["fa/dnmst0.cfg"] = states["free/fieldbus_free.xml"] = "same";
+    QCOMPARE(pendant.shownFiles, states);
 }
 
 void TestUsbImport::leavingChangesNothing()
@@ -502,9 +585,8 @@ void TestUsbImport::notPutBackIsToldAndKept()
     QVERIFY(pendant.press("exitBtn"));
     QTRY_COMPARE(pendant.window().application().state(), ApplicationSlot::State::Empty);
     QVERIFY(pendant.open());
-    QCOMPARE(pendant.runImport(), PutBack);
+    QVERIFY(isPutBack(pendant));
     QVERIFY(pendant.configuration() == before);
-    QVERIFY(pendant.runImport() != PutBack); // and no second time
 }
 
 // A controller that cannot be reached does not say that a file is gone.
@@ -558,12 +640,9 @@ void TestUsbImport::formerFilesOutliveALeftPreview()
 {
     UsbPendant pendant;
     QVERIFY(pendant.open());
-    putOtherRobot(pendant);
     const UsbPendant::Bytes before = pendant.configuration();
-    pendant.controller().faults().set(Faults::SendFails, -1, QString(), 2);
-    pendant.declined << TryAgain << Unfinished;
-    pendant.runImport();
-    pendant.controller().faults().clearAll();
+    leaveUnfinished(pendant);
+    pendant.declined << Unfinished;
     QVERIFY(pendant.configuration() != before);
 
     const auto leave = [] {};
@@ -578,9 +657,125 @@ void TestUsbImport::formerFilesOutliveALeftPreview()
     }
     QVERIFY2(pendant.messages().constLast().endsWith("could not be written.\n" + NothingChanged),
              qPrintable(pendant.messages().constLast()));
-    pendant.declined.removeAll(Unfinished);
-    QCOMPARE(pendant.runImport(), PutBack);
+    QVERIFY(isPutBack(pendant));
     QVERIFY(pendant.configuration() == before);
+}
+
+// One that is undone whole leaves the earlier one as it was.
+void TestUsbImport::formerFilesOutliveALaterImport()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const UsbPendant::Bytes before = pendant.configuration();
+    leaveUnfinished(pendant);
+    const UsbPendant::Bytes mixture = pendant.configuration();
+    pendant.declined << Unfinished;
+    QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/fixed/dns_fixed.cfg", "another"));
+    pendant.controller().faults().set(Faults::SendFails, 1, QString(), 1);
+    QVERIFY(pendant.runImport().endsWith(PutBack));
+    QVERIFY(pendant.configuration() == mixture);
+    QVERIFY(isPutBack(pendant));
+    QVERIFY(pendant.configuration() == before);
+}
+
+void TestUsbImport::putBackAfterAPowerFailure_data()
+{
+    QTest::addColumn<QString>("state");
+    QTest::newRow("in the middle") << "";
+    QTest::newRow("before a later import took its place") << "begun";
+    QTest::newRow("in the first step of the exchange") << "aside";
+    QTest::newRow("the journal is damaged") << "damaged";
+}
+
+void TestUsbImport::putBackAfterAPowerFailure()
+{
+    QFETCH(QString, state);
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const UsbPendant::Bytes before = pendant.configuration();
+    leaveUnfinished(pendant);
+    QVERIFY(pendant.configuration() != before);
+    if (state == "begun" || state == "aside")
+        QVERIFY(write(presentFiles() + "/unfinished", "import 2\nold heartbeat.xml\nend"));
+    if (state == "aside")
+        QVERIFY(QDir().rename(keptFiles(), presentFiles() + "-aside"));
+    if (state == "damaged")
+        QVERIFY(write(keptFiles() + "/unfinished", "import 1\nold heartb"));
+    QVERIFY(isPutBack(pendant));
+    QVERIFY(pendant.configuration() == before);
+}
+
+// Between the import and its putting back anybody may have written the file.
+void TestUsbImport::newFileOfOthersStays()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const QString path = controllerPath("heartbeat.xml");
+    QVERIFY(pendant.controller().files().remove(path));
+    const UsbPendant::Bytes before = pendant.configuration();
+    // What a power failure after the first file leaves behind.
+    QByteArray journal;
+    QByteArray sent;
+    pendant.controller().faults().set(Faults::SendFails, 1, QString(), 2);
+    pendant.whilePreview = [&] {
+        pendant.atStep(4, [&] {
+            QFile file(keptFiles() + "/unfinished");
+            if (file.open(QIODevice::ReadOnly))
+                journal = file.readAll();
+            sent = pendant.controllerFile(path);
+        });
+    };
+    QVERIFY(pendant.runImport().endsWith(PutBack));
+    QVERIFY(!sent.isEmpty());
+    for (const bool isOfOthers : {false, true}) {
+        pendant.whilePreview = nullptr;
+        UsbPendant::Bytes expected = before;
+        const QByteArray present = sent + (isOfOthers ? "<!-- of others -->" : "");
+        if (isOfOthers)
+            expected["heartbeat.xml"] = present;
+        QVERIFY(pendant.controller().files().write(path, present));
+        QVERIFY(write(keptFiles() + "/unfinished", journal));
+        QVERIFY(
+            isPutBack(pendant, isOfOthers ? "These files could not be put back:\nheartbeat.xml" : PutBack));
+        QVERIFY(pendant.configuration() == expected);
+    }
+}
+
+// What the pendant holds is not saved over the controller's files, nor exported as one configuration.
+void TestUsbImport::unfinishedImportIsSettledFirst()
+{
+    UsbPendant pendant;
+    const QByteArray former = roles({{"Mes", true}});
+    const QString path = "/application/fidbus/fieldbus.xml";
+    const auto isMesOn = [] {
+        return BusFileDataManager::getInstance()->getAllBusName().value("Mes").enabled;
+    };
+    QVERIFY(pendant.controller().files().write(path, former));
+    QVERIFY(pendant.open());
+    QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/fieldbus.xml", roles({{"Mes", false}})));
+    leaveUnfinished(pendant);
+    BusFileDataManager::getInstance()->emitGetFieldXml(); // as a new start does
+    QVERIFY(!isMesOn());
+
+    int told = pendant.messages().size();
+    pendant.run("saveBusBt");
+    QCOMPARE(pendant.messages().mid(told),
+             QStringList("An earlier import was neither finished nor undone.\n"
+                         "Please press Import and put the former files back first."));
+    pendant.controller().traffic().clear();
+    pendant.whileShown = [&](const QString& text) { pendant.controller().setServoOn(text == Unfinished); };
+    told = pendant.messages().size();
+    QCOMPARE(pendant.runExport(), QString("Please turn off the servo first!"));
+    QCOMPARE(pendant.messages().at(told), Unfinished);
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
+
+    pendant.whileShown = nullptr;
+    pendant.controller().setServoOn(false);
+    QVERIFY(isPutBack(pendant));
+    QCOMPARE(pendant.controllerFile(path), former);
+    QVERIFY(isMesOn());
+    QVERIFY(!pendant.find("saveBusBt")->isEnabled());
 }
 
 // Input is blocked for fingers; a key gets through to the button that has the focus.
@@ -588,12 +783,8 @@ void TestUsbImport::buttonsRestDuringAPutBack()
 {
     UsbPendant pendant;
     QVERIFY(pendant.open());
-    putOtherRobot(pendant);
     const UsbPendant::Bytes before = pendant.configuration();
-    pendant.controller().faults().set(Faults::SendFails, -1, QString(), 2);
-    pendant.declined << TryAgain;
-    pendant.runImport();
-    pendant.controller().faults().clearAll();
+    leaveUnfinished(pendant);
 
     pendant.controller().faults().set(Faults::FetchFails, 5); // half a second
     const int told = pendant.messages().size();
@@ -609,9 +800,10 @@ void TestUsbImport::buttonsRestDuringAPutBack()
         }
     });
     keys.start(50);
-    QCOMPARE(pendant.runImport(), PutBack);
+    pendant.runImport();
     QVERIFY(pressed > 0);
-    QCOMPARE(pendant.messages().mid(told), QStringList({Unfinished, PutBack}));
+    QCOMPARE(pendant.messages().mid(told),
+             QStringList({Unfinished, PutBack, UsbPendant::restartQuestion(), Imported}));
     QVERIFY(pendant.configuration() == before);
 }
 
@@ -622,6 +814,7 @@ void TestUsbImport::pendantCannotWrite_data()
     QTest::newRow("the copies") << "import" << false;
     QTest::newRow("the present files") << "import-present" << false;
     QTest::newRow("the journal") << "import-present/unfinished/" << true;
+    QTest::newRow("a large file") << "" << false; // it counts as no new one
 }
 
 void TestUsbImport::pendantCannotWrite()
@@ -631,12 +824,17 @@ void TestUsbImport::pendantCannotWrite()
     UsbPendant pendant;
     QVERIFY(pendant.open());
     putOtherRobot(pendant);
+    std::optional<SmallDisk> disk;
+    if (inTheWay.isEmpty()) {
+        QVERIFY(pendant.vary("/fa/pfb.cfg", QByteArray(2 * 1024 * 1024, 'x')));
+        disk.emplace(1024 * 1024);
+    }
     const UsbPendant::Bytes before = pendant.configuration();
     const QString path = "../Application/fidbus/" + inTheWay;
     const auto block = [&] { QVERIFY(write(path + (path.endsWith('/') ? "file" : ""), "x")); };
     if (later)
         pendant.whilePreview = block;
-    else
+    else if (!disk)
         block();
     const QString last = pendant.runImport();
     QVERIFY2(

@@ -6,19 +6,51 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace {
 
-// Of a file or of a directory.
-bool sync(const QString& path)
+QString asideOf(const QString& directory)
 {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    const bool synced = descriptor >= 0 && ::fsync(descriptor) == 0;
-    if (descriptor >= 0)
-        ::close(descriptor);
-    return synced;
+    return directory + QStringLiteral("-aside");
+}
+
+bool exchangeAtOnce(const QString& one, const QString& other)
+{
+#ifdef RENAME_EXCHANGE
+    return ::renameat2(AT_FDCWD, QFile::encodeName(one).constData(), AT_FDCWD,
+                       QFile::encodeName(other).constData(), RENAME_EXCHANGE) == 0;
+#else
+    Q_UNUSED(one)
+    Q_UNUSED(other)
+    return false;
+#endif
+}
+
+// `repairExchange` relies on the order of these steps.
+bool exchangeInSteps(const QString& one, const QString& other)
+{
+    const QString aside = asideOf(other);
+    if (!FieldbusSettingLib::getInstance()->deleteDir(aside, QString()) || !QDir().rename(one, aside))
+        return false;
+    if (QDir().rename(other, one)) {
+        if (QDir().rename(aside, other))
+            return true;
+        QDir().rename(one, other);
+    }
+    QDir().rename(aside, one);
+    return false;
+}
+
+bool exchangeNames(const QString& one, const QString& other)
+{
+    if (!QFile::exists(one))
+        return QDir().rename(other, one);
+    if (!QFile::exists(other))
+        return QDir().rename(one, other);
+    return exchangeAtOnce(one, other) || exchangeInSteps(one, other);
 }
 
 } // namespace
@@ -31,27 +63,31 @@ bool DurableFiles::syncTree(const QString& directory)
         if (!sync(walk.next()))
             return false;
     }
-    return syncNames(directory) && syncNames(QFileInfo(directory).path());
+    return sync(directory) && sync(QFileInfo(directory).path());
 }
 
-bool DurableFiles::syncNames(const QString& directory)
+bool DurableFiles::sync(const QString& path)
 {
-    return sync(directory);
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const bool synced = descriptor >= 0 && ::fsync(descriptor) == 0;
+    if (descriptor >= 0)
+        ::close(descriptor);
+    return synced;
 }
 
 bool DurableFiles::exchange(const QString& one, const QString& other)
 {
-    const QString aside = other + QStringLiteral("-aside");
-    const auto move = [](const QString& from, const QString& to) {
-        return !QFile::exists(from) || QDir().rename(from, to);
-    };
-    if (!FieldbusSettingLib::getInstance()->deleteDir(aside, QString()) || !move(one, aside))
+    if (!exchangeNames(one, other))
         return false;
-    if (QDir().rename(other, one)) {
-        if (move(aside, other))
-            return true;
-        move(one, other);
-    }
-    move(aside, one);
+    if (sync(QFileInfo(one).path()))
+        return true;
+    exchangeNames(one, other);
     return false;
+}
+
+void DurableFiles::repairExchange(const QString& one, const QString& other)
+{
+    const QString aside = asideOf(other);
+    if (QFile::exists(aside) && QDir().rename(aside, QFile::exists(one) ? other : one))
+        sync(QFileInfo(one).path());
 }

@@ -9,12 +9,16 @@ namespace DurableFiles {
 /// Writes a directory through, with everything below it. False when any part of it could not be.
 bool syncTree(const QString& directory);
 
-/// Writes through which files a directory holds; not what is in them.
-bool syncNames(const QString& directory);
+/// Writes a file through; of a directory which files it holds, not what is in them.
+bool sync(const QString& path);
 
-/// Exchanges two directories of one disk. When `one` is missing, `other` takes its place. False when that
-/// failed; both are then where they were.
+/// Exchanges two directories beside each other, and writes that through. When one of them is missing, the
+/// other takes its place. False when that failed; both are then where they were.
 bool exchange(const QString& one, const QString& other);
+
+/// Repairs an exchange that a power failure has broken off, on a disk that cannot exchange in one step: it is
+/// undone, or completed once `other` has taken the place of `one`.
+void repairExchange(const QString& one, const QString& other);
 
 } // namespace DurableFiles
 

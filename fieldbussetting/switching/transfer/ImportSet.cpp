@@ -9,9 +9,6 @@
 
 namespace {
 
-// The service that reads them refuses larger ones as well.
-constexpr qint64 LargestFile = qint64(4) * 1024 * 1024;
-
 std::vector<ImportFile> makeImportSet()
 {
     std::vector<ImportFile> set;
@@ -95,7 +92,7 @@ TransferResult copyFromDrive(const QString& drive, const QString& folder, Transf
         entry.file = &file;
         if (source.isSymLink() || (source.exists() && !isPlain(folder, file.name))) {
             entry.reason = ImportEntry::IsLink;
-        } else if (source.isFile() && source.size() > LargestFile) {
+        } else if (source.isFile() && source.size() > LargestImportFile) {
             entry.reason = ImportEntry::TooLarge;
         } else if (source.isFile()) {
             if (!DriveFiles::copy(source.filePath(), file.staged()))

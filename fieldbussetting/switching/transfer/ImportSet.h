@@ -3,9 +3,13 @@
 
 #include "TransferWatch.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <vector>
+
+/// Of a file that is imported. The service that reads them refuses larger ones as well.
+constexpr qint64 LargestImportFile = qint64(4) * 1024 * 1024;
 
 /// A file that an import brings to the controller.
 struct ImportFile
@@ -46,6 +50,7 @@ struct ImportEntry
     const ImportFile* file = nullptr;
     State state = Missing;
     Reason reason = NotThere;
+    QByteArray sentHash; ///< of a new file that is in the journal: SHA-1 of what was sent, in hex
 
     bool isBrought() const { return state != Missing; }
     bool isSent() const { return state == Different || state == New; }

@@ -10,7 +10,9 @@
 /// that it ends its work when the page that began is closed in the middle.
 ///
 /// A journal beside the kept files names what is being replaced, from before the first file is sent until the
-/// import is finished or undone. It survives the pendant: what it names can be put back later.
+/// import is finished or undone. It survives the pendant: what it names can be put back later. An import that
+/// begins while an earlier one is unfinished holds that one's directory until it is finished; when it is
+/// undone instead, the earlier one is the unfinished one again.
 class ImportTransfer
 {
 public:
@@ -41,20 +43,24 @@ public:
     /// it before cannot be told.
     QStringList notPutBack() const;
 
-    /// The files of an import that was neither finished nor undone, from its journal; none when there is no
-    /// such import.
+    /// The files of an import that was neither finished nor undone, from its journal; all that were kept when
+    /// the journal is damaged, and none when there is no such import.
     static std::vector<ImportEntry> unfinished();
-    /// Takes the entries, which are those of an unfinished import, as sent, so that they can be put back.
+    /// Takes the entries, which are those of an unfinished import, as sent, so that they can be put back. A
+    /// new file is then removed only while it is what was sent: others may have written it meanwhile.
     void resume();
 
 private:
     TransferResult beginJournal();
-    static bool writeJournal(const std::vector<const ImportEntry*>& entries);
+    bool writeJournal(const QString& directory, const std::vector<const ImportEntry*>& entries) const;
     bool sendOne(const ImportEntry& entry);
+    void endUndone();
 
     std::vector<ImportEntry>& m_entries;
     std::vector<const ImportEntry*> m_sent; ///< the one that failed on the way too: it may have arrived
     const ImportEntry* m_unreadable = nullptr;
+    bool m_resumed = false;
+    int m_number = 0; ///< of the journal: higher than that of an import that was left unfinished before
     QStringList m_remaining; ///< of what was sent, without a way back
 };
 
