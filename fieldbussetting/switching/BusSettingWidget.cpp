@@ -1,6 +1,7 @@
 #include "BusSettingWidget.h"
 
 #include "BusFileDataManager.h"
+#include "FieldbusModule.h"
 #include "ImportRoles.h"
 #include "ui_BusSettingWidget.h"
 
@@ -12,12 +13,6 @@
 using namespace BusSwitches;
 
 namespace {
-
-constexpr int ProfisafePresent = 1;
-
-// Codes of the fieldbus module.
-constexpr int EtherCatModule = 13;
-constexpr int ProfinetModule = 14;
 
 constexpr int ModuleCheckMs = 70;
 constexpr int ModuleChecks = 10;
@@ -119,7 +114,7 @@ Outcome BusSettingWidget::reload()
 {
     m_saving = false;
     m_loading = true;
-    m_profisafePresent = service()->checkProfiSAFEStatus() == ProfisafePresent;
+    m_profisafePresent = FieldbusModule::isProfisafePresent();
     combo(EtherCatMaster)->setEnabled(!m_profisafePresent);
     combo(EipMaster)->setEnabled(!m_profisafePresent);
     const Outcome read =
@@ -175,7 +170,7 @@ void BusSettingWidget::slotCheckFBSEcat()
 void BusSettingWidget::checkAnybus(int index)
 {
     const OverrideEntry* anybus = lib()->etherCatSlaveOverride.anybus();
-    if (lib()->get_ifidbus_anybus_fm() != EtherCatModule && index == On && !(anybus && anybus->off))
+    if (lib()->get_ifidbus_anybus_fm() != FieldbusModule::EtherCat && index == On && !(anybus && anybus->off))
         warnLater(tr("Please select ANYBUS in EtherCat slave after, Make the setting effective!"));
 }
 
@@ -277,7 +272,7 @@ void BusSettingWidget::showWarnings()
 bool BusSettingWidget::canHaveProfinetSlave() const
 {
     return m_running[PfnSlave] || m_profisafePresent ||
-           (lib()->get_ifidbus_ctr_type() && lib()->get_ifidbus_anybus_fm() == ProfinetModule);
+           (lib()->get_ifidbus_ctr_type() && lib()->get_ifidbus_anybus_fm() == FieldbusModule::Profinet);
 }
 
 void BusSettingWidget::holdSave()

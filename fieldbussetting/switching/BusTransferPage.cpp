@@ -116,11 +116,12 @@ bool BusTransferPage::isSaveAllowed()
 {
     if (isHeldUp())
         return false;
-    if (!ImportTransfer::unfinished().empty()) {
-        tell(MsgBox::Warning, tr("An earlier import was neither finished nor undone.\n"
-                                 "Please press Import and put the former files back first."));
+    // Only a question: where the former files cannot be put back, the operator must not be locked out.
+    if (!ImportTransfer::unfinished().empty() && ask(tr("An earlier import was neither finished nor undone.\n"
+                                                        "With Import the former files can be put back.\n"
+                                                        "Save the bus switches all the same?"),
+                                                     MsgBox::YesNo) != Answer::Confirmed)
         return false;
-    }
     if (m_shownFiles != fileChanges) {
         tell(MsgBox::Warning, tr("The files of the controller have changed since this page was opened.\n"
                                  "Please close the application and open it again first."));
