@@ -442,7 +442,7 @@ void TestMapping::neverAnsweredInRealTime()
     QVERIFY(pendant.saveUnanswered());
     MsgBoxScript::answerByDefault(MsgBox::Confirmed);
     QTRY_VERIFY_WITH_TIMEOUT(pendant.messages().contains(Failed), 20000);
-    QVERIFY(timer.elapsed() >= 14900); // timers are coarse
+    QVERIFY(timer.elapsed() >= 14000); // 30 coarse ticks of 500 ms: each may be 5 % early
     QCOMPARE(MsgBoxScript::shown().constLast().kind, int(MsgBox::Error));
     QVERIFY(!pendant.isNoticeOpen() && pendant.settle());
     QVERIFY(pendant.press("bt_EditOrSave") && pendant.isEditing());
