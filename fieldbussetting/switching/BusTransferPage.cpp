@@ -17,19 +17,6 @@ namespace {
 constexpr int LongestList = 8;     // lines of a message box
 constexpr int ImportAtTheEnd = 99; // of the progress bar
 
-// Why a transfer failed, by TransferResult::Code. Nothing where there is nobody to tell.
-constexpr const char* Reasons[] = {
-    nullptr,
-    QT_TRANSLATE_NOOP("BusTransferPage", "The USB drive was removed."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be read."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be fetched from the controller."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 of the pendant could not be written."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 of the controller has changed meanwhile."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be sent to the controller."),
-    nullptr,
-};
-static_assert(std::size(Reasons) == TransferResult::Unwanted + 1, "a row a code");
-
 // What was sent is put back also when its page has gone.
 bool transferring = false;
 QPointer<BusTransferPage> transferringPage;
@@ -53,18 +40,6 @@ QString listed(const QStringList& lines)
     if (lines.size() > shown.size())
         shown << BusTransferPage::tr("... and %1 more").arg(lines.size() - shown.size());
     return shown.join(QLatin1Char('\n'));
-}
-
-// Shows a dialog that is a child of the page; false also when the page was closed meanwhile.
-template <typename Dialog, typename Chosen>
-bool isAccepted(Dialog* made, const Chosen& chosen)
-{
-    const QPointer<Dialog> dialog(made);
-    const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
-    if (accepted)
-        chosen(*dialog);
-    delete dialog.data();
-    return accepted;
 }
 
 } // namespace
@@ -130,6 +105,14 @@ bool BusTransferPage::isSaveAllowed()
     return true;
 }
 
+QString BusTransferPage::insertedDrive()
+{
+    const QString drive = ZelGetUSBDrives();
+    if (drive.isEmpty())
+        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "No device found!")));
+    return drive;
+}
+
 void BusTransferPage::exportToDrive()
 {
     if (!checkServoOff() || !settleUnfinishedImport())
@@ -139,11 +122,9 @@ void BusTransferPage::exportToDrive()
             "Do you want to export the current robot\n bus related configuration file to the USB "
             "drive?"))))
         return;
-    const QString drive = ZelGetUSBDrives();
-    if (drive.isEmpty()) {
-        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "No device found!")));
+    const QString drive = insertedDrive();
+    if (drive.isEmpty())
         return;
-    }
     Busy busy(this);
     TransferProgress progress(progressDialog(),
                               translated(QT_TRANSLATE_NOOP("BusSettingWidget", "Exporting...")));
@@ -168,11 +149,9 @@ void BusTransferPage::importFromDrive()
 {
     if (!checkServoOff() || !settleUnfinishedImport())
         return;
-    const QString drive = ZelGetUSBDrives();
-    if (drive.isEmpty()) {
-        tell(MsgBox::Error, translated(QT_TRANSLATE_NOOP("BusSettingWidget", "No device found!")));
+    const QString drive = insertedDrive();
+    if (drive.isEmpty())
         return;
-    }
     const std::vector<ExportFolder> folders = exportFoldersOn(drive);
     if (folders.empty()) {
         tell(MsgBox::Error, tr("No exported bus configuration found on the USB drive!"));
@@ -240,8 +219,7 @@ bool BusTransferPage::prepareImport(const QString& drive, const ExportFolder& fo
 bool BusTransferPage::isImportWanted(const ExportFolder& folder, const std::vector<ImportEntry>& entries,
                                      const ImportedRoles& roles)
 {
-    return isAccepted(new ImportPreviewDialog(folder.name, entries, roles, this),
-                      [](const ImportPreviewDialog& /*dialog*/) {});
+    return isAccepted(new ImportPreviewDialog(folder.name, entries, roles, this));
 }
 
 TransferResult BusTransferPage::sendImport(ImportTransfer& transfer, int steps)
@@ -290,8 +268,7 @@ void BusTransferPage::failImport(const TransferResult& result, ImportTransfer& t
                             : result.code == TransferResult::SendFailed
                                 ? tr("The former files were put back.")
                                 : tr("Nothing was changed on the controller.");
-    const QString reason = tr(Reasons[result.code]).replace(QLatin1String("%1"), result.file);
-    const QStringList lines = {tr("Import file failed!"), reason, outcome};
+    const QStringList lines = {tr("Import file failed!"), result.reason(), outcome};
     if (tell(MsgBox::Error, lines.join(QLatin1Char('\n'))) != Answer::Gone)
         offerPutBack(transfer);
 }

@@ -42,6 +42,8 @@ private:
     /// fingers only: a key can press a button that has the focus. Of one on a page that was closed meanwhile
     /// the operator is told, and this page may be gone.
     bool isHeldUp();
+    /// The path of the drive; empty, with its message, when there is none. The page may then be gone.
+    QString insertedDrive();
     void exportToDrive();
     void importFromDrive();
 

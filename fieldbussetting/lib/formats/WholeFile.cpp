@@ -71,3 +71,10 @@ bool WholeFile::replace(const QString& path, const QByteArray& content)
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
            file.commit();
 }
+
+bool WholeFile::areSame(const QString& one, const QString& other)
+{
+    QByteArray first;
+    QByteArray second;
+    return read(one, first) && read(other, second) && first == second;
+}

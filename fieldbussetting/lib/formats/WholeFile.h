@@ -37,6 +37,9 @@ bool read(const QString& path, QByteArray& content);
 /// the result checked before the new file takes the old one's place: on a full disk the old file stays.
 bool replace(const QString& path, const QByteArray& content);
 
+/// Whether both files can be read and hold the same bytes.
+bool areSame(const QString& one, const QString& other);
+
 } // namespace WholeFile
 
 #endif

@@ -16,12 +16,5 @@ bool DriveFiles::isThere(const QString& drive)
 
 bool DriveFiles::copy(const QString& source, const QString& target)
 {
-    return ZelFileCopy(source, target, true) != 0 && areSame(source, target);
-}
-
-bool DriveFiles::areSame(const QString& one, const QString& other)
-{
-    QByteArray first;
-    QByteArray second;
-    return WholeFile::read(one, first) && WholeFile::read(other, second) && first == second;
+    return ZelFileCopy(source, target, true) != 0 && WholeFile::areSame(source, target);
 }

@@ -13,9 +13,6 @@ bool isThere(const QString& drive);
 /// Copies a file over an existing one and reads the copy back. True when it holds the same bytes.
 bool copy(const QString& source, const QString& target);
 
-/// Whether both files can be read and hold the same bytes.
-bool areSame(const QString& one, const QString& other);
-
 } // namespace DriveFiles
 
 #endif

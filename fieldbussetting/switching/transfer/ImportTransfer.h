@@ -52,7 +52,6 @@ public:
 
 private:
     TransferResult beginJournal();
-    bool writeJournal(const QString& directory, const std::vector<const ImportEntry*>& entries) const;
     bool sendOne(const ImportEntry& entry);
     void endUndone();
 
