@@ -1,6 +1,7 @@
 #include "OverrideFile.h"
 
 #include "AsciiText.h"
+#include "ControllerTemplate.h"
 #include "FieldbusSettingLib.h"
 #include "FileLocations.h"
 #include "HandleBusFiles.h"
@@ -212,7 +213,7 @@ bool editOverrideFile(const QString& path, Rewriter rewrite)
     QByteArray content;
     // What an interrupted write has left behind is older than what the controller holds.
     QFile::remove(temporary);
-    if (!TextTemplate::fetchTemplate(temporary, FileLocations::of(ConfigFile::Override).controller, content))
+    if (!fetchTemplate(temporary, FileLocations::of(ConfigFile::Override).controller, content))
         return false;
     return WholeFile::replace(
         path, TextTemplate::rewritten(content, TextTemplate::LineEnds::Kept, std::move(rewrite)));

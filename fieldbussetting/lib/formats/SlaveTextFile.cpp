@@ -1,6 +1,7 @@
 #include "SlaveTextFile.h"
 
 #include "AsciiText.h"
+#include "ControllerTemplate.h"
 #include "EndianNames.h"
 #include "FileLocations.h"
 #include "TextTemplate.h"
@@ -72,7 +73,7 @@ bool SlaveTextFile::rewrite(const QString& path, const Source& source, const QSt
     // Made first: the fetch processes events, and the record may change or go meanwhile.
     LineWriter writer(endian, ownedLines);
     QByteArray content;
-    if (!TextTemplate::fetchTemplate(FileLocations::workingDirectory() + QLatin1String(source.temporary),
+    if (!fetchTemplate(FileLocations::workingDirectory() + QLatin1String(source.temporary),
                                      source.controller, content))
         return false;
     return WholeFile::replace(

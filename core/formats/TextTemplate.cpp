@@ -1,21 +1,8 @@
 #include "TextTemplate.h"
 
-#include "FieldbusSettingLib.h"
-#include "WholeFile.h"
-
-#include <QFile>
-
 #include <algorithm>
 
 namespace TextTemplate {
-
-bool fetchTemplate(const QString& temporary, const QString& ctrlPath, QByteArray& content)
-{
-    FieldbusSettingLib::getInstance()->getFileFromCtrl(temporary, ctrlPath);
-    const bool read = WholeFile::read(temporary, content);
-    QFile::remove(temporary);
-    return read;
-}
 
 std::size_t findIgnoringCase(std::string_view text, std::string_view needle)
 {

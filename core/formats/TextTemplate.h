@@ -2,7 +2,6 @@
 #define TEXTTEMPLATE_H
 
 #include <QByteArray>
-#include <QString>
 
 #include <string_view>
 
@@ -59,11 +58,6 @@ inline bool keep(std::string_view line, QByteArray& out)
     out.append(line.data(), static_cast<int>(line.size()));
     return true;
 }
-
-/// Fetches the controller's file at `ctrlPath` into `temporary` and reads it. The result of the fetch is not
-/// looked at: an older copy serves when there is one. The temporary file is removed in any case. False when
-/// there is no copy to read.
-bool fetchTemplate(const QString& temporary, const QString& ctrlPath, QByteArray& content);
 
 /// Position of the ASCII text `needle`, which is given in lower case, in `text` without regard to case.
 std::size_t findIgnoringCase(std::string_view text, std::string_view needle);
