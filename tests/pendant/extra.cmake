@@ -6,4 +6,5 @@ foreach(parts RANGE 2)
   target_compile_definitions(testplugin${parts} PRIVATE PARTS=${parts})
   add_dependencies(tst_desktop testplugin${parts})
 endforeach()
-target_compile_definitions(tst_desktop PRIVATE TEST_PLUGINS="$<TARGET_FILE_DIR:testplugin2>")
+set_source_files_properties(${CMAKE_CURRENT_LIST_DIR}/tst_desktop.cpp
+                            PROPERTIES COMPILE_DEFINITIONS TEST_PLUGINS="$<TARGET_FILE_DIR:testplugin2>")
