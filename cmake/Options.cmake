@@ -20,19 +20,27 @@ function(fieldbus_pch name qt_module qt_header)
   target_link_libraries(${name} PRIVATE fieldbus_options ${qt_module})
   target_precompile_headers(${name} PRIVATE ${qt_header} <algorithm> <array> <functional> <memory> <optional> <vector>)
 endfunction()
-fieldbus_pch(fieldbus_pch_widgets Qt5::Widgets <QtWidgets>)
-fieldbus_pch(fieldbus_pch_core Qt5::Core <QtCore>)
+fieldbus_pch(fieldbus_pch_widgets Qt::Widgets <QtWidgets>)
+fieldbus_pch(fieldbus_pch_core Qt::Core <QtCore>)
 
 # fieldbus_target(NAME LIBS...): the shared options, the precompiled header and the own folder as include path.
 function(fieldbus_target name)
-  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE fieldbus_options Qt5::Widgets)
+  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE fieldbus_options Qt::Widgets)
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_precompile_headers(${name} REUSE_FROM fieldbus_pch_widgets)
 endfunction()
 
 # The same for code that knows no widget: a header of one is not to be found.
 function(fieldbus_core_target name)
-  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE fieldbus_options Qt5::Core)
+  target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE fieldbus_options Qt::Core)
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_precompile_headers(${name} REUSE_FROM fieldbus_pch_core)
+endfunction()
+
+# fieldbus_exports(LIBRARY MAP): exports what the version script MAP names and nothing else. Not by a flag of the
+# compiler: a precompiled header serves code of one visibility only.
+function(fieldbus_exports library map)
+  target_link_options(${library} PRIVATE LINKER:--version-script=${map})
+  set_target_properties(${library} PROPERTIES LINK_DEPENDS ${map} VERSION ${PROJECT_VERSION}
+                                              SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()

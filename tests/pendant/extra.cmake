@@ -2,7 +2,7 @@
 # entry points that a library exports.
 foreach(parts RANGE 2)
   add_library(testplugin${parts} MODULE ${CMAKE_CURRENT_LIST_DIR}/plugin/TestPlugin.cpp)
-  target_link_libraries(testplugin${parts} PRIVATE platform fieldbus_options Qt5::Widgets)
+  target_link_libraries(testplugin${parts} PRIVATE platform fieldbus_options Qt::Widgets)
   target_compile_definitions(testplugin${parts} PRIVATE PARTS=${parts})
   add_dependencies(tst_desktop testplugin${parts})
 endforeach()
