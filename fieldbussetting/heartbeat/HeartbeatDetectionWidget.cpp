@@ -73,7 +73,7 @@ void HeartbeatDetectionWidget::buildRows()
         edit->setObjectName(QLatin1String(row.edit));
         edit->setCast(QTouchLineEdit::CastReal, TimeoutDecimals);
         edit->setValueRange(0.0, LongestTimeout);
-        edit->setUnit(tr("s"));
+        edit->setProperty("unit", tr("s"));
         auto* light = new QLabel(this);
         light->setObjectName(QLatin1String(row.light));
 

@@ -107,7 +107,7 @@ void MtcpMasterSetting::prepareFields()
     ui->le_masterId->setValueRange(0, HighestUnitId);
     ui->le_timeout->setCast(QTouchLineEdit::CastReal, TimeoutDecimals);
     ui->le_timeout->setValueRange(ShortestTimeout, LongestTimeout);
-    ui->le_timeout->setUnit(tr("s"));
+    ui->le_timeout->setProperty("unit", tr("s"));
     for (const auto& order : ByteOrders) {
         for (const char* name : ByteOrderNames)
             (ui.get()->*order.combo)->addItem(QLatin1String(name));

@@ -19,6 +19,11 @@ constexpr auto ProfiSafeStatus = "io_man.profisafe_status";
 // The process data of a ProfiSAFE device are 16 elements of 8 bits.
 constexpr quint32 MaxBitNumber = 127;
 
+BusFileService& service()
+{
+    return BusFileService::instance();
+}
+
 bool fetchXml(const char* path, const char* root, pugi::xml_document& document)
 {
     ControllerLink* const link = currentLink();
@@ -49,13 +54,6 @@ QMap<int, QString> readBits(const pugi::xml_node& block)
 
 } // namespace
 
-BusFileDataManager::BusFileDataManager()
-    : d(std::make_unique<BusFileService>())
-{
-}
-
-BusFileDataManager::~BusFileDataManager() = default;
-
 BusFileDataManager* BusFileDataManager::getInstance()
 {
     static BusFileDataManager manager;
@@ -64,36 +62,37 @@ BusFileDataManager* BusFileDataManager::getInstance()
 
 void BusFileDataManager::attach(BusObserver* observer)
 {
-    d->attach(observer);
+    service().attach(observer);
 }
 
 void BusFileDataManager::detach(BusObserver* observer)
 {
-    d->detach(observer);
+    service().detach(observer);
 }
 
 bool BusFileDataManager::isFuncInfoNotified(const QString& key) const
 {
     if (key == QLatin1String("fieldbus"))
-        return d->isNotified(BusFileService::FieldbusXml);
-    return key == QLatin1String("fieldbusCfg") && d->isNotified(BusFileService::FieldbusCfg);
+        return service().isNotified(BusFileService::FieldbusXml);
+    return key == QLatin1String("fieldbusCfg") && service().isNotified(BusFileService::FieldbusCfg);
 }
 
 void BusFileDataManager::emitGetFieldXml()
 {
-    d->fetch(BusFileService::FieldbusXml);
+    service().fetch(BusFileService::FieldbusXml);
 }
 
 void BusFileDataManager::emitGetFieldbusCfg()
 {
-    d->fetch(BusFileService::FieldbusCfg);
+    service().fetch(BusFileService::FieldbusCfg);
 }
 
 std::vector<BusName> BusFileDataManager::getBusNameList(bool listed, bool onlyEnabled) const
 {
     std::vector<BusName> names;
     if (listed) {
-        std::copy_if(d->config.roles().begin(), d->config.roles().end(), std::back_inserter(names),
+        std::copy_if(service().config.roles().begin(), service().config.roles().end(),
+                     std::back_inserter(names),
                      [onlyEnabled](const BusName& role) { return role.enabled || !onlyEnabled; });
     }
     return names;
@@ -102,39 +101,39 @@ std::vector<BusName> BusFileDataManager::getBusNameList(bool listed, bool onlyEn
 QMap<QString, BusName> BusFileDataManager::getAllBusName() const
 {
     QMap<QString, BusName> roles;
-    for (const BusName& role : d->config.roles())
+    for (const BusName& role : service().config.roles())
         roles.insert(role.name, role);
     return roles;
 }
 
 void BusFileDataManager::setBusInfo(const QMap<QString, BusName>& roles)
 {
-    d->config.setRoles(roles);
+    service().config.setRoles(roles);
 }
 
 bool BusFileDataManager::isOpenFreeBus() const
 {
-    return d->mode() == BusMappingFile::Free;
+    return service().mode() == BusMappingFile::Free;
 }
 
 void BusFileDataManager::writeSendFieldbusXml()
 {
-    d->send(BusFileService::FieldbusXml);
+    service().send(BusFileService::FieldbusXml);
 }
 
 std::vector<BusAddrNumInfo> BusFileDataManager::getBusNumAndAddr() const
 {
-    return d->mapping.buses(d->mode());
+    return service().mapping.buses(service().mode());
 }
 
 void BusFileDataManager::setBusNumAndAddr(const std::vector<BusAddrNumInfo>& buses)
 {
-    d->mapping.setBuses(d->mode(), buses);
+    service().mapping.setBuses(service().mode(), buses);
 }
 
 void BusFileDataManager::writeSendFieldbusCfg()
 {
-    d->send(BusFileService::FieldbusCfg);
+    service().send(BusFileService::FieldbusCfg);
 }
 
 int BusFileDataManager::checkProfiSAFEStatus() const
@@ -186,7 +185,7 @@ bool BusFileDataManager::writeAndSendFbslave(const QString& endian)
 
 int BusFileDataManager::getPerformanceValue(int bus, int current, bool on)
 {
-    return d->performanceValue(bus, current, on);
+    return service().performanceValue(bus, current, on);
 }
 
 bool BusFileDataManager::isRebootRde() const

@@ -29,7 +29,8 @@ constexpr std::array<PerformanceBus, 3> PerformanceBuses{
 
 BusFileService& BusFileService::instance()
 {
-    return *BusFileDataManager::getInstance()->d;
+    static BusFileService service;
+    return service;
 }
 
 void BusFileService::resetSession()

@@ -2,8 +2,8 @@
 
 #include "ControllerLink.h"
 #include "CurrentLink.h"
+#include "LocalFile.h"
 #include "UserSession.h"
-#include "WholeFile.h"
 
 int DataAccess::getUserLevel()
 {
@@ -28,12 +28,12 @@ bool DataAccess::GetFileFromController2TPU(const QString& ctrlPath, const QStrin
 {
     ControllerLink* const link = currentLink();
     QByteArray content;
-    return link && link->fetchFile(ctrlPath, content) && replaceWholeFile(localPath, content);
+    return link && link->fetchFile(ctrlPath, content) && replaceLocalFile(localPath, content);
 }
 
 bool DataAccess::SendFileFromTPU2Controller(const QString& localPath, const QString& ctrlPath, bool /*flag*/)
 {
     ControllerLink* const link = currentLink();
     QByteArray content;
-    return link && readWholeFile(localPath, content) && link->storeFile(ctrlPath, content);
+    return link && readLocalFile(localPath, content) && link->storeFile(ctrlPath, content);
 }

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <vector>
+
 namespace {
 // The parser knows no option with a value that may be left out.
 QStringList withTourDirectory(QStringList arguments)
@@ -22,99 +24,124 @@ QString absolute(const QString& path)
 {
     return path.isEmpty() ? path : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
-} // namespace
-
-Options Options::parse(const QStringList& arguments, const QStringList& faultNames)
+struct Row
 {
-    const struct
-    {
-        const char* name;
-        QString text;
-        const char* value;
-    } table[] = {
-        {"tour", tr("Press every button, save a picture of every page in DIR (default: tour), and end."),
+    const char* name;
+    QString text;
+    const char* value; ///< null: a switch
+};
+
+std::vector<Row> rows(const QStringList& faultNames)
+{
+    return {
+        {"tour",
+         Options::tr("Press every button, save a picture of every page in DIR (default: tour), and end."),
          "DIR"},
-        {"panel", tr("Open the window that drives the simulated controller."), nullptr},
-        {"controller", tr("Folder of the simulated controller's files; an empty one is filled."), "DIR"},
+        {"panel", Options::tr("Open the window that drives the simulated controller."), nullptr},
+        {"controller", Options::tr("Folder of the simulated controller's files; an empty one is filled."),
+         "DIR"},
         {"workdir",
-         tr("Folder that the pendant works in (default: in the user's data folder; the tour's own)."), "DIR"},
-        {"plugin", tr("Library of the application."), "FILE"},
-        {"usb", tr("Folder that stands for a USB drive."), "DIR"},
+         Options::tr(
+             "Folder that the pendant works in (default: in the user's data folder; the tour's own)."),
+         "DIR"},
+        {"plugin", Options::tr("Library of the application."), "FILE"},
+        {"usb", Options::tr("Folder that stands for a USB drive."), "DIR"},
         {"fault",
-         tr("Let the controller fail: a name, how often (default: always) and what is hit. Names: %1.")
+         Options::tr(
+             "Let the controller fail: a name, how often (default: always) and what is hit. Names: %1.")
              .arg(faultNames.join(QStringLiteral(", "))),
          "NAME[:N[:TARGET]]"},
-        {"user-level", tr("User level at the start, 0 to %1.").arg(LogInDialog::HighestLevel), "N"},
-        {"time-scale", tr("How much faster than real time the pendant and the controller wait."), "X"},
+        {"user-level", Options::tr("User level at the start, 0 to %1.").arg(LogInDialog::HighestLevel), "N"},
+        {"time-scale", Options::tr("How much faster than real time the pendant and the controller wait."),
+         "X"},
         {"mtcp-port",
-         tr("TCP port of the controller's Modbus slave (default: 1502, any free one for the tour)."), "N"},
-        {"help", tr("Tell all options."), nullptr},
+         Options::tr("TCP port of the controller's Modbus slave (default: 1502, any free one for the tour)."),
+         "N"},
+        {"help", Options::tr("Tell all options."), nullptr},
     };
+}
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(tr("The pendant on a desktop, with a simulated robot controller."));
-    for (const auto& row : table) {
+void addRows(QCommandLineParser& parser, const QStringList& faultNames)
+{
+    for (const Row& row : rows(faultNames)) {
         QCommandLineOption option(QLatin1String(row.name), row.text);
         if (row.value)
             option.setValueName(QLatin1String(row.value));
         parser.addOption(option);
     }
+}
+
+/// Empty when the option is not there, or its value a number in the range, ends included.
+template <typename Number>
+QString takeNumber(const QCommandLineParser& parser, const char* name, Number minimum, Number maximum,
+                   std::optional<Number>& number)
+{
+    const QString option = QLatin1String(name);
+    if (!parser.isSet(option))
+        return {};
+    bool ok = false;
+    const double value = parser.value(option).toDouble(&ok);
+    // Negated, so that "nan" does not pass.
+    if (!ok || !(value >= minimum && value <= maximum) || static_cast<Number>(value) != value)
+        return Options::tr("--%1 takes a number from %2 to %3.").arg(option).arg(minimum).arg(maximum);
+    number = static_cast<Number>(value);
+    return {};
+}
+} // namespace
+
+Options Options::parse(const QStringList& arguments, const QStringList& faultNames)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("The pendant on a desktop, with a simulated robot controller."));
+    addRows(parser, faultNames);
 
     Options options;
     const bool understood = parser.parse(withTourDirectory(arguments));
     options.helpText = parser.helpText();
-    if (!understood || !parser.positionalArguments().isEmpty()) {
-        options.problem =
-            understood ? tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst())
-                       : parser.errorText();
-        return options;
+    if (!understood)
+        options.problem = parser.errorText();
+    else if (!parser.positionalArguments().isEmpty())
+        options.problem = tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst());
+    else
+        options.take(parser);
+    return options;
+}
+
+void Options::take(const QCommandLineParser& parser)
+{
+    const struct
+    {
+        const char* name;
+        bool& on;
+    } switches[] = {{"help", help}, {"tour", tour}, {"panel", panel}};
+    for (const auto& row : switches)
+        row.on = parser.isSet(QLatin1String(row.name));
+    faults = parser.values(QStringLiteral("fault"));
+    takePaths(parser);
+
+    const QString problems[] = {takeNumber(parser, "user-level", 0, LogInDialog::HighestLevel, userLevel),
+                                takeNumber(parser, "mtcp-port", 1, 65535, mtcpPort),
+                                takeNumber(parser, "time-scale", 0.001, 1000.0, timeScale)};
+    for (const QString& found : problems) {
+        if (!found.isEmpty())
+            problem = found;
     }
+}
 
-    options.help = parser.isSet(QStringLiteral("help"));
-    options.tour = parser.isSet(QStringLiteral("tour"));
-    options.panel = parser.isSet(QStringLiteral("panel"));
-    options.faults = parser.values(QStringLiteral("fault"));
-
+void Options::takePaths(const QCommandLineParser& parser)
+{
     const struct
     {
         const char* name;
         QString& path;
-    } paths[] = {{"tour", options.tourDirectory},
-                 {"controller", options.controllerStore},
-                 {"workdir", options.workDirectory},
-                 {"plugin", options.plugin},
-                 {"usb", options.usb}};
+    } paths[] = {{"tour", tourDirectory},
+                 {"controller", controllerStore},
+                 {"workdir", workDirectory},
+                 {"plugin", plugin},
+                 {"usb", usb}};
     for (const auto& row : paths)
         row.path = absolute(parser.value(QLatin1String(row.name)));
-    if (options.plugin.isEmpty())
-        options.plugin =
+    if (plugin.isEmpty())
+        plugin =
             QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("libfieldbussetting.so"));
-
-    int userLevel = 0;
-    const struct
-    {
-        const char* name;
-        int minimum;
-        int maximum;
-        int& number;
-    } numbers[] = {{"user-level", 0, LogInDialog::HighestLevel, userLevel},
-                   {"mtcp-port", 1, 65535, options.mtcpPort}};
-    for (const auto& row : numbers) {
-        const QString name = QLatin1String(row.name);
-        bool ok = true;
-        if (parser.isSet(name))
-            row.number = parser.value(name).toInt(&ok);
-        if (parser.isSet(name) && (!ok || row.number < row.minimum || row.number > row.maximum))
-            options.problem =
-                tr("--%1 takes a number from %2 to %3.").arg(name).arg(row.minimum).arg(row.maximum);
-    }
-    if (parser.isSet(QStringLiteral("user-level")))
-        options.userLevel = userLevel;
-    if (parser.isSet(QStringLiteral("time-scale"))) {
-        options.timeScale = parser.value(QStringLiteral("time-scale")).toDouble();
-        // Negated, so that "nan" does not pass.
-        if (!(options.timeScale > 0.0 && options.timeScale <= 1000.0))
-            options.problem = tr("--time-scale takes a number above 0, up to 1000.");
-    }
-    return options;
 }

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class QCommandLineParser;
+
 /// What the command line asks for. Paths are absolute: the program changes its directory later.
 struct Options
 {
@@ -21,8 +23,8 @@ public:
     QString usb;        ///< empty: no drive
     QStringList faults; ///< as `Faults::setFromText` takes them
     std::optional<int> userLevel;
-    double timeScale = 1.0;
-    int mtcpPort = 0; ///< 0: the controller's own choice
+    std::optional<double> timeScale;
+    std::optional<int> mtcpPort; ///< none: the controller's own choice
 
     bool help = false;
     QString helpText;
@@ -30,6 +32,10 @@ public:
 
     /// `faultNames` are told by the help.
     static Options parse(const QStringList& arguments, const QStringList& faultNames);
+
+private:
+    void take(const QCommandLineParser& parser);
+    void takePaths(const QCommandLineParser& parser);
 };
 
 #endif

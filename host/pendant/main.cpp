@@ -53,6 +53,45 @@ TourGuide::Fetches takeFetches(Traffic& traffic)
     traffic.clear();
     return fetches;
 }
+/// Empty when the controller and what is around the pendant are as the options want them.
+QString setUp(SimulatedController& controller, const Options& options)
+{
+    if (!controller.error().isEmpty())
+        return controller.error();
+    for (const QString& fault : options.faults) {
+        if (!controller.faults().setFromText(fault))
+            return Options::tr("There is no fault \"%1\"; --help tells their names.").arg(fault);
+    }
+    setTimeScale(options.timeScale.value_or(1.0));
+    controller.setTimeScale(timeScale());
+    if (options.userLevel)
+        UserSession::instance().setUserLevel(*options.userLevel);
+    if (!options.usb.isEmpty())
+        UsbDrive::instance().insert(options.usb);
+    return {};
+}
+
+/// The pendant and the controller's panel, until the window is closed or the tour is over.
+int runWith(SimulatedController& controller, const Options& options)
+{
+    const Connection connection(controller);
+    PendantWindow window(options.plugin);
+    ControllerPanel panel(controller, {[&window] { return FinsShortcut::isAtHand(window); },
+                                       [&window] { FinsShortcut::show(window); }});
+    // After the panel, whose log tells when the port is taken. Several tours may be on the way at a time.
+    controller.setModbusPort(options.mtcpPort.value_or(options.tour ? 0 : ModbusSlave::DefaultPort));
+    window.show();
+    if (options.panel) {
+        panel.move(window.frameGeometry().topRight() + QPoint(16, 0));
+        panel.show();
+    }
+    if (!options.tour)
+        return PendantApplication::exec();
+    return makeTour({window, controller, &panel, controller.modbusPort(),
+                     [&controller](bool on) { controller.setServoOn(on); },
+                     [&controller] { return takeFetches(controller.traffic()); }},
+                    options.tourDirectory);
+}
 } // namespace
 
 int main(int argc, char* argv[])
@@ -78,35 +117,6 @@ int main(int argc, char* argv[])
 
     SimulatedController controller(options.controllerStore.isEmpty() ? work.controllerStore()
                                                                      : options.controllerStore);
-    if (!controller.error().isEmpty())
-        return refuse(controller.error());
-    for (const QString& fault : options.faults) {
-        if (!controller.faults().setFromText(fault))
-            return refuse(Options::tr("There is no fault \"%1\"; --help tells their names.").arg(fault));
-    }
-    setTimeScale(options.timeScale);
-    controller.setTimeScale(options.timeScale);
-    if (options.userLevel)
-        UserSession::instance().setUserLevel(*options.userLevel);
-    if (!options.usb.isEmpty())
-        UsbDrive::instance().insert(options.usb);
-
-    const Connection connection(controller);
-    PendantWindow window(options.plugin);
-    ControllerPanel panel(controller, {[&window] { return FinsShortcut::isAtHand(window); },
-                                       [&window] { FinsShortcut::show(window); }});
-    // After the panel, whose log tells when the port is taken. Several tours may be on the way at a time.
-    const int ownChoice = options.tour ? 0 : ModbusSlave::DefaultPort;
-    controller.setModbusPort(options.mtcpPort > 0 ? options.mtcpPort : ownChoice);
-    window.show();
-    if (options.panel) {
-        panel.move(window.frameGeometry().topRight() + QPoint(16, 0));
-        panel.show();
-    }
-    if (options.tour)
-        return makeTour({window, controller, &panel, controller.modbusPort(),
-                         [&controller](bool on) { controller.setServoOn(on); },
-                         [&controller] { return takeFetches(controller.traffic()); }},
-                        options.tourDirectory);
-    return PendantApplication::exec();
+    const QString problem = setUp(controller, options);
+    return problem.isEmpty() ? runWith(controller, options) : refuse(problem);
 }

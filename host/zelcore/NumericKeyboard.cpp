@@ -80,8 +80,8 @@ NumericKeyboard::NumericKeyboard(NumericEntry entry, const QString& caption, con
     , m_entry(std::move(entry))
     , m_caption(caption)
     , m_unit(unit)
-    , m_display(new QLabel(this))
-    , m_hint(new QLabel(this))
+    , m_display(label("label_entry", QString()))
+    , m_hint(label("label_hint", QString()))
 {
     new TouchFrame(this);
 
@@ -91,56 +91,70 @@ NumericKeyboard::NumericKeyboard(NumericEntry entry, const QString& caption, con
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
     if (!caption.isEmpty()) {
-        auto* title = new QLabel(caption, this);
-        title->setObjectName(QStringLiteral("label_caption"));
-        title->setTextFormat(Qt::PlainText);
+        QLabel* title = label("label_caption", caption);
         title->setWordWrap(true);
         layout->addWidget(title);
     }
-
-    m_display->setObjectName(QStringLiteral("label_entry"));
-    m_display->setTextFormat(Qt::PlainText);
-    m_display->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(Gap);
-    line->addWidget(m_display, 1);
-    if (!unit.isEmpty()) {
-        auto* label = new QLabel(unit, this);
-        label->setObjectName(QStringLiteral("label_unit"));
-        label->setTextFormat(Qt::PlainText);
-        line->addWidget(label);
-    }
-    layout->addLayout(line);
-
-    m_hint->setObjectName(QStringLiteral("label_hint"));
-    m_hint->setTextFormat(Qt::PlainText);
-    m_hint->setWordWrap(true);
-    // Room for two lines, so that the keys stay where they are when a reason appears.
-    m_hint->ensurePolished();
-    m_hint->setMinimumHeight(2 * m_hint->fontMetrics().lineSpacing());
+    layout->addLayout(entryLine());
+    prepareHint();
     layout->addWidget(m_hint);
-
     auto* grid = new QGridLayout;
     grid->setSpacing(Gap);
     addKeys(grid);
     layout->addLayout(grid);
+    layout->addLayout(closingKeys());
+    refresh();
+}
 
+QLabel* NumericKeyboard::label(const char* name, const QString& text)
+{
+    auto* made = new QLabel(text, this);
+    made->setObjectName(QLatin1String(name));
+    made->setTextFormat(Qt::PlainText);
+    return made;
+}
+
+QLayout* NumericKeyboard::entryLine()
+{
+    m_display->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(Gap);
+    line->addWidget(m_display, 1);
+    if (!m_unit.isEmpty())
+        line->addWidget(label("label_unit", m_unit));
+    return line;
+}
+
+// Room for two lines, so that the keys stay where they are when a reason appears.
+void NumericKeyboard::prepareHint()
+{
+    m_hint->setWordWrap(true);
+    m_hint->ensurePolished();
+    m_hint->setMinimumHeight(2 * m_hint->fontMetrics().lineSpacing());
+}
+
+QLayout* NumericKeyboard::closingKeys()
+{
     auto* closing = new QHBoxLayout;
     closing->setSpacing(Gap);
-    const auto add = [this, closing](const QString& text, const char* name, bool primary) {
-        auto* button = new QPushButton(text, this);
-        button->setObjectName(QLatin1String(name));
-        button->setProperty("primary", primary);
+    const struct
+    {
+        QString text;
+        const char* name;
+        bool primary;
+        void (NumericKeyboard::*act)();
+    } keys[] = {{tr("Cancel"), "key_cancel", false, &NumericKeyboard::reject},
+                {tr("OK"), "key_ok", true, &NumericKeyboard::accept}};
+    for (const auto& key : keys) {
+        auto* button = new QPushButton(key.text, this);
+        button->setObjectName(QLatin1String(key.name));
+        button->setProperty("primary", key.primary);
         button->setFocusPolicy(Qt::NoFocus);
         button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, key.act);
         closing->addWidget(button, 1);
-        return button;
-    };
-    connect(add(tr("Cancel"), "key_cancel", false), &QPushButton::clicked, this, &QDialog::reject);
-    connect(add(tr("OK"), "key_ok", true), &QPushButton::clicked, this, &NumericKeyboard::accept);
-    layout->addLayout(closing);
-
-    refresh();
+    }
+    return closing;
 }
 
 void NumericKeyboard::addKeys(QGridLayout* grid)

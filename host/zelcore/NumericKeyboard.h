@@ -9,6 +9,7 @@
 
 class QGridLayout;
 class QLabel;
+class QLayout;
 class QPushButton;
 
 /// The modal numeric keyboard, for fingers and for a hardware keyboard. A value that may not be taken is
@@ -41,7 +42,11 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QLabel* label(const char* name, const QString& text);
+    QLayout* entryLine();
+    void prepareHint();
     void addKeys(QGridLayout* grid);
+    QLayout* closingKeys();
     void press(char key);
     void refresh();
 

@@ -9,6 +9,9 @@
 #include <limits>
 
 namespace {
+// What an application may say of a field beyond the contract. A host without it ignores the property.
+constexpr auto UnitProperty = "unit";
+
 NumericEntry::Kind kindOf(int cast)
 {
     switch (cast) {
@@ -90,7 +93,8 @@ void QTouchLineEdit::openKeyboard()
     entry.setText(text());
 
     const QPointer<QTouchLineEdit> alive(this);
-    const std::optional<NumericEntry> answer = NumericKeyboard::ask(this, entry, toolTip(), m_unit);
+    const std::optional<NumericEntry> answer =
+        NumericKeyboard::ask(this, entry, toolTip(), property(UnitProperty).toString());
     if (!answer || !alive)
         return;
     const QString text = answer->result();

@@ -1,6 +1,6 @@
 #include "UsbDrive.h"
 
-#include "WholeFile.h"
+#include "LocalFile.h"
 #include "ZelFunctions.h"
 
 #include <QDir>
@@ -85,11 +85,11 @@ int ZelFileCopy(const QString& source, const QString& target, bool overwrite)
     UsbDrive& drive = UsbDrive::instance();
     QByteArray content;
     if (!drive.mayRead(source) || !drive.mayWrite(target) || (!overwrite && QFileInfo::exists(target)) ||
-        !readWholeFile(source, content) || !replaceWholeFile(target, content))
+        !readLocalFile(source, content) || !replaceLocalFile(target, content))
         return 0;
     // Drives that wear out accept what they do not keep.
     QByteArray kept;
-    if (!readWholeFile(target, kept) || kept != content)
+    if (!readLocalFile(target, kept) || kept != content)
         return 0;
     if (drive.holds(target))
         drive.countCopy();

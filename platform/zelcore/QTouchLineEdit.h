@@ -28,8 +28,6 @@ public:
     int decimals() const { return m_decimals; }
     /// Both ends belong to the range. Without a call any number that the cast allows is accepted.
     void setValueRange(double minimum, double maximum);
-    /// Shown on the keyboard beside the range, for example "s".
-    void setUnit(const QString& unit) { m_unit = unit; }
 
 signals:
     /// The operator confirmed `text` on the keyboard; emitted after the edit shows it.
@@ -47,7 +45,6 @@ private:
     bool m_ranged = false;
     double m_minimum = 0.0;
     double m_maximum = 0.0;
-    QString m_unit;
 };
 
 #endif

@@ -95,7 +95,6 @@ public:
 
 private:
     QWidget* findVisible(const QString& name) const;
-    bool pressAndSettle(QWidget* target);
     bool isBusy() const;
     void takeFetches();
     void noteMessage(const QDialog& dialog);

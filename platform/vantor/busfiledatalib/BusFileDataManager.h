@@ -6,7 +6,6 @@
 #include <QMap>
 #include <QString>
 
-#include <memory>
 #include <vector>
 
 class BusObserver;
@@ -69,11 +68,8 @@ public:
     static bool checkIPv4Format(const QString& text);
 
 private:
-    BusFileDataManager();
-    ~BusFileDataManager();
-    friend class BusFileService;
-
-    std::unique_ptr<class BusFileService> d;
+    BusFileDataManager() = default;
+    ~BusFileDataManager() = default;
 };
 
 /// Bus number that last lost the communication performance switch to another bus, -1 when none did.

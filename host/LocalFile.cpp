@@ -1,10 +1,10 @@
-#include "WholeFile.h"
+#include "LocalFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
-bool readWholeFile(const QString& path, QByteArray& content)
+bool readLocalFile(const QString& path, QByteArray& content)
 {
     QFile file(path);
     // A device or a pipe would never end.
@@ -17,7 +17,7 @@ bool readWholeFile(const QString& path, QByteArray& content)
     return true;
 }
 
-bool replaceWholeFile(const QString& path, const QByteArray& content)
+bool replaceLocalFile(const QString& path, const QByteArray& content)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
