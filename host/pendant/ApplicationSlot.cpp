@@ -17,11 +17,11 @@ constexpr int IdlePeriodMs = 100;
 constexpr int ReaperPeriodMs = 5;
 } // namespace
 
-ApplicationSlot::ApplicationSlot(const QString& library, const QString& className, QWidget* area,
-                                 QObject* parent)
+ApplicationSlot::ApplicationSlot(const ApplicationInfo& info, QWidget* area, QObject* parent)
     : QObject(parent)
-    , m_library(library)
-    , m_pageId(Desktop::instance().addApplication(className))
+    , m_info(info)
+    , m_library(info.library)
+    , m_pageId(Desktop::instance().addApplication(info.className))
     , m_area(area)
 {
     // All symbols at load: one that is missing then gives a message here instead of a crash later.
@@ -49,6 +49,24 @@ ApplicationSlot::~ApplicationSlot()
     if (m_state == State::Shown)
         close();
     deleteApplication();
+    stopResident();
+}
+
+void ApplicationSlot::startResident()
+{
+    if (!m_info.resident || m_data || !load())
+        return;
+    m_data.reset(m_createData());
+    m_idle.start();
+}
+
+bool ApplicationSlot::stopResident()
+{
+    if (m_state != State::Empty || m_dataTicking)
+        return false;
+    m_idle.stop();
+    m_data.reset();
+    return true;
 }
 
 bool ApplicationSlot::load()
@@ -81,13 +99,15 @@ bool ApplicationSlot::open()
     if (m_state != State::Empty || !m_area || !load())
         return false;
 
-    m_data.reset(m_createData());
+    startResident();
+    if (!m_data)
+        m_data.reset(m_createData());
     QWidget* made = m_data ? m_createWidget(m_data.get(), m_area) : nullptr;
     m_widget = qobject_cast<ZelBaseWidget*>(made);
     if (!m_widget) {
         m_error = tr("The application did not start.");
         delete made;
-        m_data.reset();
+        forgetData();
         return false;
     }
 
@@ -109,7 +129,8 @@ void ApplicationSlot::close(bool forced)
     if (m_state != State::Shown)
         return;
     m_state = State::Leaving;
-    m_idle.stop();
+    if (!m_info.resident)
+        m_idle.stop();
     if (m_widget) {
         switchVariables(false);
         m_widget->hide();
@@ -128,12 +149,23 @@ void ApplicationSlot::deliver(const char* slot)
 
 void ApplicationSlot::tick()
 {
+    tickData();
     // A tick that waits inside the application is not overtaken by the next one.
-    if (m_ticking || !m_widget || !m_widget->isVisible())
+    if (m_ticking || m_state != State::Shown || !m_widget || !m_widget->isVisible())
         return;
     const QScopedValueRollback<bool> ticking(m_ticking, true);
     m_widget->idleMarker = 1;
     deliver("slotIdle");
+}
+
+// The data of an application need not be an object of Qt's; one that is not gets no ticks.
+void ApplicationSlot::tickData()
+{
+    auto* data = m_info.resident ? dynamic_cast<QObject*>(m_data.get()) : nullptr;
+    if (!data || m_dataTicking || data->metaObject()->indexOfSlot("slotIdle()") < 0)
+        return;
+    const QScopedValueRollback<bool> ticking(m_dataTicking, true);
+    QMetaObject::invokeMethod(data, "slotIdle", Qt::DirectConnection);
 }
 
 void ApplicationSlot::switchVariables(bool used)
@@ -167,6 +199,12 @@ void ApplicationSlot::deleteApplication()
 {
     m_reaper.stop();
     delete m_widget;
-    m_data.reset();
+    forgetData();
     m_state = State::Empty;
+}
+
+void ApplicationSlot::forgetData()
+{
+    if (!m_info.resident)
+        m_data.reset();
 }

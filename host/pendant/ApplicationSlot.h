@@ -1,6 +1,8 @@
 #ifndef PENDANT_APPLICATIONSLOT_H
 #define PENDANT_APPLICATIONSLOT_H
 
+#include "ApplicationInfo.h"
+
 #include <QLibrary>
 #include <QPointer>
 #include <QTimer>
@@ -14,6 +16,9 @@ class ZelBaseWidget;
 /// data and widget, shows it over `area`, feeds it (idle ticks, user level, variable context), and takes
 /// it down when the desktop is asked to close it: off the screen at once, deleted later and only when
 /// nothing of it is on the stack.
+///
+/// The data of a resident application is made once and outlives its widgets. When it is a QObject with a slot
+/// `slotIdle()`, it gets the idle ticks too, whether the application is shown or not.
 class ApplicationSlot : public QObject
 {
     Q_OBJECT
@@ -25,14 +30,19 @@ public:
         Leaving ///< off the screen, waiting to be deleted
     };
 
-    /// `className` is the name by which the application asks for its page id.
-    ApplicationSlot(const QString& library, const QString& className, QWidget* area,
-                    QObject* parent = nullptr);
+    ApplicationSlot(const ApplicationInfo& info, QWidget* area, QObject* parent = nullptr);
     /// Takes the application down at once.
     ~ApplicationSlot() override;
 
     /// Loads the library and finds its two functions; false leaves the reason in `error()`.
     bool load();
+    /// Makes the data of a resident application and begins its ticks; nothing for any other one.
+    void startResident();
+    /// Ends what `startResident` began; false while its tick or its widget is still there.
+    bool stopResident();
+    const ApplicationInfo& info() const { return m_info; }
+    /// The page that the application is shown on.
+    QWidget* area() const { return m_area; }
     /// Why the application cannot be shown, as a text for the operator; empty when it can.
     QString error() const { return m_error; }
 
@@ -56,14 +66,17 @@ signals:
 private:
     void deliver(const char* slot);
     void tick();
+    void tickData();
     void switchVariables(bool used);
     bool nothingOnTheStack() const;
     void deleteWhenIdle();
     void deleteApplication();
+    void forgetData();
 
     using CreateData = BaseZelCustomData* (*)();
     using CreateWidget = QWidget* (*)(BaseZelCustomData*, QWidget*);
 
+    ApplicationInfo m_info;
     QLibrary m_library;
     int m_pageId;
     QPointer<QWidget> m_area;
@@ -77,6 +90,7 @@ private:
     QTimer m_idle;
     QTimer m_reaper;
     bool m_ticking = false;
+    bool m_dataTicking = false;
     bool m_variablesUsed = false;
     int m_loopLevel = 0; ///< at opening; only read without a PendantApplication
 };

@@ -1,40 +1,79 @@
 #include "HomeScreen.h"
 
+#include "ApplicationInfo.h"
+#include "ControllerLink.h"
+#include "CurrentLink.h"
+
 #include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-HomeScreen::HomeScreen(QWidget* parent)
+namespace {
+constexpr int Columns = 3;
+constexpr int Gap = 24;
+} // namespace
+
+HomeScreen::HomeScreen(const std::vector<ApplicationInfo>& applications, QWidget* parent)
     : QWidget(parent)
-    , m_tile(new QToolButton(this))
     , m_notice(new QLabel(this))
 {
     setObjectName(QStringLiteral("homeScreen"));
 
     auto* title = new QLabel(tr("Applications"), this);
     title->setObjectName(QStringLiteral("homeTitle"));
-
-    m_tile->setObjectName(QStringLiteral("applicationTile"));
-    m_tile->setText(tr("Fieldbus settings"));
-    m_tile->setIcon(QIcon(QStringLiteral(":/host/application.png")));
-    m_tile->setIconSize(QSize(64, 64));
-    m_tile->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    m_tile->setMinimumSize(260, 150);
-    m_tile->setFocusPolicy(Qt::NoFocus);
-
     m_notice->setObjectName(QStringLiteral("homeNotice"));
     m_notice->setWordWrap(true);
     m_notice->hide();
+
+    auto* tiles = new QGridLayout;
+    tiles->setSpacing(Gap);
+    tiles->setColumnStretch(Columns, 1);
+    for (const ApplicationInfo& application : applications)
+        addTile(tiles, application);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(48, 40, 48, 40);
     layout->setSpacing(32);
     layout->addWidget(title);
-    layout->addWidget(m_tile, 0, Qt::AlignLeft);
+    layout->addLayout(tiles);
     layout->addWidget(m_notice);
     layout->addStretch(1);
 
-    connect(m_tile, &QToolButton::clicked, this, &HomeScreen::tilePressed);
+    if (ControllerLink* link = currentLink())
+        connect(link, &ControllerLink::stateChanged, this, &HomeScreen::refresh);
+    refresh();
+}
+
+QString HomeScreen::tileName(const QString& className)
+{
+    return QStringLiteral("tile_%1").arg(className);
+}
+
+void HomeScreen::addTile(QGridLayout* grid, const ApplicationInfo& application)
+{
+    auto* tile = new QToolButton(this);
+    tile->setObjectName(tileName(application.className));
+    tile->setIcon(QIcon(application.icon));
+    tile->setIconSize(QSize(64, 64));
+    tile->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    tile->setFixedSize(286, 168);
+    tile->setFocusPolicy(Qt::NoFocus);
+    connect(tile, &QToolButton::clicked, this,
+            [this, className = application.className] { emit tilePressed(className); });
+    const int index = static_cast<int>(m_tiles.size());
+    grid->addWidget(tile, index / Columns, index % Columns);
+    m_tiles.push_back({tile, application.name, application.needsController});
+}
+
+void HomeScreen::refresh()
+{
+    const ControllerLink* link = currentLink();
+    const bool isDown = link && !link->isUp();
+    for (const Tile& tile : m_tiles) {
+        const bool waits = isDown && tile.needsController;
+        tile.button->setEnabled(!waits);
+        tile.button->setText(waits ? tr("%1\nController is restarting").arg(tile.name) : tile.name);
+    }
 }
 
 void HomeScreen::setNotice(const QString& text)

@@ -3,6 +3,10 @@
 
 #include <QWidget>
 
+#include <vector>
+
+struct ApplicationInfo;
+class QGridLayout;
 class QLabel;
 class QToolButton;
 
@@ -13,17 +17,31 @@ class HomeScreen : public QWidget
     Q_OBJECT
 
 public:
-    explicit HomeScreen(QWidget* parent = nullptr);
+    explicit HomeScreen(const std::vector<ApplicationInfo>& applications, QWidget* parent = nullptr);
+
+    /// Object name of an application's tile.
+    static QString tileName(const QString& className);
 
     /// A text below the tiles; an empty one takes it away.
     void setNotice(const QString& text);
     QString notice() const;
 
 signals:
-    void tilePressed();
+    void tilePressed(const QString& className);
 
 private:
-    QToolButton* m_tile;
+    struct Tile
+    {
+        QToolButton* button;
+        QString name;
+        bool needsController;
+    };
+
+    void addTile(QGridLayout* grid, const ApplicationInfo& application);
+    /// Tells at the tiles which applications have to wait for the controller.
+    void refresh();
+
+    std::vector<Tile> m_tiles;
     QLabel* m_notice;
 };
 

@@ -44,7 +44,10 @@ std::vector<Row> rows(const QStringList& faultNames)
          Options::tr(
              "Folder that the pendant works in (default: in the user's data folder; the tour's own)."),
          "DIR"},
-        {"plugin", Options::tr("Library of the application."), "FILE"},
+        {"application",
+         Options::tr("Another application: its description, or its library, which replaces an installed one "
+                     "of the same name."),
+         "FILE"},
         {"usb", Options::tr("Folder that stands for a USB drive."), "DIR"},
         {"fault",
          Options::tr(
@@ -134,14 +137,10 @@ void Options::takePaths(const QCommandLineParser& parser)
     {
         const char* name;
         QString& path;
-    } paths[] = {{"tour", tourDirectory},
-                 {"controller", controllerStore},
-                 {"workdir", workDirectory},
-                 {"plugin", plugin},
-                 {"usb", usb}};
+    } paths[] = {
+        {"tour", tourDirectory}, {"controller", controllerStore}, {"workdir", workDirectory}, {"usb", usb}};
     for (const auto& row : paths)
         row.path = absolute(parser.value(QLatin1String(row.name)));
-    if (plugin.isEmpty())
-        plugin =
-            QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("libfieldbussetting.so"));
+    for (const QString& file : parser.values(QStringLiteral("application")))
+        applications.append(absolute(file));
 }

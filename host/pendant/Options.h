@@ -17,11 +17,11 @@ public:
     bool tour = false;
     QString tourDirectory;
     bool panel = false;
-    QString controllerStore; ///< empty: in the work directory
-    QString workDirectory;   ///< empty: below the user's data folder; for the tour, a scratch folder
-    QString plugin;
-    QString usb;        ///< empty: no drive
-    QStringList faults; ///< as `Faults::setFromText` takes them
+    QString controllerStore;  ///< empty: in the work directory
+    QString workDirectory;    ///< empty: below the user's data folder; for the tour, a scratch folder
+    QStringList applications; ///< descriptions or libraries, beside those that are installed
+    QString usb;              ///< empty: no drive
+    QStringList faults;       ///< as `Faults::setFromText` takes them
     std::optional<int> userLevel;
     std::optional<double> timeScale;
     std::optional<int> mtcpPort; ///< none: the controller's own choice

@@ -1,7 +1,10 @@
 #include "PendantWindow.h"
 
+#include "ApplicationInfo.h"
 #include "ApplicationSlot.h"
 #include "BusFileService.h"
+#include "ControllerLink.h"
+#include "CurrentLink.h"
 #include "HomeScreen.h"
 #include "LogInDialog.h"
 #include "PendantPower.h"
@@ -16,18 +19,20 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 constexpr int RestartMs = 3000;
+constexpr int RetryMs = 20; ///< while something of an application is still at work
 } // namespace
 
-PendantWindow::PendantWindow(const QString& plugin, QWidget* parent)
+PendantWindow::PendantWindow(const InstalledApplications& applications, QWidget* parent)
     : QWidget(parent)
     , m_statusBar(new StatusBar(this))
     , m_pages(new QStackedWidget(this))
-    , m_home(new HomeScreen)
-    , m_area(new QWidget)
+    , m_home(new HomeScreen(applications.all()))
     , m_restarting(new QLabel(tr("\u21BB\nRestarting the pendant ...")))
-    , m_application(new ApplicationSlot(plugin, QStringLiteral("fieldbussetting"), m_area, this))
 {
     setObjectName(QStringLiteral("pendantWindow"));
     setWindowTitle(tr("Pendant"));
@@ -40,41 +45,84 @@ PendantWindow::PendantWindow(const QString& plugin, QWidget* parent)
     layout->addWidget(m_statusBar);
     layout->addWidget(m_pages);
     m_pages->setFixedSize(Width, PageHeight);
-    m_area->setObjectName(QStringLiteral("applicationArea"));
-    m_area->resize(Width, PageHeight);
     m_restarting->setObjectName(QStringLiteral("restartNotice"));
     m_restarting->setAlignment(Qt::AlignCenter);
-    for (QWidget* page : {static_cast<QWidget*>(m_home), m_area, static_cast<QWidget*>(m_restarting)})
-        m_pages->addWidget(page);
+    m_pages->addWidget(m_home);
+    m_pages->addWidget(m_restarting);
 
     connect(m_home, &HomeScreen::tilePressed, this, &PendantWindow::openApplication);
     connect(m_statusBar, &StatusBar::logInRequested, this, &PendantWindow::logIn);
-    connect(m_application, &ApplicationSlot::opened, this, [this] { showPage(m_area); });
-    connect(m_application, &ApplicationSlot::closed, this, &PendantWindow::applicationClosed);
-    connect(m_application, &ApplicationSlot::left, this, &PendantWindow::applicationLeft);
     connect(&PendantPower::instance(), &PendantPower::restartRequested, this, &PendantWindow::restart);
 
-    if (!m_application->load())
-        m_home->setNotice(m_application->error());
+    QStringList problems = applications.problems();
+    for (const ApplicationInfo& info : applications.all()) {
+        auto* area = new QWidget;
+        area->setObjectName(QStringLiteral("applicationArea"));
+        area->resize(Width, PageHeight);
+        m_pages->addWidget(area);
+        auto* application = new ApplicationSlot(info, area, this);
+        addApplication(application);
+        if (!application->load())
+            problems.append(application->error());
+        application->startResident();
+    }
+    m_home->setNotice(problems.join(QLatin1Char('\n')));
 }
 
 PendantWindow::~PendantWindow()
 {
-    // The application is a child of the area and has to go before it.
-    delete m_application;
+    // An application is a child of its area and has to go before it.
+    qDeleteAll(m_applications);
 }
 
-void PendantWindow::openApplication()
+void PendantWindow::addApplication(ApplicationSlot* application)
 {
-    if (m_pages->currentWidget() == m_restarting || m_application->state() == ApplicationSlot::State::Shown)
+    m_applications.push_back(application);
+    connect(application, &ApplicationSlot::opened, this,
+            [this, application] { showPage(application->area()); });
+    connect(application, &ApplicationSlot::closed, this,
+            [this, application](bool forced) { applicationClosed(*application, forced); });
+    connect(application, &ApplicationSlot::left, this, &PendantWindow::applicationLeft);
+}
+
+ApplicationSlot* PendantWindow::application(const QString& className) const
+{
+    const auto found =
+        std::find_if(m_applications.begin(), m_applications.end(),
+                     [&className](const ApplicationSlot* one) { return one->info().className == className; });
+    return found == m_applications.end() ? nullptr : *found;
+}
+
+ApplicationSlot* PendantWindow::present() const
+{
+    const auto found =
+        std::find_if(m_applications.begin(), m_applications.end(), [](const ApplicationSlot* one) {
+            return one->state() != ApplicationSlot::State::Empty;
+        });
+    return found == m_applications.end() ? nullptr : *found;
+}
+
+bool PendantWindow::isRestarting() const
+{
+    return m_pages->currentWidget() == m_restarting;
+}
+
+void PendantWindow::openApplication(const QString& className)
+{
+    ApplicationSlot* const wanted = application(className);
+    const ApplicationSlot* const last = present();
+    if (!wanted || isRestarting() || (last && last->state() == ApplicationSlot::State::Shown))
         return;
-    if (m_application->state() == ApplicationSlot::State::Leaving) {
-        m_openWhenLeft = true;
+    if (last) {
+        m_openWhenLeft = className;
         return;
     }
+    const ControllerLink* const link = currentLink();
+    if (wanted->info().needsController && link && !link->isUp())
+        return;
     m_home->setNotice(QString());
-    if (!m_application->open())
-        m_home->setNotice(m_application->error());
+    if (!wanted->open())
+        m_home->setNotice(wanted->error());
 }
 
 void PendantWindow::showPage(QWidget* page)
@@ -82,13 +130,14 @@ void PendantWindow::showPage(QWidget* page)
     m_pages->setCurrentWidget(page);
 }
 
-void PendantWindow::applicationClosed(bool forced)
+void PendantWindow::applicationClosed(const ApplicationSlot& application, bool forced)
 {
-    if (m_pages->currentWidget() == m_restarting)
+    if (isRestarting())
         return;
     if (forced)
-        m_home->setNotice(tr("Fieldbus settings was closed: user level %1 may not use it. "
+        m_home->setNotice(tr("%1 was closed: user level %2 may not use it. "
                              "Log in with a higher level and open it again.")
+                              .arg(application.info().name)
                               .arg(UserSession::instance().userLevel()));
     showPage(m_home);
 }
@@ -96,10 +145,8 @@ void PendantWindow::applicationClosed(bool forced)
 void PendantWindow::applicationLeft()
 {
     finishRestart();
-    if (m_openWhenLeft && m_pages->currentWidget() != m_restarting) {
-        m_openWhenLeft = false;
-        openApplication();
-    }
+    if (!m_openWhenLeft.isEmpty() && !isRestarting())
+        openApplication(std::exchange(m_openWhenLeft, QString()));
 }
 
 void PendantWindow::logIn()
@@ -116,26 +163,35 @@ void PendantWindow::logIn()
 
 void PendantWindow::restart()
 {
-    if (m_pages->currentWidget() == m_restarting)
+    if (isRestarting())
         return;
-    m_openWhenLeft = false;
+    m_openWhenLeft.clear();
     m_restartShown = false;
     m_home->setNotice(QString());
     showPage(m_restarting);
-    m_application->close();
+    for (ApplicationSlot* application : m_applications)
+        application->close();
     QTimer::singleShot(static_cast<int>(RestartMs / timeScale()), this, [this] {
         m_restartShown = true;
         finishRestart();
     });
 }
 
-// A restart is over when its notice was shown long enough and nothing of the application is left.
+// A restart is over when its notice was shown long enough and nothing of the applications is left. What is
+// resident begins anew.
 void PendantWindow::finishRestart()
 {
-    if (!m_restartShown || m_pages->currentWidget() != m_restarting ||
-        m_application->state() != ApplicationSlot::State::Empty)
+    if (!m_restartShown || !isRestarting() || present())
         return;
+    for (ApplicationSlot* application : m_applications) {
+        if (!application->stopResident()) {
+            QTimer::singleShot(RetryMs, this, &PendantWindow::finishRestart);
+            return;
+        }
+    }
     BusFileService::instance().resetSession();
+    for (ApplicationSlot* application : m_applications)
+        application->startResident();
     m_restartShown = false;
     showPage(m_home);
     emit restarted();

@@ -3,14 +3,17 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class ApplicationSlot;
+class InstalledApplications;
 class HomeScreen;
 class QLabel;
 class QStackedWidget;
 class StatusBar;
 
-/// The pendant's screen: the status bar on top, below it the home screen, the application, or the notice
-/// that the pendant restarts.
+/// The pendant's screen: the status bar on top, below it the home screen, the application that is open, or
+/// the notice that the pendant restarts. One application is open at a time; closing it returns home.
 class PendantWindow : public QWidget
 {
     Q_OBJECT
@@ -19,13 +22,18 @@ public:
     static constexpr int Width = 1024;
     static constexpr int PageHeight = 680; ///< what applications are drawn for
 
-    /// `plugin` is the library file of the application. The pendant is connected to its controller before.
-    explicit PendantWindow(const QString& plugin, QWidget* parent = nullptr);
+    /// The pendant is connected to its controller before. Every application's library is loaded now.
+    explicit PendantWindow(const InstalledApplications& applications, QWidget* parent = nullptr);
     ~PendantWindow() override;
 
-    /// Opens the application, or as soon as the last one is gone.
-    void openApplication();
-    ApplicationSlot& application() { return *m_application; }
+    /// Opens an application from the home screen, or as soon as the last one is gone. While the controller is
+    /// down, one that needs it stays closed.
+    void openApplication(const QString& className);
+    const std::vector<ApplicationSlot*>& applications() const { return m_applications; }
+    /// Null when there is none of that class name.
+    ApplicationSlot* application(const QString& className) const;
+    /// The one that is open or still leaving, null when there is none.
+    ApplicationSlot* present() const;
     HomeScreen& home() { return *m_home; }
 
 signals:
@@ -33,8 +41,10 @@ signals:
     void restarted();
 
 private:
+    void addApplication(ApplicationSlot* application);
     void showPage(QWidget* page);
-    void applicationClosed(bool forced);
+    bool isRestarting() const;
+    void applicationClosed(const ApplicationSlot& application, bool forced);
     void applicationLeft();
     void logIn();
     void restart();
@@ -43,10 +53,9 @@ private:
     StatusBar* m_statusBar;
     QStackedWidget* m_pages;
     HomeScreen* m_home;
-    QWidget* m_area; ///< of the application
     QLabel* m_restarting;
-    ApplicationSlot* m_application;
-    bool m_openWhenLeft = false;
+    std::vector<ApplicationSlot*> m_applications;
+    QString m_openWhenLeft;      ///< class name; empty: none
     bool m_restartShown = false; ///< the notice was shown for long enough to be read
 };
 

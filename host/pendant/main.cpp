@@ -1,11 +1,12 @@
+#include "ApplicationInfo.h"
 #include "ControllerPanel.h"
 #include "CurrentLink.h"
 #include "Faults.h"
-#include "FinsShortcut.h"
 #include "ModbusSlave.h"
 #include "Options.h"
 #include "PendantApplication.h"
 #include "PendantWindow.h"
+#include "Shortcut.h"
 #include "SimulatedController.h"
 #include "TimeScale.h"
 #include "Tour.h"
@@ -71,13 +72,25 @@ QString setUp(SimulatedController& controller, const Options& options)
     return {};
 }
 
+/// Those beside the program, and what the options add.
+InstalledApplications installedApplications(const Options& options)
+{
+    InstalledApplications installed;
+    installed.addFolder(
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("applications")));
+    for (const QString& file : options.applications)
+        installed.addFile(file);
+    return installed;
+}
+
 /// The pendant and the controller's panel, until the window is closed or the tour is over.
 int runWith(SimulatedController& controller, const Options& options)
 {
     const Connection connection(controller);
-    PendantWindow window(options.plugin);
-    ControllerPanel panel(controller, {[&window] { return FinsShortcut::isAtHand(window); },
-                                       [&window] { FinsShortcut::show(window); }});
+    PendantWindow window(installedApplications(options));
+    const Shortcut finsPage(window, QStringLiteral("finsPage"));
+    ControllerPanel panel(controller,
+                          {[finsPage] { return finsPage.isAtHand(); }, [finsPage] { finsPage.show(); }});
     // After the panel, whose log tells when the port is taken. Several tours may be on the way at a time.
     controller.setModbusPort(options.mtcpPort.value_or(options.tour ? 0 : ModbusSlave::DefaultPort));
     window.show();

@@ -1,11 +1,11 @@
 #include "ControllerPanel.h"
 #include "Faults.h"
 #include "FinsClient.h"
-#include "FinsShortcut.h"
 #include "LoneController.h"
 #include "PaintCounter.h"
 #include "PendantFixture.h"
 #include "QTouchLineEdit.h"
+#include "Shortcut.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -119,9 +119,9 @@ private slots:
 void TestFins::pageIsReachedFromThePanel()
 {
     PendantFixture pendant;
+    const Shortcut finsPage(pendant.window(), QStringLiteral("finsPage"));
     ControllerPanel panel(pendant.controller(),
-                          {[&pendant] { return FinsShortcut::isAtHand(pendant.window()); },
-                           [&pendant] { FinsShortcut::show(pendant.window()); }});
+                          {[finsPage] { return finsPage.isAtHand(); }, [finsPage] { finsPage.show(); }});
     panel.show();
     auto* tabs = panel.findChild<QTabWidget*>();
     tabs->setCurrentWidget(panel.findChild<QWidget*>("hostLinkTab"));
@@ -148,7 +148,8 @@ void TestFins::chosenAgainWhileItIsMade()
     QVERIFY(pendant.open());
     pendant.controller().faults().set(Faults::FetchFails, -1, FilePath);
     MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    QTimer::singleShot(200, &pendant.window(), [&pendant] { FinsShortcut::show(pendant.window()); });
+    QTimer::singleShot(200, &pendant.window(),
+                       [&pendant] { Shortcut(pendant.window(), QStringLiteral("finsPage")).show(); });
     QVERIFY(pendant.selectPage(FinsPage));
     QVERIFY(pendant.find("FinsTcpSettingWidget")->isVisible());
     QCOMPARE(pendant.messages().size(), 1);

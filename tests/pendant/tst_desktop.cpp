@@ -1,10 +1,13 @@
+#include "ApplicationInfo.h"
 #include "ApplicationSlot.h"
 #include "BusFileDataManager.h"
 #include "BusObserver.h"
+#include "CurrentLink.h"
 #include "Desktop.h"
 #include "DesktopApi.h"
 #include "Finger.h"
 #include "HomeScreen.h"
+#include "MemoryLink.h"
 #include "Options.h"
 #include "PendantPower.h"
 #include "PendantWindow.h"
@@ -17,10 +20,35 @@
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QtTest>
 
 namespace {
 const QString Plugin = QStringLiteral(TEST_PLUGINS "/libtestplugin2.so");
+const QString ClassName = QStringLiteral("fieldbussetting");
+const char* const Tile = "tile_fieldbussetting";
+
+InstalledApplications only(const QString& library, bool resident = false)
+{
+    ApplicationInfo info = ApplicationInfo::ofLibrary(library);
+    info.className = ClassName;
+    info.resident = resident;
+    InstalledApplications installed;
+    installed.add(info);
+    return installed;
+}
+
+/// A pendant on the screen with the test's application.
+struct Pendant : PendantWindow
+{
+    explicit Pendant(const InstalledApplications& installed = only(Plugin))
+        : PendantWindow(installed)
+    {
+        show();
+    }
+    ApplicationSlot& first() const { return *applications().front(); }
+    ApplicationSlot::State state() const { return first().state(); }
+};
 
 QStringList journal()
 {
@@ -44,6 +72,7 @@ private slots:
         UserSession::instance().setUserLevel(4);
         qApp->setProperty("refuseWidget", QVariant());
         qApp->setProperty("journal", QVariant());
+        qApp->setProperty("dataTicks", QVariant());
     }
 
     void loadingFails_data();
@@ -51,6 +80,12 @@ private slots:
     void applicationThatDoesNotStart();
     void life();
     void ticksOnlyWhileShown();
+    void residentRunsUnseen();
+    void oneIsOpenAtATime();
+    void tileWaitsForTheController();
+    void descriptions_data();
+    void descriptions();
+    void installing();
     void closing_data();
     void closing();
     void levelTooLowAtOpening();
@@ -82,41 +117,38 @@ void TestDesktop::loadingFails()
 {
     QFETCH(QString, file);
     QFETCH(QString, reason);
-    PendantWindow window(file);
-    window.show();
+    Pendant window(only(file));
     QVERIFY2(window.home().notice().contains(reason), qPrintable(window.home().notice()));
 
-    QVERIFY(press(window, "applicationTile"));
+    QVERIFY(press(window, Tile));
     QVERIFY2(window.home().notice().contains(reason), qPrintable(window.home().notice()));
     QVERIFY(window.home().isVisible());
 }
 
 void TestDesktop::applicationThatDoesNotStart()
 {
-    PendantWindow window(Plugin);
-    window.show();
+    Pendant window;
     qApp->setProperty("refuseWidget", true);
-    QVERIFY(press(window, "applicationTile"));
+    QVERIFY(press(window, Tile));
     QVERIFY(!window.home().notice().isEmpty());
     QCOMPARE(journal(), QStringList({"data made", "data deleted"}));
 
     qApp->setProperty("refuseWidget", false);
-    QVERIFY(press(window, "applicationTile"));
-    QCOMPARE(window.application().state(), ApplicationSlot::State::Shown);
+    QVERIFY(press(window, Tile));
+    QCOMPARE(window.state(), ApplicationSlot::State::Shown);
 }
 
 void TestDesktop::life()
 {
-    PendantWindow window(Plugin);
-    window.show();
-    QVERIFY(press(window, "applicationTile"));
+    Pendant window;
+    QVERIFY(press(window, Tile));
     QCOMPARE(journal(), QStringList({"data made", "widget made", "variables 0 1"}));
-    QCOMPARE(window.application().widget()->size(), QSize(1024, 680));
+    QCOMPARE(window.first().widget()->size(), QSize(1024, 680));
 
     emit VariableContext::instance().switched();
     QCOMPARE(journal().mid(3), QStringList({"variables 0 0", "variables 0 1"}));
 
-    QSignalSpy left(&window.application(), &ApplicationSlot::left);
+    QSignalSpy left(&window.first(), &ApplicationSlot::left);
     QVERIFY(press(window, "closeButton"));
     QVERIFY(window.home().isVisible());
     QVERIFY(left.wait());
@@ -127,10 +159,9 @@ void TestDesktop::life()
 
 void TestDesktop::ticksOnlyWhileShown()
 {
-    PendantWindow window(Plugin);
-    window.show();
-    window.openApplication();
-    const ZelBaseWidget* application = window.application().widget();
+    Pendant window;
+    window.openApplication(ClassName);
+    const ZelBaseWidget* application = window.first().widget();
     const auto ticks = [application] { return application->QObject::property("ticks").toInt(); };
     QTRY_VERIFY(ticks() >= 2);
     QCOMPARE(application->QObject::property("marker").toInt(), 1);
@@ -142,6 +173,106 @@ void TestDesktop::ticksOnlyWhileShown()
 
     window.show();
     QTRY_VERIFY(ticks() > hidden);
+}
+
+void TestDesktop::residentRunsUnseen()
+{
+    Pendant window(only(Plugin, true));
+    const auto ticks = [] { return qApp->property("dataTicks").toInt(); };
+    QCOMPARE(journal(), QStringList{"data made"});
+    QTRY_VERIFY(ticks() >= 2);
+    QVERIFY(press(window, Tile));
+    QSignalSpy left(&window.first(), &ApplicationSlot::left);
+    QVERIFY(press(window, "closeButton"));
+    QVERIFY(left.wait());
+    QVERIFY2(!journal().contains("data deleted"), "it outlives its widget");
+    const int closed = ticks();
+    QTRY_VERIFY(ticks() > closed);
+
+    QSignalSpy restarted(&window, &PendantWindow::restarted);
+    PendantPower::instance().requestRestart();
+    QVERIFY(restarted.wait());
+    QCOMPARE(journal().mid(journal().size() - 2), QStringList({"data deleted", "data made"}));
+}
+
+void TestDesktop::oneIsOpenAtATime()
+{
+    InstalledApplications installed = only(Plugin);
+    installed.addFile(Plugin);
+    Pendant window(installed);
+    window.openApplication(QStringLiteral("testplugin2"));
+    window.openApplication(ClassName);
+    QCOMPARE(window.present()->info().className, QStringLiteral("testplugin2"));
+    // Pages differ: one that is closed by its id leaves the other where it is.
+    DesktopApi::closeApplication(DesktopApi::pageIdFromClassName(ClassName), false);
+    QCOMPARE(window.present()->state(), ApplicationSlot::State::Shown);
+    DesktopApi::closeApplication(DesktopApi::pageIdFromClassName(QStringLiteral("testplugin2")), false);
+    QVERIFY(window.home().isVisible());
+    QVERIFY(press(window, Tile));
+    QTRY_COMPARE(window.application(ClassName)->state(), ApplicationSlot::State::Shown);
+}
+
+void TestDesktop::tileWaitsForTheController()
+{
+    MemoryLink link;
+    link.up = false;
+    setCurrentLink(&link);
+    Pendant window;
+    QVERIFY(!press(window, Tile));
+    window.openApplication(ClassName);
+    QVERIFY(!window.present());
+    QVERIFY(window.findChild<QToolButton*>(Tile)->text().contains("Controller is restarting"));
+    link.up = true;
+    emit link.stateChanged();
+    QVERIFY(press(window, Tile));
+    QVERIFY(window.present());
+    setCurrentLink(nullptr);
+}
+
+void TestDesktop::descriptions_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("problem"); // empty: it is taken
+    const QByteArray good = R"({"class": "a", "library": "liba.so", "name": {"en": "An A", "xx": "X"}})";
+    QTest::newRow("good") << good << QString();
+    QTest::newRow("cut short") << good.chopped(1) << "unterminated";
+    QTest::newRow("empty") << QByteArray() << "illegal";
+    QTest::newRow("no class") << QByteArray(good).replace("class", "klass") << "does not tell";
+    QTest::newRow("no library") << QByteArray(good).replace("liba.so", "") << "does not tell";
+    QTest::newRow("no English name") << QByteArray(good).replace("en", "yy") << "does not tell";
+}
+
+void TestDesktop::descriptions()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, problem);
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a.json")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    file.close();
+    InstalledApplications installed;
+    installed.addFolder(folder.path());
+    QCOMPARE(installed.all().empty(), !problem.isEmpty());
+    if (problem.isEmpty())
+        QCOMPARE(installed.all().front().name, QStringLiteral("An A"));
+    else
+        QVERIFY2(installed.problems().constFirst().contains(problem), qPrintable(installed.problems()[0]));
+}
+
+void TestDesktop::installing()
+{
+    InstalledApplications installed;
+    installed.addFile(Plugin);
+    installed.addFile(QStringLiteral(TEST_PLUGINS "/applications/fieldbussetting.json"));
+    QCOMPARE(installed.all().front().className, QStringLiteral("testplugin2"));
+    QVERIFY(QFileInfo::exists(installed.all().back().library));
+
+    // A library takes the place of its namesake's, under the same description.
+    const QString other = QStringLiteral("/x/libfieldbussetting.so");
+    installed.addFile(other);
+    QCOMPARE(installed.all().size(), std::size_t(2));
+    QCOMPARE(installed.all().back().library, other);
+    QCOMPARE(installed.all().back().shortcuts.size(), std::size_t(1));
 }
 
 void TestDesktop::closing_data()
@@ -158,29 +289,28 @@ void TestDesktop::closing()
 {
     QFETCH(QString, button);
     QFETCH(bool, forced);
-    PendantWindow window(Plugin);
-    window.show();
+    Pendant window;
     for (int round = 0; round < 3; ++round) {
         init();
-        QVERIFY(press(window, "applicationTile"));
-        QSignalSpy left(&window.application(), &ApplicationSlot::left);
+        QVERIFY(press(window, Tile));
+        QSignalSpy left(&window.first(), &ApplicationSlot::left);
         if (forced)
             QTimer::singleShot(30, &window, [&window] {
                 UserSession::instance().setUserLevel(2);
                 // Off the screen at once, and a new one is not made beside the old one.
                 QVERIFY(window.home().isVisible());
                 UserSession::instance().setUserLevel(4);
-                QVERIFY(press(window, "applicationTile"));
-                QCOMPARE(window.application().state(), ApplicationSlot::State::Leaving);
+                QVERIFY(press(window, Tile));
+                QCOMPARE(window.state(), ApplicationSlot::State::Leaving);
             });
         QVERIFY(press(window, qPrintable(button)));
-        QCOMPARE(window.application().state(), ApplicationSlot::State::Leaving);
+        QCOMPARE(window.state(), ApplicationSlot::State::Leaving);
         QVERIFY(left.wait());
         const QStringList expected = {"variables 0 0", "slot ended", "widget deleted", "data deleted"};
         QCOMPARE(journal().mid(3, 4), expected);
         if (forced) {
             // What was asked for in the meantime follows.
-            QCOMPARE(window.application().state(), ApplicationSlot::State::Shown);
+            QCOMPARE(window.state(), ApplicationSlot::State::Shown);
             QVERIFY(press(window, "closeButton"));
             QVERIFY(left.wait());
         }
@@ -190,24 +320,22 @@ void TestDesktop::closing()
 
 void TestDesktop::levelTooLowAtOpening()
 {
-    PendantWindow window(Plugin);
-    window.show();
+    Pendant window;
     UserSession::instance().setUserLevel(1);
-    QVERIFY(press(window, "applicationTile"));
+    QVERIFY(press(window, Tile));
     QVERIFY(window.home().isVisible());
     QVERIFY2(window.home().notice().contains("level 1"), qPrintable(window.home().notice()));
 
     UserSession::instance().setUserLevel(3);
-    QTRY_COMPARE(window.application().state(), ApplicationSlot::State::Empty);
-    QVERIFY(press(window, "applicationTile"));
-    QCOMPARE(window.application().state(), ApplicationSlot::State::Shown);
+    QTRY_COMPARE(window.state(), ApplicationSlot::State::Empty);
+    QVERIFY(press(window, Tile));
+    QCOMPARE(window.state(), ApplicationSlot::State::Shown);
     QVERIFY(window.home().notice().isEmpty());
 }
 
 void TestDesktop::logInDialogChangesLevel()
 {
-    PendantWindow window(Plugin);
-    window.show();
+    Pendant window;
     const auto answer = [&window](const char* button) {
         QTimer::singleShot(50, &window, [button] {
             QWidget* dialog = QApplication::activeModalWidget();
@@ -232,9 +360,8 @@ void TestDesktop::restart()
     observer.setIsFieldXml(true);
     BusFileDataManager::getInstance()->attach(&observer);
 
-    PendantWindow window(Plugin);
-    window.show();
-    QVERIFY(press(window, "applicationTile"));
+    Pendant window;
+    QVERIFY(press(window, Tile));
     QSignalSpy restarted(&window, &PendantWindow::restarted);
     // The request comes while the application waits in a slot, as after a save.
     QTimer::singleShot(30, &window, [] { PendantPower::instance().requestRestart(); });

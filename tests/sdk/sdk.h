@@ -1,5 +1,5 @@
-// What a pendant's SDK is sure to have: the names that an application may rely on, and no more. The plug-in has
-// to build with this alone; what the desktop pendant offers beyond it is reached without naming it.
+// What a pendant's SDK is sure to have: the names that an application may rely on, and no more. The plug-in
+// has to build with this alone; what the desktop pendant offers beyond it is reached without naming it.
 #ifndef TESTS_SDK_H
 #define TESTS_SDK_H
 

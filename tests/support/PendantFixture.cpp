@@ -1,5 +1,6 @@
 #include "PendantFixture.h"
 
+#include "ApplicationInfo.h"
 #include "ApplicationSlot.h"
 #include "BusFileDataManager.h"
 #include "BusFileService.h"
@@ -53,7 +54,9 @@ PendantFixture::PendantFixture(double timeScale)
     m_controller->setTimeScale(timeScale);
     setCurrentLink(m_controller.get());
     BusFileService::instance().resetSession();
-    m_window = std::make_unique<PendantWindow>(QStringLiteral(PLUGIN_FILE));
+    InstalledApplications installed;
+    installed.addFile(QStringLiteral(APPLICATIONS "fieldbussetting.json"));
+    m_window = std::make_unique<PendantWindow>(installed);
     m_window->show();
 }
 
@@ -69,9 +72,14 @@ PendantFixture::~PendantFixture()
                      __LINE__);
 }
 
+ApplicationSlot* PendantFixture::application() const
+{
+    return m_window->applications().front();
+}
+
 bool PendantFixture::open()
 {
-    m_window->openApplication();
+    m_window->openApplication(application()->info().className);
     return QTest::qWaitFor([this] { return isOpen() && menuPage(*m_window)->isVisible(); }, 10000) &&
            settle();
 }
@@ -88,7 +96,7 @@ bool PendantFixture::openPastStartPage()
 
 bool PendantFixture::isOpen() const
 {
-    return menuPage(*m_window) && m_window->application().state() == ApplicationSlot::State::Shown;
+    return menuPage(*m_window) && application()->state() == ApplicationSlot::State::Shown;
 }
 
 bool PendantFixture::openPage(const QString& menuButton)
@@ -175,14 +183,14 @@ bool PendantFixture::reopensAfterDrop(int mostRestarts)
 
 bool PendantFixture::tick(int times)
 {
-    QObject* application = m_window->application().widget();
-    if (!application)
+    QObject* widget = application()->widget();
+    if (!widget)
         return false;
-    const QMetaObject* type = application->metaObject();
+    const QMetaObject* type = widget->metaObject();
     const QMetaMethod idle = type->method(type->indexOfSlot("slotIdle()"));
     bool ticked = true;
     for (int i = 0; i < times; ++i)
-        ticked = idle.invoke(application) && ticked;
+        ticked = idle.invoke(widget) && ticked;
     return ticked;
 }
 

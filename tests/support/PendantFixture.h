@@ -13,6 +13,8 @@
 
 #include <memory>
 
+class ApplicationSlot;
+
 /// A whole pendant as the program makes it, with a simulated controller of its own in a scratch directory and
 /// the plug-in loaded through its exported functions. Tests find buttons and fields by object name and press
 /// them as a finger does; boxes are answered through MsgBoxScript, and one that nobody answers fails the test
@@ -28,6 +30,8 @@ public:
 
     SimulatedController& controller() { return *m_controller; }
     PendantWindow& window() { return *m_window; }
+    /// The place of the application on the pendant.
+    ApplicationSlot* application() const;
     QString usbDirectory() const { return m_directory.path() + QStringLiteral("/usb"); }
 
     /// Opens the application and waits until the menu is there and the first page has loaded.

@@ -365,7 +365,7 @@ void TestUsbExport::userLevelDrops()
     }
     pendant.press("btn_export");
     QTRY_VERIFY(!pendant.isOpen() && !QApplication::activeModalWidget());
-    QTRY_COMPARE(pendant.window().application().state(), ApplicationSlot::State::Empty);
+    QTRY_COMPARE(pendant.application()->state(), ApplicationSlot::State::Empty);
     pendant.whileShown = nullptr;
     pendant.controller().faults().clearAll();
     UserSession::instance().setUserLevel(4);

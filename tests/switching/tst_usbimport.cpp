@@ -550,7 +550,7 @@ void TestUsbImport::userLevelDropsAtEveryStep()
         pendant.atStep(step, [] { QTimer::singleShot(0, [] { UserSession::instance().setUserLevel(1); }); });
         pendant.press("btn_import");
         QVERIFY(pendant.stepReached());
-        QTRY_COMPARE(pendant.window().application().state(), ApplicationSlot::State::Empty);
+        QTRY_COMPARE(pendant.application()->state(), ApplicationSlot::State::Empty);
         QVERIFY(!QApplication::activeModalWidget());
         QVERIFY2((pendant.configuration() == before) == (step < steps), qPrintable(QString::number(step)));
         UserSession::instance().setUserLevel(4);
@@ -583,7 +583,7 @@ void TestUsbImport::notPutBackIsToldAndKept()
     // The next import begins with putting back what the last one has left, also after a new start.
     pendant.controller().faults().clearAll();
     QVERIFY(pendant.press("exitBtn"));
-    QTRY_COMPARE(pendant.window().application().state(), ApplicationSlot::State::Empty);
+    QTRY_COMPARE(pendant.application()->state(), ApplicationSlot::State::Empty);
     QVERIFY(pendant.open());
     QVERIFY(isPutBack(pendant));
     QVERIFY(pendant.configuration() == before);

@@ -1,6 +1,5 @@
 #include "ControllerLink.h"
-#include "FinsShortcut.h"
-#include "PendantWindow.h"
+#include "Shortcut.h"
 #include "Stations.h"
 #include "TourGuide.h"
 
@@ -23,8 +22,9 @@ bool Stations::fins(TourGuide& guide)
         guide.controller().writeVariable(QStringLiteral("ifins_tcp.%1").arg(QLatin1String(variable)), 0,
                                          on ? 1.0 : 0.0);
     };
-    if (!guide.openBy(QStringLiteral("the FINS client"),
-                      [&guide] { return FinsShortcut::show(guide.subject().window); }) ||
+    if (!guide.openBy(
+            QStringLiteral("the FINS client"),
+            [&guide] { return Shortcut(guide.subject().window, QStringLiteral("finsPage")).show(); }) ||
         !guide.report(QStringLiteral("fins-off")))
         return false;
     // The factory settings name a server that a simulated controller does not call.

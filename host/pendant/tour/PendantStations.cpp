@@ -1,5 +1,6 @@
 #include "ApplicationSlot.h"
 #include "ControllerLink.h"
+#include "HomeScreen.h"
 #include "PendantWindow.h"
 #include "Stations.h"
 #include "TourGuide.h"
@@ -14,9 +15,9 @@ bool Stations::home(TourGuide& guide)
 // With the start page, which is made along with the menu.
 bool Stations::menu(TourGuide& guide)
 {
-    const QString problem = guide.subject().window.application().error();
-    if (!problem.isEmpty())
-        return TourGuide::fail(problem);
+    const ApplicationSlot* settings = guide.subject().window.application(QStringLiteral("fieldbussetting"));
+    if (!settings || !settings->error().isEmpty())
+        return TourGuide::fail(settings ? settings->error() : guide.subject().window.home().notice());
     const bool loaded = guide.open();
     return guide.find(QStringLiteral("menusGroupBox")) && guide.report(QStringLiteral("menu")) && loaded;
 }
@@ -84,6 +85,20 @@ bool Stations::panel(TourGuide& guide)
     const bool reported = guide.settle() && guide.report(QStringLiteral("panel"), panel);
     panel->setVisible(wasVisible);
     return reported;
+}
+
+// Applications without stations of their own: the page that each opens with.
+bool Stations::otherApplications(TourGuide& guide)
+{
+    bool allSeen = guide.leave();
+    for (const ApplicationSlot* application : guide.subject().window.applications()) {
+        const QString name = application->info().className;
+        if (name == QLatin1String("fieldbussetting"))
+            continue;
+        allSeen = guide.openApplication(name) && guide.report(name) && allSeen;
+        allSeen = guide.leaveApplication() && allSeen;
+    }
+    return guide.open() && allSeen;
 }
 
 // Opened again from the home screen before, so that a second life of the application is seen as well.

@@ -18,6 +18,7 @@ bool message(TourGuide& guide);
 bool numericKeyboard(TourGuide& guide);
 bool logIn(TourGuide& guide);
 bool panel(TourGuide& guide);
+bool otherApplications(TourGuide& guide);
 bool exit(TourGuide& guide);
 
 // SwitchingStations.cpp

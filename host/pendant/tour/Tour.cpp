@@ -34,6 +34,7 @@ constexpr Station AllStations[] = {
     {"slave-module", Stations::slaveModule},
     {"slaves-of-masters", Stations::slavesOfMasters},
     {"long-device-tables", Stations::longDeviceTables},
+    {"other-applications", Stations::otherApplications},
     {"exit", Stations::exit},
 };
 

@@ -2,10 +2,13 @@
 
 #include "ApplicationSlot.h"
 #include "ControllerLink.h"
+#include "DesktopApi.h"
 #include "Finger.h"
+#include "HomeScreen.h"
 #include "MsgBox.h"
 #include "NumericKeyboardScript.h"
 #include "PendantWindow.h"
+#include "ZelBaseWidget.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -102,8 +105,20 @@ bool TourGuide::openBy(const QString& name, const std::function<bool()>& act)
 
 bool TourGuide::open()
 {
-    const QString tile = QStringLiteral("applicationTile");
+    const QString tile = HomeScreen::tileName(QStringLiteral("fieldbussetting"));
     return openBy(tile, [this, tile] { return Finger::press(find(tile)); });
+}
+
+bool TourGuide::openApplication(const QString& className)
+{
+    return press(HomeScreen::tileName(className)) && m_subject.window.present();
+}
+
+bool TourGuide::leaveApplication()
+{
+    if (const ApplicationSlot* application = m_subject.window.present())
+        DesktopApi::closeApplication(DesktopApi::pageIdFromClassName(application->info().className), false);
+    return settle() && !m_subject.window.present();
 }
 
 bool TourGuide::leave()
@@ -201,18 +216,13 @@ bool TourGuide::isBusy() const
             return widget != m_subject.panel && isDialogOf(widget, m_subject.window);
         }))
         return true;
-    switch (m_subject.window.application().state()) {
-    case ApplicationSlot::State::Empty:
+    const ApplicationSlot* const application = m_subject.window.present();
+    if (!application)
         return false;
-    case ApplicationSlot::State::Leaving:
+    const QWidget* const page = application->widget() ? application->widget()->getCentralWidget() : nullptr;
+    if (application->state() != ApplicationSlot::State::Shown || !page || !page->isVisible())
         return true;
-    case ApplicationSlot::State::Shown:
-        break;
-    }
-    const QWidget* menu = find(QStringLiteral("menusGroupBox"));
-    if (!menu)
-        return true;
-    for (const QWidget* above = menu; above; above = above->parentWidget()) {
+    for (const QWidget* above = page; above; above = above->parentWidget()) {
         if (above->testAttribute(Qt::WA_TransparentForMouseEvents))
             return true;
     }

@@ -53,10 +53,14 @@ public:
     /// Class of the page that is shown, empty when none is.
     QString pageClass() const;
 
-    /// These open or close the application from where the other leaves off. False, and told, when the start
-    /// page did not load.
+    /// These open or close the fieldbus settings from where the other leaves off. False, and told, when the
+    /// start page did not load.
     bool open();
     bool leave();
+    /// The same for any application, by its tile and through the desktop. Whether its first page is there is
+    /// the application's affair.
+    bool openApplication(const QString& className);
+    bool leaveApplication();
     /// Pages fetch and read when they are built: new ones show what changed behind the pendant's back.
     bool reopen();
     /// Shows the page of a menu button; false, and told, when it did not load: a fetch failed, an error was

@@ -35,13 +35,18 @@ void closeApplication(bool forced)
     DesktopApi::closeApplication(DesktopApi::pageIdFromClassName(QStringLiteral("fieldbussetting")), forced);
 }
 
-class Data : public BaseZelCustomData
+class Data : public QObject, public BaseZelCustomData
 {
+    Q_OBJECT
+
 public:
     Data() { note(QStringLiteral("data made")); }
     ~Data() override { note(QStringLiteral("data deleted")); }
     QWidget* getCentralWidget() override { return nullptr; }
     QWidget* currentCentralWidget() override { return nullptr; }
+
+private slots:
+    void slotIdle() { qApp->setProperty("dataTicks", qApp->property("dataTicks").toInt() + 1); }
 };
 
 class TestApplication : public ZelBaseWidget
