@@ -57,7 +57,9 @@ signals:
     /// True: a long operation begins, the menu page blocks input; false: it has ended. In pairs, may nest.
     void mouseEventSignal(bool);
 
-protected:
+public:
+    // The steps of a page, for itself and for the members that it is composed of.
+
     /// Third is an answer that some hosts give to a box that asks nothing.
     enum class Answer { Dismissed, Confirmed, Second, Third, Gone };
 
@@ -84,12 +86,6 @@ protected:
     static FileOperation plain(PlainOperation operation);
 
     static FieldbusSettingLib* lib() { return FieldbusSettingLib::getInstance(); }
-
-    /// Applies the page's style sheet; to be called when the form is built.
-    void applyStyle();
-    /// Runs `slot` once after `msec` milliseconds, unless the page is gone by then.
-    template <typename Page>
-    void scheduleOnce(int msec, void (Page::*slot)());
 
     /// A text in the operator's language: by the page's own translation, else by the one that all pages
     /// share. What the pages share is marked with QT_TRANSLATE_NOOP("PageBase", ...).
@@ -122,6 +118,13 @@ protected:
     /// Restarts with input blocked, so that no second restart is asked for meanwhile. The page may be gone
     /// afterwards.
     void restart(Restart::Way way);
+
+protected:
+    /// Applies the page's style sheet; to be called when the form is built.
+    void applyStyle();
+    /// Runs `slot` once after `msec` milliseconds, unless the page is gone by then.
+    template <typename Page>
+    void scheduleOnce(int msec, void (Page::*slot)());
 
 private:
     /// Looks after the page while events are processed: false when the page is gone.
