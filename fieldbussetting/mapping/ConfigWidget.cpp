@@ -2,6 +2,8 @@
 
 #include "BusFileDataManager.h"
 #include "BusMappingTab.h"
+#include "DataAccess.h"
+#include "UpdateState.h"
 #include "ZelFunctions.h"
 #include "ui_ConfigWidget.h"
 
@@ -11,8 +13,6 @@
 using namespace Mapping;
 
 namespace {
-
-constexpr int SlaveBlocksMoved = 0x1; // bit of "ifidbus.xml_update_state"
 
 BusFileDataManager* service()
 {
@@ -30,7 +30,6 @@ ConfigWidget::ConfigWidget()
     applyStyle();
     showCurrent();
 
-    connect(&m_timer, &QTimer::timeout, this, &ConfigWidget::slotRestoreUi);
     connect(this, &ConfigWidget::sendSaveSignal, this, &ConfigWidget::slotSaveAndReboot);
     lib()->set_freebus_busconfig_xml_update(0);
     setIsFieldbusCfg(true);
@@ -121,7 +120,7 @@ void ConfigWidget::slotGetFileToUi()
 void ConfigWidget::showEvent(QShowEvent* event)
 {
     PageBase::showEvent(event);
-    if (!m_loaded || m_busy)
+    if (!m_loaded || m_save.isUnderWay())
         return;
     if (m_model.isFree() != service()->isOpenFreeBus()) {
         setEditing(false);
@@ -206,11 +205,69 @@ void ConfigWidget::take(const MappingModel::Entry& entry)
         return;
     }
     if (entry.movedSlaveBlock)
-        changeUpdateBits(0, SlaveBlocksMoved);
+        MappingSave::changeUpdateBits(0, UpdateState::SlaveBlocksMoved);
     showAll();
 }
 
 void ConfigWidget::refuse(const Message& message)
 {
     tell(static_cast<MsgBox::Kind>(message.severity), message.text);
+}
+
+void ConfigWidget::on_bt_EditOrSave_clicked()
+{
+    if (m_save.isUnderWay()) // no finger gets here meanwhile, but a key does
+        return;
+    if (!m_editing) {
+        setEditing(true);
+        return;
+    }
+    if (const Refusal refusal = m_model.saveRefusal(switchedOnBuses())) {
+        refuse(*refusal);
+        return;
+    }
+    switch (ask(tr("Are you sure to Save Configuration?"), MsgBox::YesNo)) {
+    case Answer::Confirmed:
+        break;
+    case Answer::Second:
+        setEditing(false);
+        slotGetFileToUi();
+        return;
+    default:
+        return;
+    }
+    if (DataAccess::isRobotRunning())
+        return;
+    if (DataAccess::isServoOn())
+        tell(MsgBox::Warning, tr("Please turn off the servo first!"));
+    else
+        m_save.begin(m_model.editedBuses());
+}
+
+void ConfigWidget::forbidEditing()
+{
+    ui->bt_EditOrSave->setEnabled(false);
+}
+
+void ConfigWidget::busNotification(int kind, const QString& path, bool success)
+{
+    constexpr int Sent = 1;
+    if (kind == Sent)
+        m_save.sent(path, success);
+}
+
+void ConfigWidget::refreshStatus()
+{
+    if (!m_editing)
+        emit sendSaveSignal();
+}
+
+void ConfigWidget::slotSaveAndReboot()
+{
+    m_save.lookForAcknowledgement();
+}
+
+void ConfigWidget::slotRestoreUi()
+{
+    m_save.tick();
 }

@@ -3,8 +3,7 @@
 
 #include "BusObserver.h"
 #include "MappingModel.h"
-#include "PageBase.h"
-#include "WaitNotice.h"
+#include "MappingSave.h"
 
 #include <QStringList>
 
@@ -20,7 +19,7 @@ class ConfigWidget;
 ///
 /// A save goes through the bus file data service. It is announced to the controller, which acknowledges it
 /// or lets the page wait in vain for 15 s; then the restart is offered.
-class ConfigWidget : public PageBase, public BusObserver
+class ConfigWidget : public PageBase, public BusObserver, private MappingSaveHost
 {
     Q_OBJECT
 
@@ -78,11 +77,9 @@ private:
     /// The page may be gone afterwards.
     void refuse(const Mapping::Message& message);
 
-    /// Changes bits of "ifidbus.xml_update_state", in one write; the others are left as they are.
-    static void changeUpdateBits(int dropped, int added);
-    void save();
-    void endWaiting();
-    void restartController();
+    // What the save asks of the page.
+    void leaveEditing() override { setEditing(false); }
+    void forbidEditing() override;
 
     std::unique_ptr<Ui::ConfigWidget> ui;
     MappingModel m_model;
@@ -93,13 +90,7 @@ private:
     bool m_entering = false;                // a keyboard or a refusal is open
     int m_editedTable = 0;                  // the one of the cell that was pressed last
     BusVariableType m_editedType = BusBool; // ... and its row's
-
-    // A save under way: from its confirmation until the operator was told how it ended.
-    std::optional<Busy> m_busy;
-    WaitNotice m_notice;
-    QTimer m_timer{this};
-    int m_ticks = 0;
-    bool m_waiting = false; // for the controller's acknowledgement
+    MappingSave m_save{*this, *this};
 };
 
 #endif

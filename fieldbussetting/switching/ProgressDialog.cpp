@@ -17,6 +17,12 @@ ProgressDialog::ProgressDialog(QWidget* parent)
 
 ProgressDialog::~ProgressDialog() = default;
 
+ProgressDialog& ProgressDialog::of(QWidget& page)
+{
+    auto* dialog = page.findChild<ProgressDialog*>(QString(), Qt::FindDirectChildrenOnly);
+    return dialog ? *dialog : *new ProgressDialog(&page);
+}
+
 void ProgressDialog::setText(const QString& text)
 {
     ui->label->setText(text);

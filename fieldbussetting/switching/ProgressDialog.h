@@ -19,6 +19,9 @@ public:
     explicit ProgressDialog(QWidget* parent);
     ~ProgressDialog() override;
 
+    /// The one of `page`, its child, made on first use.
+    static ProgressDialog& of(QWidget& page);
+
     void setText(const QString& text);
     void setRange(int minimum, int maximum);
     void setValue(int value);

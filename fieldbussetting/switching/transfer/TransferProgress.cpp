@@ -17,16 +17,16 @@ void letPaint()
 
 } // namespace
 
-TransferProgress::TransferProgress(ProgressDialog* dialog, const QString& text, int steps)
-    : m_dialog(dialog)
+TransferProgress::TransferProgress(QWidget& page, const QString& text, int steps)
+    : m_dialog(&ProgressDialog::of(page))
     , m_steps(steps)
 {
-    dialog->setBlocking(true);
-    dialog->setText(text);
-    dialog->setRange(0, Full);
-    dialog->move(Left, Top);
-    dialog->setValue(m_counter);
-    dialog->show();
+    m_dialog->setBlocking(true);
+    m_dialog->setText(text);
+    m_dialog->setRange(0, Full);
+    m_dialog->move(Left, Top);
+    m_dialog->setValue(m_counter);
+    m_dialog->show();
     letPaint();
 }
 

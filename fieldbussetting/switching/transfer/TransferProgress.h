@@ -6,6 +6,7 @@
 #include <QPointer>
 
 class ProgressDialog;
+class QWidget;
 
 /// Shows the steps of an export or import on the page's progress dialog. The dialog is the page's child: when
 /// it is gone, so is the page, and the transfer is no longer wanted.
@@ -16,8 +17,9 @@ class TransferProgress : public TransferWatch
 public:
     static constexpr int Full = 100; ///< end of the bar's range
 
-    /// Opens the dialog at 0 and lets it paint: events are processed. `steps` of them would fill the bar.
-    TransferProgress(ProgressDialog* dialog, const QString& text, int steps = Full);
+    /// Opens the dialog of `page` at 0 and lets it paint: events are processed. `steps` of them would fill
+    /// the bar.
+    TransferProgress(QWidget& page, const QString& text, int steps = Full);
     ~TransferProgress() override;
     TransferProgress(const TransferProgress&) = delete;
     TransferProgress& operator=(const TransferProgress&) = delete;

@@ -7,12 +7,12 @@ namespace {
 // By TransferResult::Code. Nothing where there is nobody to tell.
 constexpr const char* Reasons[] = {
     nullptr,
-    QT_TRANSLATE_NOOP("BusTransferPage", "The USB drive was removed."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be read."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be fetched from the controller."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 of the pendant could not be written."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 of the controller has changed meanwhile."),
-    QT_TRANSLATE_NOOP("BusTransferPage", "The file %1 could not be sent to the controller."),
+    QT_TRANSLATE_NOOP("UsbImport", "The USB drive was removed."),
+    QT_TRANSLATE_NOOP("UsbImport", "The file %1 could not be read."),
+    QT_TRANSLATE_NOOP("UsbImport", "The file %1 could not be fetched from the controller."),
+    QT_TRANSLATE_NOOP("UsbImport", "The file %1 of the pendant could not be written."),
+    QT_TRANSLATE_NOOP("UsbImport", "The file %1 of the controller has changed meanwhile."),
+    QT_TRANSLATE_NOOP("UsbImport", "The file %1 could not be sent to the controller."),
     nullptr,
 };
 static_assert(std::size(Reasons) == TransferResult::Unwanted + 1, "a row a code");
@@ -21,5 +21,5 @@ static_assert(std::size(Reasons) == TransferResult::Unwanted + 1, "a row a code"
 
 QString TransferResult::reason() const
 {
-    return QCoreApplication::translate("BusTransferPage", Reasons[code]).replace(QLatin1String("%1"), file);
+    return QCoreApplication::translate("UsbImport", Reasons[code]).replace(QLatin1String("%1"), file);
 }

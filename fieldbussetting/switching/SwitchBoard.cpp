@@ -1,0 +1,119 @@
+#include "SwitchBoard.h"
+
+#include "BusFileDataManager.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+using namespace BusSwitches;
+
+namespace {
+constexpr int SwitchColumns = 2;
+} // namespace
+
+SwitchBoard::SwitchBoard(QWidget* page)
+{
+    BusFileDataManager* service = BusFileDataManager::getInstance();
+    const std::vector<BusName> running = service->getBusNameList(true, true);
+    for (int i = 0; i < Count; ++i) {
+        m_combos[i] = new QComboBox(page);
+        m_combos[i]->setObjectName(QLatin1String(rows()[i].objectName));
+        m_combos[i]->addItems({tr("OFF"), tr("ON")});
+        m_running[i] = std::any_of(running.begin(), running.end(), [i](const BusName& bus) {
+            return bus.name == QLatin1String(rows()[i].busName);
+        });
+    }
+    m_running[FreeBus] = service->isOpenFreeBus();
+    // Until it is known that the controller has them.
+    combo(EipSlave)->setEnabled(false);
+    combo(PfnSlave)->setEnabled(false);
+}
+
+void SwitchBoard::layOut(QGridLayout* layout) const
+{
+    // The first one stands alone, so that slave and master of a bus stand side by side.
+    int cell = 0;
+    for (int i = 0; i < Count; ++i) {
+        auto* label = new QLabel(tr(rows()[i].label), layout->parentWidget());
+        label->setWordWrap(true);
+        const int column = cell % SwitchColumns * (SwitchColumns + 1);
+        layout->addWidget(label, cell / SwitchColumns, column);
+        layout->addWidget(m_combos[i], cell / SwitchColumns, column + 1);
+        cell += i == Mes ? SwitchColumns : 1;
+    }
+    layout->setColumnMinimumWidth(SwitchColumns, 24);
+}
+
+bool SwitchBoard::isOn(Switch which) const
+{
+    return combo(which)->currentIndex() != Off;
+}
+
+States SwitchBoard::switchedOn() const
+{
+    States on{};
+    for (int i = 0; i < Count; ++i)
+        on[i] = isOn(static_cast<Switch>(i));
+    return on;
+}
+
+void SwitchBoard::setToRunning(Switch which) const
+{
+    combo(which)->setCurrentIndex(runs(which) ? On : Off);
+}
+
+void SwitchBoard::setProfisafePresent(bool present)
+{
+    m_profisafePresent = present;
+    combo(EtherCatMaster)->setEnabled(!present);
+    combo(EipMaster)->setEnabled(!present);
+}
+
+void SwitchBoard::showRunning(bool overrideRead)
+{
+    // Those of the second list warn about what they lack, and count their change. The PROFINET slave's switch
+    // is in neither: the idle tick sets it, once.
+    for (const Switch which :
+         {Mes, EtherCatMaster, DeviceNetSlave, MtcpMaster, EtherCatSlave, DeviceNetMaster, FreeBus}) {
+        const QSignalBlocker blocker(combo(which));
+        setToRunning(which);
+    }
+    // Set back without being counted, so that setting them again is a change, and wants its command.
+    m_changed[DeviceNetSlave] = m_changed[DeviceNetMaster] = false;
+    for (const Switch which : {EipSlave, EipMaster, PfnMaster})
+        setToRunning(which);
+    // Not before it is set: what is loaded counts as no change.
+    combo(EipSlave)->setEnabled(true);
+    combo(EtherCatSlave)->setEnabled(overrideRead);
+    if (!overrideRead)
+        combo(EtherCatSlave)->setCurrentIndex(Off);
+}
+
+void SwitchBoard::showProfinetSlave()
+{
+    combo(PfnSlave)->setEnabled(true);
+    const QSignalBlocker blocker(combo(PfnSlave));
+    if (runs(PfnSlave))
+        combo(PfnSlave)->setCurrentIndex(On);
+}
+
+void SwitchBoard::toggleChanged(Switch which)
+{
+    if (combo(which)->isEnabled())
+        m_changed[which] = !m_changed[which];
+}
+
+bool SwitchBoard::isCommandWanted(Switch which) const
+{
+    return combo(which)->isEnabled() && m_changed[which];
+}
+
+const char* SwitchBoard::freeConfigurationObjection(Switch which) const
+{
+    return BusSwitches::freeConfigurationObjection(combo(which)->objectName(), combo(which)->currentIndex(),
+                                                   isOn(FreeBus), m_profisafePresent);
+}
