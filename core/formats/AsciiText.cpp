@@ -18,34 +18,45 @@ bool take(Number& value, Number (QByteArray::*convert)(bool*, int) const, std::s
     return isNumber;
 }
 
+std::size_t endOfWord(std::string_view line, std::size_t at, Between between)
+{
+    while (at < line.size() && !parts(between, line[at]))
+        ++at;
+    return at;
+}
+
 } // namespace
 
 std::string_view trimmed(std::string_view line)
 {
-    const std::size_t begin = line.find_first_not_of(WhiteSpace);
+    constexpr std::string_view White = " \t\n\v\f\r";
+    const std::size_t begin = line.find_first_not_of(White);
     if (begin == std::string_view::npos)
         return {};
-    return line.substr(begin, line.find_last_not_of(WhiteSpace) + 1 - begin);
+    return line.substr(begin, line.find_last_not_of(White) + 1 - begin);
 }
 
-std::vector<std::string_view> words(std::string_view line, std::string_view separators)
+Words::Words(std::string_view line, Between between)
 {
-    std::vector<std::string_view> found;
-    std::size_t begin = line.find_first_not_of(separators);
-    while (begin != std::string_view::npos) {
-        const std::size_t end = line.find_first_of(separators, begin);
-        found.push_back(line.substr(begin, end - begin));
-        begin = line.find_first_not_of(separators, end);
+    for (std::size_t at = 0; at < line.size();) {
+        const std::size_t end = endOfWord(line, at, between);
+        if (end == at) {
+            ++at;
+            continue;
+        }
+        if (m_size < m_words.size())
+            m_words[m_size] = line.substr(at, end - at);
+        ++m_size;
+        at = end;
     }
-    return found;
 }
 
-std::string_view firstWord(std::string_view line, std::string_view separators)
+std::string_view firstWord(std::string_view line, Between between)
 {
-    const std::size_t begin = line.find_first_not_of(separators);
-    if (begin == std::string_view::npos)
-        return {};
-    return line.substr(begin, line.find_first_of(separators, begin) - begin);
+    std::size_t begin = 0;
+    while (begin < line.size() && parts(between, line[begin]))
+        ++begin;
+    return line.substr(begin, endOfWord(line, begin, between) - begin);
 }
 
 bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase)

@@ -4,24 +4,44 @@
 #include <QByteArray>
 #include <QString>
 
+#include <array>
 #include <string_view>
-#include <vector>
 
 /// Words and values of the controller's text files. Their encoding is not known: only ASCII is looked at, and
 /// what else stands in a line is carried as the bytes it is.
 namespace AsciiText {
 
-constexpr std::string_view Blanks = " ";
-constexpr std::string_view WhiteSpace = " \t\n\v\f\r";
+/// What parts two words.
+enum class Between { Blanks, WhiteSpace };
+
+constexpr bool parts(Between between, char c)
+{
+    return c == ' ' || (between == Between::WhiteSpace && c >= '\t' && c <= '\r');
+}
 
 /// Without leading and trailing ASCII white space.
 std::string_view trimmed(std::string_view line);
 
-/// The non-empty parts of `line` between any of `separators`.
-std::vector<std::string_view> words(std::string_view line, std::string_view separators);
+/// The words of a line. All are counted, the first ones are at hand; what is not there is empty. Takes no
+/// memory: a reader makes one for each line of a file.
+class Words
+{
+public:
+    Words(std::string_view line, Between between);
 
-/// The first of them, empty without any.
-std::string_view firstWord(std::string_view line, std::string_view separators);
+    std::size_t size() const { return m_size; }
+    std::string_view operator[](std::size_t index) const
+    {
+        return index < m_words.size() ? m_words[index] : std::string_view();
+    }
+
+private:
+    std::array<std::string_view, 4> m_words;
+    std::size_t m_size = 0;
+};
+
+/// The first word, empty without any.
+std::string_view firstWord(std::string_view line, Between between);
 
 /// Without regard to case; `lowerCase` is ASCII and given in lower case.
 bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase);

@@ -16,8 +16,8 @@ struct MtcpMasterConfig;
 struct OverrideRecord;
 struct PfbSlaveConfig;
 
-/// Carries out the file operations of FieldbusSettingLib and keeps nothing of them. The members of a format
-/// are defined in the source of that format, beside its record.
+/// Carries out the file operations of FieldbusSettingLib and keeps nothing of them: local copies and the
+/// controller's templates on one side, the formats of core/formats on the other.
 ///
 /// A reader takes any bytes: it returns false (file cannot be opened or is no such file) or true with every
 /// field of the record defined. A writer replaces its target in one step or leaves it as it was.

@@ -4,6 +4,7 @@
 #include "BusSwitches.h"
 #include "FieldbusSettingLib.h"
 #include "RoleListFile.h"
+#include "WholeFile.h"
 
 #include <QCoreApplication>
 
@@ -79,10 +80,12 @@ void planUnlisted(const QMap<QString, BusName>& present, std::vector<ImportedRol
 bool planRoleList(const QString& path, RoleConditions conditions, ImportedRoles& plan)
 {
     std::vector<ListedRole> listed;
-    if (!RoleListFile::read(path, listed))
+    QByteArray content;
+    if (!WholeFile::read(path, content) || !RoleListFile::read(content, listed))
         return false;
     if (!conditions.profinetSlaveAllowed && isOn(listed, ProfinetSlave)) {
-        if (!RoleListFile::switchOff(path, ProfinetSlave) || !RoleListFile::read(path, listed))
+        content = RoleListFile::switchedOff(content, ProfinetSlave);
+        if (!RoleListFile::read(content, listed) || !WholeFile::replace(path, content))
             return false;
         plan.profinetSlaveSwitchedOff = true;
     }

@@ -1,11 +1,8 @@
 #include "EipSlaveFile.h"
 
 #include "AsciiText.h"
-#include "FileLocations.h"
-#include "HandleBusFiles.h"
 #include "SlaveTextFile.h"
 #include "TextTemplate.h"
-#include "WholeFile.h"
 
 namespace {
 
@@ -29,10 +26,9 @@ QString valueOf(std::string_view line, const char* keyword)
 
 } // namespace
 
-bool HandleBusFiles::readEtherNetFile(const QString& path, EipSlaveConfig& record)
+bool EipSlaveFile::read(const QByteArray& content, EipSlaveConfig& record)
 {
-    QByteArray content;
-    if (!WholeFile::read(path, content) || content.isEmpty())
+    if (content.isEmpty())
         return false;
     TextTemplate::forEachLine(content, [&record](std::string_view whole, std::string_view) {
         const std::string_view line = AsciiText::trimmed(whole);
@@ -46,18 +42,11 @@ bool HandleBusFiles::readEtherNetFile(const QString& path, EipSlaveConfig& recor
     return true;
 }
 
-bool HandleBusFiles::writeEtherNetFile(const QString& path, const EipSlaveConfig& record)
+QByteArray EipSlaveFile::rewritten(const QByteArray& content, const EipSlaveConfig& record)
 {
     std::vector<SlaveTextFile::OwnedLine> lines;
     for (const Field& field : Fields)
         lines.push_back(
             {field.keyword, QByteArray(field.keyword) + ' ' + AsciiText::bytes(record.*field.value)});
-    return SlaveTextFile::rewrite(path, {"/dns_temp.cfg", FileLocations::of(ConfigFile::EipSlave).controller},
-                                  record.EipEndian, lines);
-}
-
-bool HandleBusFiles::writeEtherNetDnsFile(const QString& path, const QString& ctrlPath,
-                                          const EipSlaveConfig& record)
-{
-    return SlaveTextFile::rewrite(path, {"/dns_fixOrFreeTemp.cfg", ctrlPath}, record.EipEndian, {});
+    return SlaveTextFile::rewritten(content, record.EipEndian, lines);
 }

@@ -1,6 +1,7 @@
 #ifndef MTCPMASTERFILE_H
 #define MTCPMASTERFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 /// Record of mtcp_master.xml, the Modbus TCP master's connection to its slave. Named as the elements of the
@@ -15,5 +16,15 @@ struct MtcpMasterConfig
     QString WriteEndian; ///< byte order of written data, as ReadEndian
     QString Alivetime;   ///< keep-alive time; no page edits it, and it is written as it was read
 };
+
+namespace MtcpMasterFile {
+
+/// False, and the record as it was, when `content` is no XML.
+bool read(const QByteArray& content, MtcpMasterConfig& record);
+
+/// A new file with the record and the time of writing.
+QByteArray written(const MtcpMasterConfig& record);
+
+} // namespace MtcpMasterFile
 
 #endif

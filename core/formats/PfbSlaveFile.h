@@ -1,6 +1,7 @@
 #ifndef PFBSLAVEFILE_H
 #define PFBSLAVEFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 /// Record of pfb.cfg, the driver file of the PROFIBUS and PROFINET slave.
@@ -10,5 +11,16 @@ struct PfbSlaveConfig
     int ComAlarmEnabled = 0;                               ///< 1: a lost connection raises an alarm
     QString ProfibusEndian = QStringLiteral("BIG_ENDIAN"); ///< byte order of the process data
 };
+
+namespace PfbSlaveFile {
+
+/// False when `content` is empty. A line that the file lacks leaves its field as it was.
+bool read(const QByteArray& content, PfbSlaveConfig& record);
+
+/// The file with the record's address, alarm and byte order. The free and the fixed variant get the byte
+/// order alone: SlaveTextFile::rewritten.
+QByteArray rewritten(const QByteArray& content, const PfbSlaveConfig& record);
+
+} // namespace PfbSlaveFile
 
 #endif

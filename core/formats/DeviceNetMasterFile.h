@@ -1,6 +1,7 @@
 #ifndef DEVICENETMASTERFILE_H
 #define DEVICENETMASTERFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -47,5 +48,16 @@ struct DeviceNetMasterConfig
     /// Registers of 16 bits that hold `bytes`.
     static int registerCount(int bytes) { return (bytes + 1) / 2; }
 };
+
+namespace DeviceNetMasterFile {
+
+/// False, and the record as it was, when `content` is no scan list.
+bool read(const QByteArray& content, DeviceNetMasterConfig& record);
+
+/// The file with the record's settings in its header and the record's devices, each with the registers that
+/// `layOutRegisters` gives it. Empty without a header: that is the controller's and cannot be made here.
+QByteArray rewritten(const QByteArray& content, DeviceNetMasterConfig record);
+
+} // namespace DeviceNetMasterFile
 
 #endif

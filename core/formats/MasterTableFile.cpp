@@ -1,6 +1,5 @@
 #include "MasterTableFile.h"
 
-#include "HandleBusFiles.h"
 #include "XmlRecord.h"
 
 namespace {
@@ -47,10 +46,10 @@ const std::array<Position, MasterSlaveTable::PositionCount>& MasterSlaveTable::p
 
 #undef SLAVE_POSITION
 
-bool HandleBusFiles::readMasterTable(const QString& path, const char* root, MasterSlaveTable& record)
+bool MasterTableFile::read(const QByteArray& content, const char* root, MasterSlaveTable& record)
 {
     pugi::xml_document document;
-    if (!XmlFile::load(path, document))
+    if (!XmlFile::load(content, document))
         return false;
     const pugi::xml_node group = document.child(root).child(GroupElement);
     XmlRecord::read(group, Texts, record);
@@ -62,7 +61,7 @@ bool HandleBusFiles::readMasterTable(const QString& path, const char* root, Mast
     return true;
 }
 
-bool HandleBusFiles::writeMasterTable(const QString& path, const char* root, const MasterSlaveTable& record)
+QByteArray MasterTableFile::written(const char* root, const MasterSlaveTable& record)
 {
     pugi::xml_document document;
     XmlFile::appendPrologue(document);
@@ -74,5 +73,5 @@ bool HandleBusFiles::writeMasterTable(const QString& path, const char* root, con
             XmlFile::appendText(node, position.*flags.flagElement,
                                 XmlRecord::writtenValue(record.*(position.*flags.flag)));
     }
-    return XmlFile::save(path, document);
+    return XmlFile::bytes(document);
 }

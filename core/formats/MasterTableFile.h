@@ -1,6 +1,7 @@
 #ifndef MASTERTABLEFILE_H
 #define MASTERTABLEFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -53,5 +54,15 @@ namespace MasterTableRoot {
 constexpr const char* EtherNetIp = "EipMasterCommunication";
 constexpr const char* Profinet = "PfnMasterCommunication";
 } // namespace MasterTableRoot
+
+namespace MasterTableFile {
+
+/// False, and the record as it was, when `content` is no XML; `root` as in MasterTableRoot.
+bool read(const QByteArray& content, const char* root, MasterSlaveTable& record);
+
+/// A new file with the record and the time of writing.
+QByteArray written(const char* root, const MasterSlaveTable& record);
+
+} // namespace MasterTableFile
 
 #endif

@@ -1,6 +1,7 @@
 #ifndef MESSERVERFILE_H
 #define MESSERVERFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 /// Record of TcpServerConfig.xml, the server for a manufacturing execution system. Named as the elements.
@@ -12,5 +13,15 @@ struct MesServerConfig
     int IntervalTime = 100;                ///< ms, 0 to 9999 on the page
     int IpPortIndex = 1;                   ///< network port of the controller: 0 ETH2, else ETH3
 };
+
+namespace MesServerFile {
+
+/// False, and the record as it was, when `content` is no XML.
+bool read(const QByteArray& content, MesServerConfig& record);
+
+/// A new file with the record and the time of writing.
+QByteArray written(const MesServerConfig& record);
+
+} // namespace MesServerFile
 
 #endif

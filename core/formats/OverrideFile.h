@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <array>
+#include <string_view>
 
 /// A switch-off directive of the controller's override.cfg.
 struct OverrideEntry
@@ -47,5 +48,21 @@ enum class OverrideMode {
     SwitchOn = 1,    ///< all devices of the bus in use
     SwitchOff = 2    ///< all switched off
 };
+
+namespace OverrideFile {
+
+// Any bytes are an override file. What a line does not say leaves its entry as it was.
+
+/// The devices of the master buses (slot 2).
+void readMasters(const QByteArray& content, OverrideRecord& record);
+/// The devices of the EtherCAT slave module (slot 1), and which master devices are in use.
+void readSlaves(const QByteArray& content, OverrideRecord& record, MasterDevicesInUse& devices);
+
+QByteArray mastersRewritten(const QByteArray& content, const OverrideRecord& record, OverrideMode mode);
+QByteArray slavesRewritten(const QByteArray& content, const OverrideRecord& record);
+/// Takes the master device that the keyword `device` names ("EIM_DEVICE", "PNM_DEVICE") out of use.
+QByteArray deviceSwitchedOff(const QByteArray& content, std::string_view device);
+
+} // namespace OverrideFile
 
 #endif

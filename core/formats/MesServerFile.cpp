@@ -1,6 +1,5 @@
 #include "MesServerFile.h"
 
-#include "HandleBusFiles.h"
 #include "XmlRecord.h"
 
 namespace {
@@ -17,12 +16,12 @@ constexpr XmlRecord::Field<MesServerConfig> Fields[] = {
 
 } // namespace
 
-bool HandleBusFiles::readMesSetFile(const QString& path, MesServerConfig& record)
+bool MesServerFile::read(const QByteArray& content, MesServerConfig& record)
 {
-    return XmlRecord::readFile(path, Place, Fields, record);
+    return XmlRecord::read(content, Place, Fields, record);
 }
 
-bool HandleBusFiles::writeMesSetFile(const QString& path, const MesServerConfig& record)
+QByteArray MesServerFile::written(const MesServerConfig& record)
 {
-    return XmlRecord::writeFile(path, Place, Fields, record);
+    return XmlRecord::written(Place, Fields, record);
 }

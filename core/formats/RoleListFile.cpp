@@ -1,7 +1,5 @@
 #include "RoleListFile.h"
 
-#include "WholeFile.h"
-
 #include <QRegularExpression>
 
 #include <pugixml.hpp>
@@ -16,10 +14,9 @@ constexpr const char* NameAttribute = "name";
 constexpr const char* EnableAttribute = "enable";
 constexpr int On = 1;
 
-bool load(const QString& path, QByteArray& content, pugi::xml_document& document)
+bool load(const QByteArray& content, pugi::xml_document& document)
 {
-    return WholeFile::read(path, content) &&
-           document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
+    return document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
                                 pugi::parse_default, pugi::encoding_utf8) &&
            document.child(RootElement);
 }
@@ -38,11 +35,10 @@ void switchOffAt(QByteArray& content, int offset)
 
 } // namespace
 
-bool RoleListFile::read(const QString& path, std::vector<ListedRole>& roles)
+bool RoleListFile::read(const QByteArray& content, std::vector<ListedRole>& roles)
 {
-    QByteArray content;
     pugi::xml_document document;
-    if (!load(path, content, document))
+    if (!load(content, document))
         return false;
     roles.clear();
     for (const pugi::xml_node bus : document.child(RootElement).children(RoleElement)) {
@@ -57,16 +53,15 @@ bool RoleListFile::read(const QString& path, std::vector<ListedRole>& roles)
 
 // In the bytes, so that the file stays the same in all that is not switched; from the end, so that the
 // offsets before stay valid.
-bool RoleListFile::switchOff(const QString& path, const QString& role)
+QByteArray RoleListFile::switchedOff(QByteArray content, const QString& role)
 {
-    QByteArray content;
     pugi::xml_document document;
-    if (!load(path, content, document))
-        return false;
+    if (!load(content, document))
+        return {};
     for (pugi::xml_node bus = document.child(RootElement).last_child(); bus; bus = bus.previous_sibling()) {
         if (qstrcmp(bus.name(), RoleElement) == 0 &&
             role == QString::fromUtf8(bus.attribute(NameAttribute).value()))
             switchOffAt(content, static_cast<int>(bus.offset_debug()));
     }
-    return WholeFile::replace(path, content);
+    return content;
 }

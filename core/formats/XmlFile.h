@@ -1,17 +1,17 @@
 #ifndef XMLFILE_H
 #define XMLFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 #include <pugixml.hpp>
 
-/// What all XML formats of the controller share: loading, the prologue of a written file, and saving in
-/// one step.
+/// What all XML formats of the controller share: parsing, the prologue of a written file, and serialising.
 namespace XmlFile {
 
 /// Parses with `parse_pi` only unless told otherwise: no escapes, no end-of-line normalisation, no comments.
 /// False on the first error; the document is then not to be used.
-bool load(const QString& path, pugi::xml_document& document, unsigned options = pugi::parse_pi);
+bool load(const QByteArray& content, pugi::xml_document& document, unsigned options = pugi::parse_pi);
 
 /// Appends the declaration and the comment with the local time of writing.
 void appendPrologue(pugi::xml_document& document);
@@ -23,9 +23,8 @@ void appendText(pugi::xml_node parent, const char* name, const QString& text);
 /// Text of `node` (empty when it is missing).
 QString text(pugi::xml_node node);
 
-/// Serialises and replaces the file in one step: it holds either the old bytes or the new ones. False when
-/// the folder (made one level deep when missing) or the file cannot be written.
-bool save(const QString& path, const pugi::xml_document& document, unsigned format = pugi::format_indent);
+/// The document as UTF-8 with tabs.
+QByteArray bytes(const pugi::xml_document& document, unsigned format = pugi::format_indent);
 
 /// Makes pugixml's number conversions use a point whatever the locale of the pendant, for its lifetime.
 class PointDecimals

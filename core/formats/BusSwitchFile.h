@@ -1,6 +1,8 @@
 #ifndef BUSSWITCHFILE_H
 #define BUSSWITCHFILE_H
 
+#include <QByteArray>
+
 /// Switch flags of the bus roles as the controller's Fieldbus.cfg lists them, named as the file names the
 /// roles.
 struct BusSwitchSet
@@ -21,5 +23,16 @@ struct BusSwitchSet
     /// sets it.
     bool ModbusTcpMasterListed = false;
 };
+
+namespace BusSwitchFile {
+
+/// False, and the flags as they were, when `content` is no XML. `isImport`: also whether the Modbus TCP
+/// master is listed at all.
+bool read(const QByteArray& content, BusSwitchSet& switches, bool isImport);
+
+/// The file with the PROFINET slave role switched off; empty when `content` is no XML.
+QByteArray rewritten(const QByteArray& content);
+
+} // namespace BusSwitchFile
 
 #endif

@@ -18,20 +18,13 @@ struct OwnedLine
     QByteArray written;
 };
 
-/// The controller's present file, which a writer edits.
-struct Source
-{
-    const char* temporary; ///< name of the local copy, below the working directory
-    QString controller;    ///< path on the controller
-};
-
 /// Sets `endian` when the trimmed line is an endian name and nothing else.
 void readEndian(std::string_view line, QString& endian);
 
-/// Writes the controller's file to `path` with the byte order and the owned lines replaced and every line
+/// The file with the byte order and the owned lines replaced and every line
 /// trimmed. The first keyword that a line carries decides. Without RUN_ALWAYS the file gets no byte order.
-bool rewrite(const QString& path, const Source& source, const QString& endian,
-             const std::vector<OwnedLine>& ownedLines);
+QByteArray rewritten(const QByteArray& content, const QString& endian,
+                     const std::vector<OwnedLine>& ownedLines);
 
 } // namespace SlaveTextFile
 

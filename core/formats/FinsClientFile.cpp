@@ -1,6 +1,5 @@
 #include "FinsClientFile.h"
 
-#include "HandleBusFiles.h"
 #include "XmlRecord.h"
 
 namespace {
@@ -19,12 +18,12 @@ constexpr XmlRecord::Field<FinsClientConfig> Fields[] = {
 
 } // namespace
 
-bool HandleBusFiles::readFinsTcpFile(const QString& path, FinsClientConfig& record)
+bool FinsClientFile::read(const QByteArray& content, FinsClientConfig& record)
 {
-    return XmlRecord::readFile(path, Place, Fields, record);
+    return XmlRecord::read(content, Place, Fields, record);
 }
 
-bool HandleBusFiles::writeFinsTcpFile(const QString& path, const FinsClientConfig& record)
+QByteArray FinsClientFile::written(const FinsClientConfig& record)
 {
-    return XmlRecord::writeFile(path, Place, Fields, record);
+    return XmlRecord::written(Place, Fields, record);
 }

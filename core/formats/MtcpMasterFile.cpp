@@ -1,6 +1,5 @@
 #include "MtcpMasterFile.h"
 
-#include "HandleBusFiles.h"
 #include "XmlRecord.h"
 
 namespace {
@@ -16,12 +15,12 @@ constexpr XmlRecord::Field<MtcpMasterConfig> Fields[] = {
 
 } // namespace
 
-bool HandleBusFiles::readMtcpFile(const QString& path, MtcpMasterConfig& record)
+bool MtcpMasterFile::read(const QByteArray& content, MtcpMasterConfig& record)
 {
-    return XmlRecord::readFile(path, Place, Fields, record);
+    return XmlRecord::read(content, Place, Fields, record);
 }
 
-bool HandleBusFiles::writeMtcpFile(const QString& path, const MtcpMasterConfig& record)
+QByteArray MtcpMasterFile::written(const MtcpMasterConfig& record)
 {
-    return XmlRecord::writeFile(path, Place, Fields, record);
+    return XmlRecord::written(Place, Fields, record);
 }

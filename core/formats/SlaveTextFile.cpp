@@ -1,11 +1,8 @@
 #include "SlaveTextFile.h"
 
 #include "AsciiText.h"
-#include "ControllerTemplate.h"
 #include "EndianNames.h"
-#include "FileLocations.h"
 #include "TextTemplate.h"
-#include "WholeFile.h"
 
 #include <algorithm>
 
@@ -67,15 +64,8 @@ void SlaveTextFile::readEndian(std::string_view line, QString& endian)
         endian = QLatin1String(*name);
 }
 
-bool SlaveTextFile::rewrite(const QString& path, const Source& source, const QString& endian,
-                            const std::vector<OwnedLine>& ownedLines)
+QByteArray SlaveTextFile::rewritten(const QByteArray& content, const QString& endian,
+                                    const std::vector<OwnedLine>& ownedLines)
 {
-    // Made first: the fetch processes events, and the record may change or go meanwhile.
-    LineWriter writer(endian, ownedLines);
-    QByteArray content;
-    if (!fetchTemplate(FileLocations::workingDirectory() + QLatin1String(source.temporary),
-                                     source.controller, content))
-        return false;
-    return WholeFile::replace(
-        path, TextTemplate::rewritten(content, TextTemplate::LineEnds::LineFeed, std::move(writer)));
+    return TextTemplate::rewritten(content, TextTemplate::LineEnds::LineFeed, LineWriter(endian, ownedLines));
 }

@@ -67,12 +67,12 @@ void append(pugi::xml_node parent, const Fields& fields, const Record& record)
 /// Names of the nested elements, from the root on, that hold the fields of a format.
 using Place = std::initializer_list<const char*>;
 
-/// Reads the file at `path`; false leaves the record as it was.
+/// Reads a file; false, and the record as it was, when it is no XML.
 template <typename Record, typename Fields>
-bool readFile(const QString& path, Place place, const Fields& fields, Record& record)
+bool read(const QByteArray& content, Place place, const Fields& fields, Record& record)
 {
     pugi::xml_document document;
-    if (!XmlFile::load(path, document))
+    if (!XmlFile::load(content, document))
         return false;
     pugi::xml_node node = document;
     for (const char* element : place)
@@ -81,9 +81,9 @@ bool readFile(const QString& path, Place place, const Fields& fields, Record& re
     return true;
 }
 
-/// Writes a new file with the fields, and nothing else, to `path`.
+/// A new file with the fields, and nothing else.
 template <typename Record, typename Fields>
-bool writeFile(const QString& path, Place place, const Fields& fields, const Record& record)
+QByteArray written(Place place, const Fields& fields, const Record& record)
 {
     pugi::xml_document document;
     XmlFile::appendPrologue(document);
@@ -91,7 +91,7 @@ bool writeFile(const QString& path, Place place, const Fields& fields, const Rec
     for (const char* element : place)
         node = node.append_child(element);
     append(node, fields, record);
-    return XmlFile::save(path, document);
+    return XmlFile::bytes(document);
 }
 
 } // namespace XmlRecord

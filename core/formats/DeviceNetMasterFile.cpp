@@ -1,12 +1,7 @@
 #include "DeviceNetMasterFile.h"
 
 #include "AsciiText.h"
-#include "FileLocations.h"
-#include "HandleBusFiles.h"
 #include "TextTemplate.h"
-#include "WholeFile.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <variant>
@@ -21,7 +16,7 @@ using Master = DeviceNetMasterConfig;
 template <typename Record>
 struct Field
 {
-    const char* keyword;
+    std::string_view keyword;
     std::variant<int Record::*, QString Record::*> member;
 };
 
@@ -45,7 +40,7 @@ constexpr Field<Device> InputFields[] = {
 struct Direction
 {
     const char* heading;
-    const char* blockKeyword;
+    std::string_view blockKeyword;
     int Device::*firstRegister;
     int Device::*bytes;
     const Field<Device>* fieldsBegin;
@@ -91,14 +86,14 @@ QByteArray written(const QString& value)
 template <typename Record>
 QByteArray written(const Field<Record>& field, const Record& record)
 {
-    return QByteArray(field.keyword) + ' ' +
+    return AsciiText::raw(field.keyword) + ' ' +
            std::visit([&record](auto member) { return written(record.*member); }, field.member);
 }
 
 // A comment ends the line; a line that is commented out has no words.
-std::vector<std::string_view> lineWords(std::string_view line)
+AsciiText::Words lineWords(std::string_view line)
 {
-    return AsciiText::words(line.substr(0, line.find(';')), AsciiText::WhiteSpace);
+    return {line.substr(0, line.find(';')), AsciiText::Between::WhiteSpace};
 }
 
 template <typename Record>
@@ -109,31 +104,30 @@ const Field<Record>* fieldOf(const Field<Record>* begin, const Field<Record>* en
     return found == end ? nullptr : found;
 }
 
-const Field<Master>* settingOf(const std::vector<std::string_view>& words)
+const Field<Master>* settingOf(const AsciiText::Words& words)
 {
-    return words.empty() ? nullptr
-                         : fieldOf(std::begin(SettingFields), std::end(SettingFields), words.front());
+    return fieldOf(std::begin(SettingFields), std::end(SettingFields), words[0]);
 }
 
 template <typename Record>
-void readField(const Field<Record>* field, const std::vector<std::string_view>& words, Record& record)
+void readField(const Field<Record>* field, const AsciiText::Words& words, Record& record)
 {
     if (field && words.size() > 1)
         std::visit([&](auto member) { readValue(words[1], record.*member); }, field->member);
 }
 
-void readDeviceLine(const std::vector<std::string_view>& words, Device& device)
+void readDeviceLine(const AsciiText::Words& words, Device& device)
 {
     if (words.size() < 2)
         return;
     for (const Direction& direction : Directions) {
-        if (words.front() == direction.blockKeyword) {
+        if (words[0] == direction.blockKeyword) {
             AsciiText::readNumber(words[1], device.*direction.firstRegister);
             if (words.size() > BlockBytesWord)
                 AsciiText::readNumber(words[BlockBytesWord], device.*direction.bytes);
             device.*direction.bytes = qBound(0, device.*direction.bytes, Device::MostBytes);
         }
-        readField(fieldOf(direction.fieldsBegin, direction.fieldsEnd, words.front()), words, device);
+        readField(fieldOf(direction.fieldsBegin, direction.fieldsEnd, words[0]), words, device);
     }
 }
 
@@ -148,22 +142,15 @@ public:
 
     bool operator()(std::string_view line, std::string_view /*end*/)
     {
-        m_isBelowHeader |= TextTemplate::contains(line, Marker);
-        const std::size_t macId = line.find(MacIdKeyword);
+        m_isBelowHeader = m_isBelowHeader || TextTemplate::contains(line, Marker);
         // Blocks in a header are the controller's prose: they come through a write as they are, and must not
         // appear a second time.
-        if (m_isBelowHeader && line.substr(0, DevicePrefix.size()) == DevicePrefix &&
-            macId != std::string_view::npos) {
-            if (m_record.count == Master::MaxDevices)
-                return false;
-            m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
-            const auto words =
-                AsciiText::words(line.substr(macId + MacIdKeyword.size()), AsciiText::WhiteSpace);
-            if (!words.empty())
-                AsciiText::readNumber(words.front(), m_device->MAC_ID);
-            return true;
+        if (m_isBelowHeader && line.substr(0, DevicePrefix.size()) == DevicePrefix) {
+            const std::size_t macId = line.find(MacIdKeyword);
+            if (macId != std::string_view::npos)
+                return begin(line.substr(macId + MacIdKeyword.size()));
         }
-        const std::vector<std::string_view> words = lineWords(line);
+        const AsciiText::Words words = lineWords(line);
         if (m_device)
             readDeviceLine(words, *m_device);
         else
@@ -172,6 +159,15 @@ public:
     }
 
 private:
+    bool begin(std::string_view macId)
+    {
+        if (m_record.count == Master::MaxDevices)
+            return false;
+        m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
+        AsciiText::readNumber(AsciiText::firstWord(macId, AsciiText::Between::WhiteSpace), m_device->MAC_ID);
+        return true;
+    }
+
     Master& m_record;
     Device* m_device = nullptr;
     bool m_isBelowHeader = false;
@@ -216,7 +212,7 @@ QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
     for (const Direction& direction : Directions) {
         const int first = device.*direction.firstRegister;
         const int count = Master::registerCount(device.*direction.bytes);
-        out += direction.heading + lineEnd + direction.blockKeyword;
+        out += direction.heading + lineEnd + AsciiText::raw(direction.blockKeyword);
         for (const int value : {first, count, device.*direction.bytes})
             out += ' ' + QByteArray::number(value);
         out += lineEnd;
@@ -261,10 +257,9 @@ void DeviceNetMasterConfig::layOutRegisters()
 }
 
 // A keyword that the file lacks leaves its setting as it was; the devices are always those of the file.
-bool HandleBusFiles::readDeviceNetMasterFile(const QString& path, DeviceNetMasterConfig& record)
+bool DeviceNetMasterFile::read(const QByteArray& content, DeviceNetMasterConfig& record)
 {
-    QByteArray content;
-    if (!WholeFile::read(path, content) || !isScanList(content))
+    if (!isScanList(content))
         return false;
     record.count = 0;
     record.devices = {};
@@ -274,20 +269,11 @@ bool HandleBusFiles::readDeviceNetMasterFile(const QString& path, DeviceNetMaste
 
 // The header is the controller's, and a file without one could not carry the master's own settings: an empty
 // copy or noise, as a broken transfer leaves it, must not become a file that is sent.
-bool HandleBusFiles::writeDeviceNetMasterFile(const QString& path, DeviceNetMasterConfig& record)
+QByteArray DeviceNetMasterFile::rewritten(const QByteArray& content, DeviceNetMasterConfig record)
 {
-    const QString oldCopy = FileLocations::workingDirectory() + QLatin1String("/test1.txt");
-    const QString newCopy = FileLocations::workingDirectory() + QLatin1String("/test2.txt");
-    QFile::remove(oldCopy);
-    QFile::remove(newCopy);
-    const QString current = QFile::exists(path) ? path : FileLocations::of(ConfigFile::DeviceNetMaster).local;
-    QByteArray content;
-    if (!QFile::copy(current, oldCopy) || !WholeFile::read(oldCopy, content) || !isScanList(content))
-        return false;
-    const QByteArray header = rewrittenHeader(content, record);
+    const QByteArray header = isScanList(content) ? rewrittenHeader(content, record) : QByteArray();
     if (header.isEmpty())
-        return false;
+        return {};
     record.layOutRegisters();
-    content = header + blocks(record, header);
-    return WholeFile::replace(newCopy, content) && WholeFile::replace(path, content);
+    return header + blocks(record, header);
 }

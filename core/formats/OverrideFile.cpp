@@ -1,25 +1,16 @@
 #include "OverrideFile.h"
 
 #include "AsciiText.h"
-#include "ControllerTemplate.h"
-#include "FieldbusSettingLib.h"
-#include "FileLocations.h"
-#include "HandleBusFiles.h"
 #include "TextTemplate.h"
-#include "WholeFile.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <string>
 #include <utility>
-#include <vector>
 
-using AsciiText::Blanks;
+using AsciiText::Between;
 using AsciiText::equalsIgnoringCase;
 using AsciiText::firstWord;
-using AsciiText::WhiteSpace;
-using AsciiText::words;
+using AsciiText::Words;
 using TextTemplate::contains;
 using TextTemplate::containsIgnoringCase;
 
@@ -46,9 +37,9 @@ bool isSwitchLine(std::string_view line)
     const std::size_t begin = line.find_first_not_of("; \t");
     if (begin == std::string_view::npos)
         return false;
-    const std::vector<std::string_view> parts = words(line.substr(begin), WhiteSpace);
-    return parts.size() > 1 && equalsIgnoringCase(parts[0], "ecat_slave_off") && parts[1].front() >= '0' &&
-           parts[1].front() <= '9';
+    const Words words(line.substr(begin), Between::WhiteSpace);
+    return words.size() > 1 && equalsIgnoringCase(words[0], "ecat_slave_off") && words[1].front() >= '0' &&
+           words[1].front() <= '9';
 }
 
 // A line has many blanks and few digits, so the digit is looked for.
@@ -97,7 +88,7 @@ void readNumber(OverrideEntry& entry, Number OverrideEntry::*field, std::string_
 
 void readEntry(OverrideEntry& entry, std::string_view line)
 {
-    const std::vector<std::string_view> tokens = words(line, Blanks);
+    const Words tokens(line, Between::Blanks);
     entry.understood = isDirective(tokens[0]) && (tokens.size() == 3 || tokens.size() == 4);
     if (isDirective(tokens[0]))
         entry.off = isCommentedDirective(tokens[0]);
@@ -136,7 +127,7 @@ OverrideRecord readEntries(const QByteArray& content, OverrideRecord record, std
 // Puts the activation that the entry says on a line, and leaves every other byte of it.
 void appendActivated(std::string_view line, bool off, QByteArray& out)
 {
-    const std::size_t word = line.find_first_not_of(WhiteSpace);
+    const std::size_t word = line.find_first_not_of(" \t\v\f\r");
     const std::size_t semicolon = line[word] == ';' ? 1 : 0;
     TextTemplate::keep(line.substr(0, word), out);
     if (off)
@@ -158,8 +149,8 @@ void appendEntry(const OverrideEntry& entry, const char* beforeName, QByteArray&
 class RecordWriter
 {
 public:
-    RecordWriter(OverrideRecord record, std::string_view slot, const char* beforeName)
-        : m_record(std::move(record))
+    RecordWriter(const OverrideRecord& record, std::string_view slot, const char* beforeName)
+        : m_record(record)
         , m_slot(slot)
         , m_beforeName(beforeName)
     {
@@ -170,7 +161,7 @@ public:
         if (!isSelected(line, m_slot) || m_next >= m_record.count)
             return TextTemplate::keep(line, out);
         const OverrideEntry& entry = m_record.entries[static_cast<std::size_t>(m_next++)];
-        if (!isDirective(firstWord(line, Blanks)))
+        if (!isDirective(firstWord(line, Between::Blanks)))
             return TextTemplate::keep(line, out);
         if (entry.understood)
             appendEntry(entry, m_beforeName, out);
@@ -180,8 +171,7 @@ public:
     }
 
 private:
-    // A copy: the library object may be replaced while the template is fetched.
-    OverrideRecord m_record;
+    const OverrideRecord& m_record;
     std::string_view m_slot;
     const char* m_beforeName;
     int m_next = 0;
@@ -189,7 +179,8 @@ private:
 
 bool switchOn(std::string_view line, QByteArray& out)
 {
-    if (!isSelected(line, MasterSlot) || !isSwitchLine(line) || contains(firstWord(line, Blanks), ";"))
+    if (!isSelected(line, MasterSlot) || !isSwitchLine(line) ||
+        contains(firstWord(line, Between::Blanks), ";"))
         return TextTemplate::keep(line, out);
     appendActivated(line, true, out);
     return true;
@@ -205,18 +196,10 @@ bool switchOff(std::string_view line, QByteArray& out)
     return TextTemplate::keep(rest.substr(0, rest.find(MasterSlot)), out);
 }
 
-// The frame of every writer: the controller's present file, line by line, into `path`.
 template <typename Rewriter>
-bool editOverrideFile(const QString& path, Rewriter rewrite)
+QByteArray edited(const QByteArray& content, Rewriter rewrite)
 {
-    const QString temporary = FileLocations::workingDirectory() + QLatin1String("/override_temp.cfg");
-    QByteArray content;
-    // What an interrupted write has left behind is older than what the controller holds.
-    QFile::remove(temporary);
-    if (!fetchTemplate(temporary, FileLocations::of(ConfigFile::Override).controller, content))
-        return false;
-    return WholeFile::replace(
-        path, TextTemplate::rewritten(content, TextTemplate::LineEnds::Kept, std::move(rewrite)));
+    return TextTemplate::rewritten(content, TextTemplate::LineEnds::Kept, std::move(rewrite));
 }
 
 } // namespace
@@ -229,62 +212,51 @@ const OverrideEntry* OverrideRecord::anybus() const
     return found == entries.end() ? nullptr : found;
 }
 
-bool HandleBusFiles::readMasterOverride(const QString& path, OverrideRecord& record)
+void OverrideFile::readMasters(const QByteArray& content, OverrideRecord& record)
 {
-    QByteArray content;
-    if (!WholeFile::read(path, content))
-        return false;
     record = readEntries(content, record, MasterSlot, [](std::string_view) { return false; });
-    return true;
 }
 
-bool HandleBusFiles::readEtherCatFile(const QString& path, OverrideRecord& record,
-                                      MasterDevicesInUse& devices)
+void OverrideFile::readSlaves(const QByteArray& content, OverrideRecord& record, MasterDevicesInUse& devices)
 {
     devices = MasterDevicesInUse();
-    QByteArray content;
-    if (!WholeFile::read(path, content))
-        return false;
-    const OverrideRecord read = readEntries(content, record, SlaveSlot, [&devices](std::string_view line) {
+    record = readEntries(content, record, SlaveSlot, [&devices](std::string_view line) {
         if (hasSlot(line, MasterSlot) && containsIgnoringCase(line, ";ecat_slave")) {
             devices.EIM_DEVICE |= containsIgnoringCase(line, "eim_device");
             devices.PNM_DEVICE |= containsIgnoringCase(line, "pnm_device");
         }
         return true;
     });
-    const OverrideEntry* anybus = read.anybus();
-    FieldbusSettingLib::getInstance()->set_ifidbus_ethcat_enable(anybus && anybus->off);
-    record = read;
-    return true;
 }
 
-bool HandleBusFiles::writeMasterOverride(const QString& path, const OverrideRecord& record, int mode)
+QByteArray OverrideFile::mastersRewritten(const QByteArray& content, const OverrideRecord& record,
+                                          OverrideMode mode)
 {
-    switch (static_cast<OverrideMode>(mode)) {
+    switch (mode) {
     case OverrideMode::SwitchOn:
-        return editOverrideFile(path, switchOn);
+        return edited(content, switchOn);
     case OverrideMode::SwitchOff:
-        return editOverrideFile(path, switchOff);
+        return edited(content, switchOff);
     case OverrideMode::WriteRecord:
         break;
     }
-    return editOverrideFile(path, RecordWriter(record, MasterSlot, ";"));
+    return edited(content, RecordWriter(record, MasterSlot, ";"));
 }
 
-bool HandleBusFiles::writeEtherCatFile(const QString& path, const OverrideRecord& record)
+QByteArray OverrideFile::slavesRewritten(const QByteArray& content, const OverrideRecord& record)
 {
-    return editOverrideFile(path, RecordWriter(record, SlaveSlot, " ;"));
+    return edited(content, RecordWriter(record, SlaveSlot, " ;"));
 }
 
-bool HandleBusFiles::writeOverrideFile(const QString& path, const QString& key)
+QByteArray OverrideFile::deviceSwitchedOff(const QByteArray& content, std::string_view device)
 {
-    const std::string device = key.toStdString();
-    return editOverrideFile(path, [&device](std::string_view line, QByteArray& out) {
+    return edited(content, [device](std::string_view line, QByteArray& out) {
         if (!contains(line, device) || !containsIgnoringCase(line, ";ecat_slave_off") || !isSwitchLine(line))
             return TextTemplate::keep(line, out);
-        std::string packed;
-        for (const std::string_view word : words(line, WhiteSpace))
-            packed += word;
+        std::string packed(line);
+        packed.erase(std::remove_if(packed.begin(), packed.end(),
+                                    [](char c) { return AsciiText::parts(Between::WhiteSpace, c); }),
+                     packed.end());
         const std::size_t slot = packed.find('2');
         if (slot == std::string::npos)
             return TextTemplate::keep(line, out);

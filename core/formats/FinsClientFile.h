@@ -1,6 +1,7 @@
 #ifndef FINSCLIENTFILE_H
 #define FINSCLIENTFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 /// Record of FinsTcpConfig.xml, the FINS client that reads from and writes to a PLC's DM area. Named as the
@@ -15,5 +16,15 @@ struct FinsClientConfig
     int WriteDmAddress = 5000;                         ///< first DM word written to the PLC
     int IpPortIndex = 1;                               ///< network port of the controller: 0 ETH2, else ETH3
 };
+
+namespace FinsClientFile {
+
+/// False, and the record as it was, when `content` is no XML.
+bool read(const QByteArray& content, FinsClientConfig& record);
+
+/// A new file with the record and the time of writing.
+QByteArray written(const FinsClientConfig& record);
+
+} // namespace FinsClientFile
 
 #endif

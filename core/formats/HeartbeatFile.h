@@ -1,6 +1,7 @@
 #ifndef HEARTBEATFILE_H
 #define HEARTBEATFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -49,5 +50,15 @@ struct HeartbeatConfig
     /// damaged file can bring it, is shown and written as 0.
     static QString timeoutText(double seconds);
 };
+
+namespace HeartbeatFile {
+
+/// False when `content` is no XML; the record is then as after construction, not as it was.
+bool read(const QByteArray& content, HeartbeatConfig& record);
+
+/// A new file with the record and the time of writing.
+QByteArray written(const HeartbeatConfig& record);
+
+} // namespace HeartbeatFile
 
 #endif

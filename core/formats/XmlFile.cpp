@@ -1,15 +1,11 @@
 #include "XmlFile.h"
 
 #include "AsciiText.h"
-#include "Logging.h"
-#include "WholeFile.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QLocale>
 
 #include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale and uselocale are POSIX
-#include <memory>
 
 namespace XmlFile {
 
@@ -47,16 +43,9 @@ QByteArray encoded(QString text)
 
 } // namespace
 
-bool load(const QString& path, pugi::xml_document& document, unsigned options)
+bool load(const QByteArray& content, pugi::xml_document& document, unsigned options)
 {
-    const WholeFile::Reader file(path);
-    if (!file.isOpen())
-        return false;
-    // The document parses in place and keeps the memory.
-    std::unique_ptr<void, pugi::deallocation_function> memory(
-        pugi::get_memory_allocation_function()(file.size() + 1), pugi::get_memory_deallocation_function());
-    return memory && file.read(memory.get()) &&
-           document.load_buffer_inplace_own(memory.release(), file.size(), options);
+    return document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()), options);
 }
 
 void appendPrologue(pugi::xml_document& document)
@@ -81,17 +70,12 @@ QString text(pugi::xml_node node)
     return QString::fromUtf8(node.text().get());
 }
 
-bool save(const QString& path, const pugi::xml_document& document, unsigned format)
+QByteArray bytes(const pugi::xml_document& document, unsigned format)
 {
-    const QString folder = path.section(QLatin1Char('/'), 0, -2);
-    const bool hasFolder = folder.isEmpty() || QDir(folder).exists() || QDir().mkdir(folder);
     QByteArray content;
     ByteWriter writer(content);
     document.save(writer, "\t", format, pugi::encoding_utf8);
-    if (hasFolder && WholeFile::replace(path, content))
-        return true;
-    qCDebug(fieldbusLog, "Could not save XML file");
-    return false;
+    return content;
 }
 
 PointDecimals::PointDecimals()

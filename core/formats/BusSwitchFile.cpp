@@ -1,11 +1,7 @@
 #include "BusSwitchFile.h"
 
 #include "BusRoleNames.h"
-#include "FileLocations.h"
-#include "HandleBusFiles.h"
-#include "Logging.h"
 #include "XmlFile.h"
-#include "ZelFunctions.h"
 
 #include <QStringList>
 
@@ -61,10 +57,10 @@ struct QuoteEscaper : pugi::xml_tree_walker
 
 } // namespace
 
-bool HandleBusFiles::readFieldbusCfg(const QString& path, BusSwitchSet& switches, bool isImport)
+bool BusSwitchFile::read(const QByteArray& content, BusSwitchSet& switches, bool isImport)
 {
     pugi::xml_document document;
-    if (!XmlFile::load(path, document))
+    if (!XmlFile::load(content, document))
         return false;
     clearAllButProfinetMaster(switches);
     QStringList enabledNames;
@@ -83,15 +79,13 @@ bool HandleBusFiles::readFieldbusCfg(const QString& path, BusSwitchSet& switches
 }
 
 // The file is the controller's: its spelling and order stay, and only one entry is ever changed.
-bool HandleBusFiles::writeFieldbusCfg(const QString& path)
+QByteArray BusSwitchFile::rewritten(const QByteArray& content)
 {
     pugi::xml_document document;
     // What is not understood here is the controller's, and is written back.
     constexpr unsigned Whole = pugi::parse_pi | pugi::parse_cdata | pugi::parse_doctype;
-    if (!XmlFile::load(ZelGetLocalizedFileName(path, 1), document, Whole)) {
-        qCDebug(fieldbusLog).noquote() << "HandleBusFiles::writeFieldbusCfg " + path + " failed!";
-        return false;
-    }
+    if (!XmlFile::load(content, document, Whole))
+        return {};
     for (const pugi::xml_node entry : document.child(RootElement).children()) {
         const QString name = QString::fromUtf8(entry.attribute("name").value());
         if (name.compare(QLatin1String(BusRoleNames::ProfinetSlave), Qt::CaseInsensitive) == 0)
@@ -99,5 +93,5 @@ bool HandleBusFiles::writeFieldbusCfg(const QString& path)
     }
     QuoteEscaper escaper;
     document.traverse(escaper);
-    return XmlFile::save(path, document, pugi::format_no_escapes);
+    return XmlFile::bytes(document, pugi::format_no_escapes);
 }

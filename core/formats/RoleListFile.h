@@ -1,6 +1,7 @@
 #ifndef ROLELISTFILE_H
 #define ROLELISTFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 #include <vector>
@@ -17,11 +18,11 @@ struct ListedRole
 namespace RoleListFile {
 
 /// Reads the roles in file order; of two entries with one name the first counts. False (and `roles`
-/// untouched) when the file cannot be read or has another root.
-bool read(const QString& path, std::vector<ListedRole>& roles);
+/// untouched) when `content` is no XML or has another root.
+bool read(const QByteArray& content, std::vector<ListedRole>& roles);
 
-/// Switches `role` off; everything else of the file stays. False when the file cannot be read or written.
-bool switchOff(const QString& path, const QString& role);
+/// The file with `role` switched off, and every other byte as it is. Empty when `read` would refuse it.
+QByteArray switchedOff(QByteArray content, const QString& role);
 
 } // namespace RoleListFile
 

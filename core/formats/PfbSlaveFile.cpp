@@ -1,13 +1,8 @@
 #include "PfbSlaveFile.h"
 
 #include "AsciiText.h"
-#include "FileLocations.h"
-#include "HandleBusFiles.h"
 #include "SlaveTextFile.h"
 #include "TextTemplate.h"
-#include "WholeFile.h"
-
-#include <QFile>
 
 namespace {
 
@@ -36,12 +31,10 @@ void readAlarm(std::string_view line, PfbSlaveConfig& record)
 
 } // namespace
 
-// Ends at the later of the address and the alarm line: a byte order below both is not read. The local copy is
-// used up by the read, so that the next load fetches the controller's file again.
-bool HandleBusFiles::readPfbCfgFile(const QString& path, PfbSlaveConfig& record)
+// Ends at the later of the address and the alarm line: a byte order below both is not read.
+bool PfbSlaveFile::read(const QByteArray& content, PfbSlaveConfig& record)
 {
-    QByteArray content;
-    if (!WholeFile::read(path, content) || content.isEmpty())
+    if (content.isEmpty())
         return false;
     bool addressSeen = false;
     bool alarmSeen = false;
@@ -49,7 +42,7 @@ bool HandleBusFiles::readPfbCfgFile(const QString& path, PfbSlaveConfig& record)
         const std::string_view line = AsciiText::trimmed(whole);
         SlaveTextFile::readEndian(line, record.ProfibusEndian);
         if (TextTemplate::contains(line, AddressKeyword)) {
-            const std::vector<std::string_view> words = AsciiText::words(line, AsciiText::Blanks);
+            const AsciiText::Words words(line, AsciiText::Between::Blanks);
             if (words.size() > 1)
                 record.ProfibusAddress = AsciiText::text(words[1]);
             addressSeen = true;
@@ -59,19 +52,12 @@ bool HandleBusFiles::readPfbCfgFile(const QString& path, PfbSlaveConfig& record)
         }
         return !(addressSeen && alarmSeen);
     });
-    QFile::remove(path);
     return true;
 }
 
-bool HandleBusFiles::writePfbCfgFile(const QString& path, const PfbSlaveConfig& record)
+QByteArray PfbSlaveFile::rewritten(const QByteArray& content, const PfbSlaveConfig& record)
 {
-    return SlaveTextFile::rewrite(path, {"/pfb_temp.cfg", FileLocations::of(ConfigFile::PfbSlave).controller},
-                                  record.ProfibusEndian,
-                                  {{AddressKeyword, addressLine(record)}, {AlarmKeyword, alarmLine(record)}});
-}
-
-bool HandleBusFiles::writePfbFreeFixFile(const QString& path, const QString& ctrlPath,
-                                         const PfbSlaveConfig& record)
-{
-    return SlaveTextFile::rewrite(path, {"/pfb_freeOrFix.cfg", ctrlPath}, record.ProfibusEndian, {});
+    return SlaveTextFile::rewritten(
+        content, record.ProfibusEndian,
+        {{AddressKeyword, addressLine(record)}, {AlarmKeyword, alarmLine(record)}});
 }

@@ -1,6 +1,5 @@
 #include "HeartbeatFile.h"
 
-#include "HandleBusFiles.h"
 #include "XmlFile.h"
 
 #include <cmath>
@@ -35,12 +34,12 @@ QString HeartbeatConfig::timeoutText(double seconds)
     return QString::number(std::isfinite(seconds) ? seconds : 0.0, 'f', 3);
 }
 
-// Unlike the other readers this one forgets the previous values even when the file cannot be read.
-bool HandleBusFiles::readHeartbeatDetectionFile(const QString& path, HeartbeatConfig& record)
+// Unlike the other readers this one forgets the previous values even when there is nothing to read.
+bool HeartbeatFile::read(const QByteArray& content, HeartbeatConfig& record)
 {
     record = HeartbeatConfig();
     pugi::xml_document document;
-    if (!XmlFile::load(path, document))
+    if (!XmlFile::load(content, document))
         return false;
     const XmlFile::PointDecimals pointDecimals;
     const pugi::xml_node root = document.child("Fidbus");
@@ -52,7 +51,7 @@ bool HandleBusFiles::readHeartbeatDetectionFile(const QString& path, HeartbeatCo
     return true;
 }
 
-bool HandleBusFiles::writeHeartbeatDetectionFile(const QString& path, const HeartbeatConfig& record)
+QByteArray HeartbeatFile::written(const HeartbeatConfig& record)
 {
     pugi::xml_document document;
     XmlFile::appendPrologue(document);
@@ -63,5 +62,5 @@ bool HandleBusFiles::writeHeartbeatDetectionFile(const QString& path, const Hear
         bus.append_child(field.timeoutElement).text() =
             HeartbeatConfig::timeoutText(record.*field.timeout).toLatin1().constData();
     }
-    return XmlFile::save(path, document);
+    return XmlFile::bytes(document);
 }

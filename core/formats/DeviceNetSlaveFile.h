@@ -1,0 +1,24 @@
+#ifndef DEVICENETSLAVEFILE_H
+#define DEVICENETSLAVEFILE_H
+
+#include <QByteArray>
+#include <QString>
+
+/// Record of devicenetSlave.xml, named as its elements.
+struct DeviceNetSlaveConfig
+{
+    QString Dns_BAUDRATE; ///< kbps: "125", "250" or "500"
+    QString Dns_MACID;    ///< even, "2" to "62"
+};
+
+namespace DeviceNetSlaveFile {
+
+/// False, and the record as it was, when `content` is no XML.
+bool read(const QByteArray& content, DeviceNetSlaveConfig& record);
+
+/// A new file with the record and the time of writing.
+QByteArray written(const DeviceNetSlaveConfig& record);
+
+} // namespace DeviceNetSlaveFile
+
+#endif
