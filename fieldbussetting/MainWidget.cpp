@@ -1,51 +1,18 @@
 #include "MainWidget.h"
 
 #include "BaseZelCustomData.h"
+#include "ControllerVariables.h"
 #include "DataAccess.h"
 #include "DesktopApi.h"
 #include "FbMainWidget.h"
-#include "FieldbusSettingLib.h"
 #include "ZelCustomData.h"
 
 #include <QPointer>
-
-#include <algorithm>
-#include <iterator>
 
 namespace {
 
 constexpr int RequiredUserLevel = 3;
 constexpr unsigned ContextVariableKind = 8; // the host's flag for the variables of a project
-
-using SubscriptionGroup = bool (FieldbusSettingLib::*)(bool);
-
-// The host subscribes in this order.
-constexpr SubscriptionGroup Groups[] = {
-    &FieldbusSettingLib::setUsedVars_mes,
-    &FieldbusSettingLib::setUsedVars_cclink,
-    &FieldbusSettingLib::setUsedVars_ifins,
-    &FieldbusSettingLib::setUsedVars_heartbeatdet,
-    &FieldbusSettingLib::setUsedVars_ifidbus_bus_type_state,
-    &FieldbusSettingLib::setUsedVars_mtcpMaster,
-    &FieldbusSettingLib::setUsed_ifidbus_dns_status,
-    &FieldbusSettingLib::setUsed_ifidbus_dnm_status,
-    &FieldbusSettingLib::setUsedVars_ifidbus_ctr_Anybus_type,
-    &FieldbusSettingLib::setUsedVars_freebus_busconfig_xml_update,
-    &FieldbusSettingLib::setUsed_ifidbus_pfn_close,
-    &FieldbusSettingLib::setUsed_ifidbus_pfn_open,
-    &FieldbusSettingLib::setUsed_ifidbus_eip_close,
-    &FieldbusSettingLib::setUsed_ifidbus_eip_open,
-    &FieldbusSettingLib::setUsed_ifidbus_dns_open,
-    &FieldbusSettingLib::setUsed_ifidbus_dns_close,
-    &FieldbusSettingLib::setUsed_ifidbus_dnm_open,
-    &FieldbusSettingLib::setUsed_ifidbus_dnm_close,
-    &FieldbusSettingLib::setUsedVars_ifidbus_current_time,
-    &FieldbusSettingLib::setUsedVars_ethernet,
-    &FieldbusSettingLib::setUsedVars_eipMaster,
-    &FieldbusSettingLib::setUsedVars_pnm,
-    &FieldbusSettingLib::setUsedVars_dnm,
-    &FieldbusSettingLib::setUsedVars_pfs,
-};
 
 } // namespace
 
@@ -73,9 +40,7 @@ bool MainWidget::setUsedVars(int context, bool used)
     if (application && application->variableContext != 0 &&
         !setUsedVar(application->variableContext, used, ContextVariableKind))
         return false;
-    FieldbusSettingLib* lib = FieldbusSettingLib::getInstance();
-    return std::all_of(std::begin(Groups), std::end(Groups),
-                       [lib, used](SubscriptionGroup group) { return (lib->*group)(used); });
+    return ControllerVariables::useHostGroups(used);
 }
 
 void MainWidget::slotIdle()
