@@ -2,8 +2,8 @@
 #include "Faults.h"
 #include "FinsClient.h"
 #include "LoneController.h"
+#include "PageTest.h"
 #include "PaintCounter.h"
-#include "PendantFixture.h"
 #include "QTouchLineEdit.h"
 #include "Shortcut.h"
 
@@ -92,421 +92,358 @@ struct Robot : LoneController
 
 } // namespace
 
-class TestFins : public QObject
+class TestFins : public PageTest
 {
     Q_OBJECT
 
+public:
+    using PageTest::PageTest;
+
 private slots:
-    void pageIsReachedFromThePanel();
-    void chosenAgainWhileItIsMade();
-    void pageFollowsTheClient();
-    void pageShowsWrongAnswers_data();
-    void pageShowsWrongAnswers();
-    void showsTheFile_data();
-    void showsTheFile();
-    void nodeFollowsThePort();
-    void saves();
-    void complaintWhileItIsMadeIsInSight();
-    void userLevelDropsWhileTheSwitchIsLocked();
-    void clientAsksRightly();
-    void clientMeetsWrongAnswers_data();
-    void clientMeetsWrongAnswers();
-    void clientRefusesSettings_data();
-    void clientRefusesSettings();
-    void clientLosesAndFindsItsServer();
+    void pageIsReachedFromThePanel()
+    {
+        ControllerPanel panel(controller(),
+                              {[this] { return FinsShortcut::isAtHand(window()); },
+                               [this] { Shortcut(window(), QStringLiteral("finsPage")).show(); }});
+        panel.show();
+        auto* tabs = panel.findChild<QTabWidget*>();
+        tabs->setCurrentWidget(panel.findChild<QWidget*>("hostLinkTab"));
+        auto* show = panel.findChild<QPushButton*>("showFinsPage");
+        QVERIFY(!show->isEnabled()); // the application is not open
+        QVERIFY(open());
+        QVERIFY(openPage("mesBtn"));
+        QTRY_VERIFY(show->isEnabled());
+        show->click();
+        QTRY_VERIFY(find("FinsTcpSettingWidget") && find("FinsTcpSettingWidget")->isVisible());
+        // No menu button claims the page; the next one that is pressed is the only one that is down.
+        const auto isDown = [this](const char* name) { return isChecked(name); };
+        QVERIFY(!isDown("mesBtn") && !isDown("heartbeatBtn"));
+        for (const char* name : {"mesBtn", "heartbeatBtn"}) {
+            QVERIFY(openPage(name));
+            QVERIFY(isDown(name) && isDown("mesBtn") != isDown("heartbeatBtn"));
+        }
+    }
+
+    // The page fetches while it is made: input is not blocked, and the box with its complaint must be in
+    // sight although the page is not in its place yet.
+    void chosenAgainWhileItIsMade()
+    {
+        QVERIFY(open());
+        controller().faults().set(Faults::FetchFails, -1, FilePath);
+        bool inSight = false;
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+        MsgBoxScript::onShown([&inSight](const MsgBox* box) {
+            inSight = box->isVisible() && box->parentWidget() && box->parentWidget()->isVisible();
+        });
+        QTimer::singleShot(200, &window(), [this] { FinsShortcut::show(window()); });
+        QVERIFY(showAgain());
+        QVERIFY(find("FinsTcpSettingWidget")->isVisible());
+        QCOMPARE(messages().size(), 1);
+        QVERIFY(inSight);
+        QCOMPARE(text("serverIP_Edit"), QString("192.168.1.22"));
+        QCOMPARE(text("clientNode_edit"), QString("22"));
+    }
+
+    void pageFollowsTheClient()
+    {
+        restartAt(10);
+        Plc plc;
+        QVERIFY(show());
+        QVERIFY(!find("autoConnectCB")->isVisible());
+        auto* box = find<QCheckBox>("enable_checkBox");
+        const auto light = [this] { return find<QLabel>("led_finsConnect")->styleSheet(); };
+        const auto errorShown = [this](bool shown) {
+            return find("label_error")->isVisible() == shown && find("led_finsError")->isVisible() == shown;
+        };
+        const auto settled = [&](const char* color, bool error) {
+            return light() == QString("border-image: url(:/image/C0_Done_%1.png);").arg(color) &&
+                   errorShown(error);
+        };
+        QVERIFY(settled("Grey", false));
+        // Off is grey whatever the connection is said to be.
+        set(Connected, 1.0);
+        QTest::qWait(250);
+        QVERIFY(settled("Grey", false));
+        set(Connected, 0.0);
+        QTest::qWait(250); // until the page has seen it: it follows changes only
+
+        QVERIFY(enter("serverIP_Edit", "127.0.0.1"));
+        QVERIFY(enter("serverPort_edit", QString::number(plc.serverPort())));
+        answer({MsgBox::Confirmed, MsgBox::Confirmed});
+        QVERIFY(press("saveFinsButton"));
+        QVERIFY(!writesOf(Update).isEmpty());
+        QTRY_COMPARE(variable(Update), 0.0);
+        QCOMPARE(plc.requests.size(), 0); // saving alone calls nobody
+
+        QVERIFY(press("enable_checkBox"));
+        QElapsedTimer guard;
+        guard.start();
+        QCOMPARE(variable(Enable), 1.0);
+        QVERIFY(!box->isEnabled());
+        QVERIFY(!press("enable_checkBox"));
+        QTRY_VERIFY(settled("Green", false));
+        QTRY_COMPARE(controller().behaviour<FinsClient>().word(), quint16(1234));
+        {
+            PaintCounter paints;
+            QTest::qWait(300);
+            QCOMPARE(paints.styleChanges() + paints.paints(), 0);
+        }
+
+        // The PLC is switched off, and on again.
+        const quint16 port = plc.serverPort();
+        plc.close();
+        plc.hangUp();
+        QTRY_VERIFY(settled("Red", true));
+        QVERIFY(plc.listen(QHostAddress::LocalHost, port));
+        QTRY_VERIFY(settled("Green", false));
+
+        // The controller undoes the switch; the box follows even while it is locked.
+        controller().variables().changedByPendant(Enable, 0, 0.0);
+        QTRY_VERIFY(!box->isChecked() && settled("Grey", false));
+        QTRY_VERIFY_WITH_TIMEOUT(box->isEnabled(), 4000);
+        QVERIFY2(guard.elapsed() >= 2800, QByteArray::number(guard.elapsed()));
+        QCOMPARE(messages().size(), 2);
+    }
+
+    void pageShowsWrongAnswers_data()
+    {
+        const Rows<QByteArray> row;
+        row("never", {});
+        row("a wrong answer", "485454502f312e31");
+        row("an error code", QByteArray(GoodNodes).replace("00000001 00000000", "00000001 00000021"));
+    }
+
+    void pageShowsWrongAnswers()
+    {
+        const auto [nodes] = Rows<QByteArray>::current();
+        Plc plc;
+        plc.nodes = nodes;
+        QVERIFY(put(FilePath, fileWith("127.0.0.1", QByteArray::number(plc.serverPort()))));
+        controller().writeVariable(Update, 0, 1.0);
+        QTRY_COMPARE(variable(Update), 0.0);
+        QVERIFY(show());
+        const auto shows = [this](const char* color, bool error) {
+            return find<QLabel>("led_finsConnect")->styleSheet().contains(color) &&
+                   find("label_error")->isVisible() == error && find("led_finsError")->isVisible() == error;
+        };
+        QVERIFY(shows("Grey", false));
+        QVERIFY(press("enable_checkBox"));
+        // The press itself is what the light has seen: it stays grey until the connection stands.
+        QTRY_VERIFY(shows("Grey", true));
+        plc.nodes = GoodNodes; // the next try goes well
+        QTRY_VERIFY_WITH_TIMEOUT(shows("Green", false), 10000);
+    }
+
+    void showsTheFile_data()
+    {
+        // saved: AutoConnect, IpPortIndex
+        const Rows<QByteArray, QString, QString, QString> row;
+        row("the first port leaves the node", "<AutoConnect>1</AutoConnect>", "22", "ETH2", "1 0");
+        row("the second port gives its own", "<IpPortIndex>1</IpPortIndex>", "77", "ETH3", "0 1");
+        row("no such port", "<IpPortIndex>2</IpPortIndex>", "77", "", "0 -1");
+    }
+
+    void showsTheFile()
+    {
+        const auto [more, node, port, saved] = Rows<QByteArray, QString, QString, QString>::current();
+        QVERIFY(put(PortsPath, "<NetPorts><Port name=\"ETH2\" ip=\"10.0.0.5\"/><Port name=\"ETH3\" "
+                               "ip=\"10.0.0.77\"/></NetPorts>"));
+        QVERIFY(show(FilePath, fileWith("here", "9x", more)));
+        QCOMPARE(text("serverIP_Edit"), QString("here"));
+        QCOMPARE(text("serverPort_edit"), QString("9x"));
+        QCOMPARE(text("clientNode_edit"), node);
+        QCOMPARE(text("readAddress_edit"), QString("1000"));
+        QCOMPARE(text("writeAddress_edit"), QString("0"));
+        QCOMPARE(text("interfaceCB"), port);
+        QCOMPARE(messages(), QStringList());
+
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+        QVERIFY(press("saveFinsButton"));
+        const QByteArray file = controllerFile(FilePath);
+        const auto element = [&file](const QByteArray& name) {
+            const int at = file.indexOf("<" + name + ">") + name.size() + 2;
+            return QString::fromUtf8(file.mid(at, file.indexOf('<', at) - at));
+        };
+        QCOMPARE(element("AutoConnect") + " " + element("IpPortIndex"), saved);
+        QCOMPARE(element("ClientNode"), node);
+    }
+
+    void nodeFollowsThePort()
+    {
+        QVERIFY(show());
+        auto* port = find<QComboBox>("interfaceCB");
+        const struct
+        {
+            const char* address;
+            const char* node;
+        } rows[] = {{"192.168.1.23", "23"}, {"nodots", ""}, {"", ""}, {"1.", ""}, {"a.b", "b"}};
+        for (const auto& row : rows) {
+            QVERIFY(put(PortsPath,
+                        QByteArray("<NetPorts><Port name=\"ETH3\" ip=\"") + row.address + "\"/></NetPorts>"));
+            find<QLineEdit>("clientNode_edit")->setText("99");
+            port->setCurrentIndex(1 - port->currentIndex());
+            if (port->currentIndex() == 0) // ETH2 has no address here
+                port->setCurrentIndex(1);
+            QCOMPARE(text("clientNode_edit"), QString(row.node));
+            find<QLineEdit>("clientNode_edit")->setText("99");
+            port->setCurrentIndex(0);
+            QCOMPARE(text("clientNode_edit"), QString());
+        }
+    }
+
+    void saves()
+    {
+        QVERIFY(show());
+        QVERIFY(enter("serverIP_Edit", "127.0.0.9"));
+        QVERIFY(enter("serverPort_edit", "99999"));
+        QVERIFY(enter("writeAddress_edit", "-7"));
+        find<QLineEdit>("clientNode_edit")->setText("a node");
+        find<QLineEdit>("readAddress_edit")->setText("");
+        answer({MsgBox::Confirmed, MsgBox::Confirmed});
+        QVERIFY(press("saveFinsButton"));
+        QCOMPARE(messages(), QStringList({"Are you sure to save?", "Save successfully."}));
+        QCOMPARE(traffic().stores(), QStringList({FilePath}));
+        const QByteArray saved = controllerFile(FilePath);
+        QVERIFY2(saved.endsWith(
+                     "<ClientConfig>\n\t<ServerIP>127.0.0.9</ServerIP>\n\t<ServerPort>99999</ServerPort>\n"
+                     "\t<ClientNode>0</ClientNode>\n\t<AutoConnect>0</AutoConnect>\n"
+                     "\t<ReadDmAddress>0</ReadDmAddress>\n\t<WriteDmAddress>-7</WriteDmAddress>\n"
+                     "\t<IpPortIndex>1</IpPortIndex>\n</ClientConfig>\n"),
+                 saved.constData());
+    }
+
+    void userLevelDropsWhileTheSwitchIsLocked()
+    {
+        QVERIFY(show());
+        QVERIFY(press("enable_checkBox"));
+        dropUserLevel();
+        QTest::qWait(3200); // the lock would have ended
+        QVERIFY(reopensAfterDrop());
+        QVERIFY(showAgain());
+        QVERIFY(find("enable_checkBox")->isEnabled());
+        QTRY_VERIFY(isChecked("enable_checkBox"));
+    }
+
+    void clientAsksRightly()
+    {
+        Plc plc;
+        Robot robot(plc);
+        plc.bytewise = true;
+        robot.set(Enable, true);
+        QTRY_COMPARE(robot.client().wordsRead(), 2);
+        QCOMPARE(robot.value(Connected), 1.0);
+        QCOMPARE(robot.value(Error), 0.0);
+        QCOMPARE(robot.client().word(), quint16(1234));
+        QCOMPARE(plc.requests.at(0), Magic + "0000000c000000000000000000000016");
+        QCOMPARE(plc.requests.at(1), Magic + "0000001a0000000200000000"
+                                             "80000200030000160001"
+                                             "01018203e8000001");
+        QCOMPARE(plc.requests.at(2).mid(50, 2), QByteArray("02"));
+
+        robot.set(Enable, false);
+        QTRY_COMPARE(robot.value(Connected), 0.0);
+        QTRY_VERIFY(plc.findChildren<QTcpSocket*>().isEmpty());
+        QCOMPARE(robot.value(Error), 0.0);
+    }
+
+    void clientMeetsWrongAnswers_data()
+    {
+        const Rows<QByteArray, QByteArray, QString> row;
+        const QByteArray& n = GoodNodes;
+        const QByteArray& w = GoodWord;
+        const auto with = [](QByteArray frame, const char* from, const char* to) {
+            return frame.replace(from, to);
+        };
+        const QString wrong = "wrong answer";
+        const QString late = "timed out";
+        row("never", {}, w, late);
+        row("cut short", n.left(n.size() - 2), w, late);
+        row("another protocol", "485454502f312e31", w, wrong);
+        row("a length without end", Magic + "ffffffff 00000001", w, wrong);
+        row("an error code", with(n, "00000001 00000000", "00000001 00000021"), w, "error code 33");
+        row("another client", with(n, "00000016", "00000017"), w, wrong);
+        row("read: never", n, {}, late);
+        row("read: another request's", n, with(w, "ss", "63"), wrong);
+        row("read: an end code", n, with(w, "0101 0000", "0101 1103"), "end code 1103");
+        row("read: no word", n, with(w, "00000018", "00000016").left(w.size() - 5), wrong);
+    }
+
+    void clientMeetsWrongAnswers()
+    {
+        const auto [nodes, word, complaint] = Rows<QByteArray, QByteArray, QString>::current();
+        Plc plc;
+        Robot robot(plc);
+        plc.nodes = nodes;
+        plc.word = word;
+        robot.set(Enable, true);
+        QTRY_COMPARE(robot.value(Error), 1.0);
+        QCOMPARE(robot.value(Connected), 0.0);
+        QCOMPARE(robot.client().state(), FinsClient::State::Failed);
+        QVERIFY2(robot.client().complaint().startsWith(complaint), qPrintable(robot.client().complaint()));
+        QTRY_VERIFY(plc.findChildren<QTcpSocket*>().isEmpty());
+        // Nothing of it is left for the next connection.
+        plc.nodes = GoodNodes;
+        plc.word = GoodWord;
+        robot.set(Update, true);
+        QTRY_COMPARE(robot.value(Connected), 1.0);
+        QCOMPARE(robot.value(Error), 0.0);
+    }
+
+    void clientRefusesSettings_data()
+    {
+        const Rows<QByteArray> row;
+        row("a server elsewhere", fileWith("192.168.2.10", "9600"));
+        row("a port too high", fileWith("127.0.0.1", "65537"));
+        row("a word behind the last", fileWith("127.0.0.1", "9600").replace(">1000<", ">32768<"));
+    }
+
+    // Nobody is called, and nobody again later.
+    void clientRefusesSettings()
+    {
+        const auto [file] = Rows<QByteArray>::current();
+        Robot robot(file);
+        robot.controller().setTimeScale(1000);
+        robot.set(Enable, true);
+        QTRY_COMPARE(robot.value(Error), 1.0);
+        const QString complaint = robot.client().complaint();
+        QVERIFY(!complaint.isEmpty());
+        QTest::qWait(30);
+        QCOMPARE(robot.client().complaint(), complaint);
+        QCOMPARE(robot.client().state(), FinsClient::State::Failed);
+        robot.set(Enable, false);
+        QTRY_COMPARE(robot.value(Error), 0.0);
+        QCOMPARE(robot.client().state(), FinsClient::State::Off);
+    }
+
+    void clientLosesAndFindsItsServer()
+    {
+        Plc plc;
+        Robot robot(plc);
+        const quint16 port = plc.serverPort();
+        plc.close();
+        robot.set(Enable, true);
+        QTRY_COMPARE(robot.value(Error), 1.0);
+        QVERIFY2(robot.client().complaint().contains("refused"), qPrintable(robot.client().complaint()));
+        // Announced settings are taken over at once, not at the next try.
+        Plc other;
+        robot.controller().files().write(FilePath,
+                                         fileWith("127.0.0.1", QByteArray::number(other.serverPort())));
+        robot.set(Update, true);
+        QTRY_COMPARE(robot.value(Connected), 1.0);
+        QCOMPARE(robot.value(Update), 0.0);
+        QCOMPARE(robot.value(Error), 0.0);
+
+        // A restart ends it; "connect automatically" brings it up again.
+        robot.controller().files().write(
+            FilePath, fileWith("127.0.0.1", QByteArray::number(port), "<AutoConnect>1</AutoConnect>"));
+        QVERIFY(plc.listen(QHostAddress::LocalHost, port));
+        robot.controller().requestRestart();
+        QTRY_COMPARE(robot.value(Connected), 0.0);
+        QTRY_COMPARE(robot.value(Connected), 1.0);
+        QCOMPARE(robot.value(Enable), 1.0);
+        QVERIFY(!plc.requests.isEmpty());
+    }
 };
 
-void TestFins::pageIsReachedFromThePanel()
-{
-    PendantFixture pendant;
-    const Shortcut finsPage(pendant.window(), QStringLiteral("finsPage"));
-    ControllerPanel panel(pendant.controller(),
-                          {[finsPage] { return finsPage.isAtHand(); }, [finsPage] { finsPage.show(); }});
-    panel.show();
-    auto* tabs = panel.findChild<QTabWidget*>();
-    tabs->setCurrentWidget(panel.findChild<QWidget*>("hostLinkTab"));
-    auto* show = panel.findChild<QPushButton*>("showFinsPage");
-    QVERIFY(!show->isEnabled()); // the application is not open
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.openPage("mesBtn"));
-    QTRY_VERIFY(show->isEnabled());
-    show->click();
-    QTRY_VERIFY(pendant.find("FinsTcpSettingWidget") && pendant.find("FinsTcpSettingWidget")->isVisible());
-    // No menu button claims the page; the next one that is pressed is the only one that is down.
-    const auto isDown = [&pendant](const char* name) { return pendant.find<QPushButton>(name)->isChecked(); };
-    QVERIFY(!isDown("mesBtn") && !isDown("heartbeatBtn"));
-    for (const char* name : {"mesBtn", "heartbeatBtn"}) {
-        QVERIFY(pendant.openPage(name));
-        QVERIFY(isDown(name) && isDown("mesBtn") != isDown("heartbeatBtn"));
-    }
-}
-
-// The page fetches while it is made, and input is not blocked.
-void TestFins::chosenAgainWhileItIsMade()
-{
-    PendantFixture pendant;
-    QVERIFY(pendant.open());
-    pendant.controller().faults().set(Faults::FetchFails, -1, FilePath);
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    QTimer::singleShot(200, &pendant.window(),
-                       [&pendant] { Shortcut(pendant.window(), QStringLiteral("finsPage")).show(); });
-    QVERIFY(pendant.selectPage(FinsPage));
-    QVERIFY(pendant.find("FinsTcpSettingWidget")->isVisible());
-    QCOMPARE(pendant.messages().size(), 1);
-}
-
-void TestFins::pageFollowsTheClient()
-{
-    PendantFixture pendant(10);
-    Plc plc;
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.selectPage(FinsPage));
-    QVERIFY(!pendant.find("autoConnectCB")->isVisible());
-    auto* box = pendant.find<QCheckBox>("enable_checkBox");
-    const auto light = [&pendant] { return pendant.find<QLabel>("led_finsConnect")->styleSheet(); };
-    const auto errorShown = [&pendant](bool shown) {
-        return pendant.find("label_error")->isVisible() == shown &&
-               pendant.find("led_finsError")->isVisible() == shown;
-    };
-    const auto settled = [&](const char* color, bool error) {
-        return light() == QString("border-image: url(:/image/C0_Done_%1.png);").arg(color) &&
-               errorShown(error);
-    };
-    QVERIFY(settled("Grey", false));
-    // Off is grey whatever the connection is said to be.
-    pendant.controller().variables().set(Connected, 1.0);
-    QTest::qWait(250);
-    QVERIFY(settled("Grey", false));
-    pendant.controller().variables().set(Connected, 0.0);
-    QTest::qWait(250); // until the page has seen it: it follows changes only
-
-    QVERIFY(pendant.enter("serverIP_Edit", "127.0.0.1"));
-    QVERIFY(pendant.enter("serverPort_edit", QString::number(plc.serverPort())));
-    PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
-    QVERIFY(pendant.press("saveFinsButton"));
-    QVERIFY(!pendant.writesOf(Update).isEmpty());
-    QTRY_COMPARE(pendant.variable(Update), 0.0);
-    QCOMPARE(plc.requests.size(), 0); // saving alone calls nobody
-
-    QVERIFY(pendant.press("enable_checkBox"));
-    QElapsedTimer guard;
-    guard.start();
-    QCOMPARE(pendant.variable(Enable), 1.0);
-    QVERIFY(!box->isEnabled());
-    QVERIFY(!pendant.press("enable_checkBox"));
-    QTRY_VERIFY(settled("Green", false));
-    QTRY_COMPARE(pendant.controller().behaviour<FinsClient>().word(), quint16(1234));
-    {
-        PaintCounter paints;
-        QTest::qWait(300);
-        QCOMPARE(paints.styleChanges() + paints.paints(), 0);
-    }
-
-    // The PLC is switched off, and on again.
-    const quint16 port = plc.serverPort();
-    plc.close();
-    plc.hangUp();
-    QTRY_VERIFY(settled("Red", true));
-    QVERIFY(plc.listen(QHostAddress::LocalHost, port));
-    QTRY_VERIFY(settled("Green", false));
-
-    // The controller undoes the switch; the box follows even while it is locked.
-    pendant.controller().variables().changedByPendant(Enable, 0, 0.0);
-    QTRY_VERIFY(!box->isChecked() && settled("Grey", false));
-    QTRY_VERIFY_WITH_TIMEOUT(box->isEnabled(), 4000);
-    QVERIFY2(guard.elapsed() >= 2800, QByteArray::number(guard.elapsed()));
-    QCOMPARE(pendant.messages().size(), 2);
-}
-
-void TestFins::pageShowsWrongAnswers_data()
-{
-    QTest::addColumn<QByteArray>("nodes");
-    QTest::newRow("never") << QByteArray();
-    QTest::newRow("a wrong answer") << QByteArray("485454502f312e31");
-    QTest::newRow("an error code") << QByteArray(GoodNodes).replace("00000001 00000000", "00000001 00000021");
-}
-
-void TestFins::pageShowsWrongAnswers()
-{
-    QFETCH(QByteArray, nodes);
-    PendantFixture pendant;
-    Plc plc;
-    plc.nodes = nodes;
-    QVERIFY(pendant.put(FilePath, fileWith("127.0.0.1", QByteArray::number(plc.serverPort()))));
-    pendant.controller().writeVariable(Update, 0, 1.0);
-    QTRY_COMPARE(pendant.variable(Update), 0.0);
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.selectPage(FinsPage));
-    const auto shows = [&pendant](const char* color, bool error) {
-        return pendant.find<QLabel>("led_finsConnect")->styleSheet().contains(color) &&
-               pendant.find("label_error")->isVisible() == error &&
-               pendant.find("led_finsError")->isVisible() == error;
-    };
-    QVERIFY(shows("Grey", false));
-    QVERIFY(pendant.press("enable_checkBox"));
-    // The press itself is what the light has seen: it stays grey until the connection stands.
-    QTRY_VERIFY(shows("Grey", true));
-    plc.nodes = GoodNodes; // the next try goes well
-    QTRY_VERIFY_WITH_TIMEOUT(shows("Green", false), 10000);
-}
-
-void TestFins::showsTheFile_data()
-{
-    QTest::addColumn<QByteArray>("more");
-    QTest::addColumn<QString>("node");
-    QTest::addColumn<QString>("port");
-    QTest::addColumn<QString>("saved"); // AutoConnect, IpPortIndex
-    QTest::newRow("the first port leaves the node") << QByteArray("<AutoConnect>1</AutoConnect>") << "22"
-                                                    << "ETH2"
-                                                    << "1 0";
-    QTest::newRow("the second port gives its own") << QByteArray("<IpPortIndex>1</IpPortIndex>") << "77"
-                                                   << "ETH3"
-                                                   << "0 1";
-    QTest::newRow("no such port") << QByteArray("<IpPortIndex>2</IpPortIndex>") << "77"
-                                  << ""
-                                  << "0 -1";
-}
-
-void TestFins::showsTheFile()
-{
-    QFETCH(QByteArray, more);
-    QFETCH(QString, node);
-    PendantFixture pendant;
-    QVERIFY(pendant.put(
-        PortsPath,
-        "<NetPorts><Port name=\"ETH2\" ip=\"10.0.0.5\"/><Port name=\"ETH3\" ip=\"10.0.0.77\"/></NetPorts>"));
-    QVERIFY(pendant.put(FilePath, fileWith("here", "9x", more)));
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.selectPage(FinsPage));
-    QCOMPARE(pendant.find<QLineEdit>("serverIP_Edit")->text(), QString("here"));
-    QCOMPARE(pendant.find<QLineEdit>("serverPort_edit")->text(), QString("9x"));
-    QCOMPARE(pendant.find<QLineEdit>("clientNode_edit")->text(), node);
-    QCOMPARE(pendant.find<QLineEdit>("readAddress_edit")->text(), QString("1000"));
-    QCOMPARE(pendant.find<QLineEdit>("writeAddress_edit")->text(), QString("0"));
-    QTEST(pendant.find<QComboBox>("interfaceCB")->currentText(), "port");
-    QCOMPARE(pendant.messages(), QStringList());
-
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    QVERIFY(pendant.press("saveFinsButton"));
-    const QByteArray file = pendant.controllerFile(FilePath);
-    const auto element = [&file](const QByteArray& name) {
-        const int at = file.indexOf("<" + name + ">") + name.size() + 2;
-        return QString::fromUtf8(file.mid(at, file.indexOf('<', at) - at));
-    };
-    QTEST(element("AutoConnect") + " " + element("IpPortIndex"), "saved");
-    QCOMPARE(element("ClientNode"), node);
-}
-
-void TestFins::nodeFollowsThePort()
-{
-    PendantFixture pendant;
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.selectPage(FinsPage));
-    auto* port = pendant.find<QComboBox>("interfaceCB");
-    const struct
-    {
-        const char* address;
-        const char* node;
-    } rows[] = {{"192.168.1.23", "23"}, {"nodots", ""}, {"", ""}, {"1.", ""}, {"a.b", "b"}};
-    for (const auto& row : rows) {
-        QVERIFY(pendant.put(PortsPath, QByteArray("<NetPorts><Port name=\"ETH3\" ip=\"") + row.address +
-                                           "\"/></NetPorts>"));
-        pendant.find<QLineEdit>("clientNode_edit")->setText("99");
-        port->setCurrentIndex(1 - port->currentIndex());
-        if (port->currentIndex() == 0) // ETH2 has no address here
-            port->setCurrentIndex(1);
-        QCOMPARE(pendant.find<QLineEdit>("clientNode_edit")->text(), QString(row.node));
-        pendant.find<QLineEdit>("clientNode_edit")->setText("99");
-        port->setCurrentIndex(0);
-        QCOMPARE(pendant.find<QLineEdit>("clientNode_edit")->text(), QString());
-    }
-}
-
-void TestFins::saves()
-{
-    PendantFixture pendant;
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.selectPage(FinsPage));
-    QVERIFY(pendant.enter("serverIP_Edit", "127.0.0.9"));
-    QVERIFY(pendant.enter("serverPort_edit", "99999"));
-    QVERIFY(pendant.enter("writeAddress_edit", "-7"));
-    pendant.find<QLineEdit>("clientNode_edit")->setText("a node");
-    pendant.find<QLineEdit>("readAddress_edit")->setText("");
-    for (const int result : {MsgBox::Second, MsgBox::Dismissed}) {
-        pendant.controller().traffic().clear();
-        PendantFixture::answer({result});
-        QVERIFY(pendant.press("saveFinsButton"));
-        QCOMPARE(pendant.controller().traffic().stores(), QStringList());
-    }
-    QCOMPARE(pendant.find<QLineEdit>("serverIP_Edit")->text(), QString("127.0.0.9"));
-    PendantFixture::answer({MsgBox::Confirmed, MsgBox::Confirmed});
-    QVERIFY(pendant.press("saveFinsButton"));
-    QCOMPARE(pendant.messages().mid(2), QStringList({"Are you sure to save?", "Save successfully."}));
-    QCOMPARE(pendant.controller().traffic().stores(), QStringList({FilePath}));
-    const QByteArray saved = pendant.controllerFile(FilePath);
-    QVERIFY2(
-        saved.endsWith("<ClientConfig>\n\t<ServerIP>127.0.0.9</ServerIP>\n\t<ServerPort>99999</ServerPort>\n"
-                       "\t<ClientNode>0</ClientNode>\n\t<AutoConnect>0</AutoConnect>\n"
-                       "\t<ReadDmAddress>0</ReadDmAddress>\n\t<WriteDmAddress>-7</WriteDmAddress>\n"
-                       "\t<IpPortIndex>1</IpPortIndex>\n</ClientConfig>\n"),
-        saved.constData());
-}
-
-// The page complains while it is made: it is not in its place yet, the box must be in sight nevertheless.
-void TestFins::complaintWhileItIsMadeIsInSight()
-{
-    PendantFixture pendant;
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.controller().faults().setFromText("fetch-fails:10:" + FilePath));
-    bool seen = false;
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    MsgBoxScript::onShown([&seen](const MsgBox* box) {
-        seen = box->isVisible() && box->parentWidget() && box->parentWidget()->isVisible();
-    });
-    QVERIFY(pendant.selectPage(FinsPage));
-    QVERIFY(seen);
-    QCOMPARE(pendant.find<QLineEdit>("serverIP_Edit")->text(), QString("192.168.1.22"));
-    QCOMPARE(pendant.find<QLineEdit>("clientNode_edit")->text(), QString("22"));
-}
-
-void TestFins::userLevelDropsWhileTheSwitchIsLocked()
-{
-    PendantFixture pendant;
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.selectPage(FinsPage));
-    QVERIFY(pendant.press("enable_checkBox"));
-    PendantFixture::dropUserLevel();
-    QTest::qWait(3200); // the lock would have ended
-    QVERIFY(pendant.reopensAfterDrop());
-    QVERIFY(pendant.selectPage(FinsPage));
-    QVERIFY(pendant.find("enable_checkBox")->isEnabled());
-    QTRY_VERIFY(pendant.find<QCheckBox>("enable_checkBox")->isChecked());
-}
-
-void TestFins::clientAsksRightly()
-{
-    Plc plc;
-    Robot robot(plc);
-    plc.bytewise = true;
-    robot.set(Enable, true);
-    QTRY_COMPARE(robot.client().wordsRead(), 2);
-    QCOMPARE(robot.value(Connected), 1.0);
-    QCOMPARE(robot.value(Error), 0.0);
-    QCOMPARE(robot.client().word(), quint16(1234));
-    QCOMPARE(plc.requests.at(0), Magic + "0000000c000000000000000000000016");
-    QCOMPARE(plc.requests.at(1), Magic + "0000001a0000000200000000"
-                                         "80000200030000160001"
-                                         "01018203e8000001");
-    QCOMPARE(plc.requests.at(2).mid(50, 2), QByteArray("02"));
-
-    robot.set(Enable, false);
-    QTRY_COMPARE(robot.value(Connected), 0.0);
-    QTRY_VERIFY(plc.findChildren<QTcpSocket*>().isEmpty());
-    QCOMPARE(robot.value(Error), 0.0);
-}
-
-void TestFins::clientMeetsWrongAnswers_data()
-{
-    QTest::addColumn<QByteArray>("nodes");
-    QTest::addColumn<QByteArray>("word");
-    QTest::addColumn<QString>("complaint");
-    const QByteArray& n = GoodNodes;
-    const QByteArray& w = GoodWord;
-    const auto with = [](QByteArray frame, const char* from, const char* to) {
-        return frame.replace(from, to);
-    };
-    const QString wrong = "wrong answer";
-    const QString late = "timed out";
-    const auto row = [](const char* name, const QByteArray& nodes, const QByteArray& word,
-                        const QString& complaint) { QTest::newRow(name) << nodes << word << complaint; };
-    row("never", {}, w, late);
-    row("cut short", n.left(n.size() - 2), w, late);
-    row("another protocol", "485454502f312e31", w, wrong);
-    row("a length without end", Magic + "ffffffff 00000001", w, wrong);
-    row("an error code", with(n, "00000001 00000000", "00000001 00000021"), w, "error code 33");
-    row("another client", with(n, "00000016", "00000017"), w, wrong);
-    row("read: never", n, {}, late);
-    row("read: another request's", n, with(w, "ss", "63"), wrong);
-    row("read: an end code", n, with(w, "0101 0000", "0101 1103"), "end code 1103");
-    row("read: no word", n, with(w, "00000018", "00000016").left(w.size() - 5), wrong);
-}
-
-void TestFins::clientMeetsWrongAnswers()
-{
-    QFETCH(QByteArray, nodes);
-    QFETCH(QByteArray, word);
-    QFETCH(QString, complaint);
-    Plc plc;
-    Robot robot(plc);
-    plc.nodes = nodes;
-    plc.word = word;
-    robot.set(Enable, true);
-    QTRY_COMPARE(robot.value(Error), 1.0);
-    QCOMPARE(robot.value(Connected), 0.0);
-    QCOMPARE(robot.client().state(), FinsClient::State::Failed);
-    QVERIFY2(robot.client().complaint().startsWith(complaint), qPrintable(robot.client().complaint()));
-    QTRY_VERIFY(plc.findChildren<QTcpSocket*>().isEmpty());
-    // Nothing of it is left for the next connection.
-    plc.nodes = GoodNodes;
-    plc.word = GoodWord;
-    robot.set(Update, true);
-    QTRY_COMPARE(robot.value(Connected), 1.0);
-    QCOMPARE(robot.value(Error), 0.0);
-}
-
-void TestFins::clientRefusesSettings_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::newRow("a server elsewhere") << fileWith("192.168.2.10", "9600");
-    QTest::newRow("a port too high") << fileWith("127.0.0.1", "65537");
-    QTest::newRow("a word behind the last") << fileWith("127.0.0.1", "9600").replace(">1000<", ">32768<");
-}
-
-// Nobody is called, and nobody again later.
-void TestFins::clientRefusesSettings()
-{
-    QFETCH(QByteArray, file);
-    Robot robot(file);
-    robot.controller().setTimeScale(1000);
-    robot.set(Enable, true);
-    QTRY_COMPARE(robot.value(Error), 1.0);
-    const QString complaint = robot.client().complaint();
-    QVERIFY(!complaint.isEmpty());
-    QTest::qWait(30);
-    QCOMPARE(robot.client().complaint(), complaint);
-    QCOMPARE(robot.client().state(), FinsClient::State::Failed);
-    robot.set(Enable, false);
-    QTRY_COMPARE(robot.value(Error), 0.0);
-    QCOMPARE(robot.client().state(), FinsClient::State::Off);
-}
-
-void TestFins::clientLosesAndFindsItsServer()
-{
-    Plc plc;
-    Robot robot(plc);
-    const quint16 port = plc.serverPort();
-    plc.close();
-    robot.set(Enable, true);
-    QTRY_COMPARE(robot.value(Error), 1.0);
-    QVERIFY2(robot.client().complaint().contains("refused"), qPrintable(robot.client().complaint()));
-    // Announced settings are taken over at once, not at the next try.
-    Plc other;
-    robot.controller().files().write(FilePath, fileWith("127.0.0.1", QByteArray::number(other.serverPort())));
-    robot.set(Update, true);
-    QTRY_COMPARE(robot.value(Connected), 1.0);
-    QCOMPARE(robot.value(Update), 0.0);
-    QCOMPARE(robot.value(Error), 0.0);
-
-    // A restart ends it; "connect automatically" brings it up again.
-    robot.controller().files().write(
-        FilePath, fileWith("127.0.0.1", QByteArray::number(port), "<AutoConnect>1</AutoConnect>"));
-    QVERIFY(plc.listen(QHostAddress::LocalHost, port));
-    robot.controller().requestRestart();
-    QTRY_COMPARE(robot.value(Connected), 0.0);
-    QTRY_COMPARE(robot.value(Connected), 1.0);
-    QCOMPARE(robot.value(Enable), 1.0);
-    QVERIFY(!plc.requests.isEmpty());
-}
-
-PENDANT_TEST_MAIN(TestFins)
+PENDANT_TEST_MAIN(TestFins, {}, FinsPage)
 #include "tst_fins.moc"

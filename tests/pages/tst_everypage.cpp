@@ -2,6 +2,7 @@
 #include "Faults.h"
 #include "FieldbusSettingLib.h"
 #include "ProfisafeDevice.h"
+#include "Rows.h"
 #include "Texts.h"
 #include "TickCost.h"
 
@@ -16,6 +17,7 @@ using namespace Texts;
 // What an override file, of which any text is one, cannot be: longer than the pendant takes.
 constexpr int TooLongBytes = 17 * 1024 * 1024;
 constexpr int EtherCatModule = 13;
+constexpr int PfnMasterPage = 12;
 
 /// A file of a page. A text that is null is not said: the page does not take that step by itself.
 struct PageFile
@@ -32,6 +34,8 @@ struct PageFile
     // The controller's present file is fetched for a save.
     bool isTemplate = false;
 };
+
+const QStringList GoesOn{"(it does not look)"};
 
 struct Page
 {
@@ -50,6 +54,12 @@ struct Page
     bool announcesUnsent = false;  // also when the file could not be sent
     bool allocatesInATick = false; // for the texts of its CONNECT column
     bool needsItsCopy = false;     // of the file, or it writes nothing
+    // What a save says, and writes nothing, while the robot runs, the servo is on, or no restart is allowed.
+    QStringList whileRunning = GoesOn;
+    QStringList withServoOn = GoesOn;
+    QStringList withoutRestart = GoesOn;
+    bool noDropsEdits = false; // the second button of the question
+    int linkBit = 0;           // of "ifidbus.commun_state", which its light shows
 };
 
 // A number that was not entered before.
@@ -114,6 +124,10 @@ Page masterTable(const char* name, int id, const char* widget, const char* save,
                 {Restart}}},
               nullptr};
     page.kind = MsgBox::Error;
+    if (id == PfnMasterPage)
+        page.whileRunning = page.withServoOn = QStringList(ServoFirst);
+    else
+        page.withoutRestart.clear();
     page.prepare = [path, root](PendantFixture& pendant) {
         // Nine slaves, so that every light is followed in a tick.
         return pendant.put(path,
@@ -123,7 +137,7 @@ Page masterTable(const char* name, int id, const char* widget, const char* save,
 }
 
 Page textSlave(const char* name, int id, const char* widget, const char* save, const QString& file,
-               const QString& variant)
+               const QString& variant, int linkBit)
 {
     static QList<QByteArray> paths; // that live as long as the pages
     paths << "/FA/" + file.toLatin1() << "/application/fidbus/free/" + variant.toLatin1();
@@ -132,14 +146,16 @@ Page textSlave(const char* name, int id, const char* widget, const char* save, c
     PageFile inMode{paths.end()[-1].constData(), variant, ""};
     inMode.getText = QString();
     inMode.isTemplate = true;
-    return {name,
-            id,
-            widget,
-            nullptr,
-            save,
-            [widget](PendantFixture& pendant) { return chooseAnother(pendant, widget, "cbb_largeSmall"); },
-            {driver, inMode},
-            nullptr};
+    Page page{name,
+              id,
+              widget,
+              nullptr,
+              save,
+              [widget](PendantFixture& pendant) { return chooseAnother(pendant, widget, "cbb_largeSmall"); },
+              {driver, inMode},
+              nullptr};
+    page.linkBit = linkBit;
+    return page;
 }
 
 // An empty record is refused, so it begins with one.
@@ -175,6 +191,7 @@ Page deviceNetMaster()
               {{"/fa/dnmst0.cfg", "dnmst0.cfg", "fetch-garbage fetch-empty"}},
               "ifidbus.dnm_save_config"};
     page.announcesUnsent = page.needsItsCopy = page.allocatesInATick = true;
+    page.withoutRestart.clear();
     return page;
 }
 
@@ -190,6 +207,8 @@ Page etherCatModule()
         [](PendantFixture& pendant) { return chooseAnother(pendant, "EtherCatSettingWidget", "cbb_Endian"); },
         {{"/fa/fbslave.cfgx", "fbslave.cfgx", "", "", "", "", WriteFailed}},
         nullptr};
+    page.whileRunning = page.withServoOn = QStringList(ServoFirst);
+    page.noDropsEdits = true;
     page.prepare = [](PendantFixture& pendant) {
         pendant.controller().variables().set("ifidbus.anybus_fm", EtherCatModule);
         return true;
@@ -202,7 +221,7 @@ const std::vector<Page>& pages()
     static const std::vector<Page> all = [] {
         const QString anyXml = "fetch-garbage fetch-cut-short";
         const QString mapping = "/application/fidbus/fieldbus_config.xml";
-        return std::vector<Page>{
+        std::vector<Page> pages{
             {"heartbeat",
              6,
              "HeartbeatDetectionWidget",
@@ -263,12 +282,12 @@ const std::vector<Page>& pages()
                         "eipMaster", "/application/fidbus/eipMaster/eip_master.xml", "eip_master.xml",
                         "EipMasterCommunication"),
             // Its texts call the file by another name when it is saved.
-            masterTable("PROFINET master", 12, "PfnMasterSetting", "btn_save", "pfnMasterTableWdt",
+            masterTable("PROFINET master", PfnMasterPage, "PfnMasterSetting", "btn_save", "pfnMasterTableWdt",
                         "pfnMaster", "/application/fidbus/pfnMaster/pfn_master.xml", "pnm_master.xml",
                         "PfnMasterCommunication"),
-            textSlave("PROFINET slave", 1, "Pfb_PfnSettingWidget", "saveBt", "pfb.cfg", "pfb_free.cfg"),
+            textSlave("PROFINET slave", 1, "Pfb_PfnSettingWidget", "saveBt", "pfb.cfg", "pfb_free.cfg", 8),
             textSlave("EtherNet/IP slave", 4, "EtherNetSettingWidget", "saveButton", "dns-1.cfg",
-                      "dns_free.cfg"),
+                      "dns_free.cfg", 4),
             // The menu has fetched its file; it is written and sent by the bus file service.
             {"I/O mapping",
              7,
@@ -293,6 +312,17 @@ const std::vector<Page>& pages()
              MsgBox::Error,
              "Are you sure to Save Configuration?"},
         };
+        const auto named = [&pages](const char* name) -> Page& {
+            return *std::find_if(pages.begin(), pages.end(),
+                                 [name](const Page& page) { return page.name == QLatin1String(name); });
+        };
+        named("heartbeat").noDropsEdits = named("I/O mapping").noDropsEdits = true;
+        named("DeviceNet slave").linkBit = 32;
+        named("EtherCAT slave").whileRunning = named("EtherCAT slave").withServoOn = QStringList(ServoFirst);
+        named("EtherCAT master").withoutRestart.clear();
+        named("I/O mapping").whileRunning = QStringList(named("I/O mapping").question);
+        named("I/O mapping").withServoOn = named("I/O mapping").whileRunning + QStringList(ServoFirst);
+        return pages;
     }();
     return all;
 }
@@ -315,259 +345,351 @@ const std::vector<Page>& withoutFile()
 class AnyPage : public PendantFixture
 {
 public:
-    explicit AnyPage(const Page& page)
-        : m_page(page)
+    AnyPage()
+        : PendantFixture(Later)
     {
     }
+    void begin(const Page& page)
+    {
+        m_page = &page;
+        start();
+    }
+    const Page& page() const { return *m_page; }
     /// As far as the page, which is the next one to be opened.
     bool openUpTo() { return isPrepared() && openPastStartPage() && isPrepared(); }
-    bool isPrepared() { return !m_page.prepare || m_page.prepare(*this); }
+    bool isPrepared() { return !m_page->prepare || m_page->prepare(*this); }
     /// False also when another page is in front; a page that was closed while it loads is not.
-    bool show() { return selectPage(m_page.id) && find(m_page.widget) && find(m_page.widget)->isVisible(); }
+    bool show()
+    {
+        return selectPage(m_page->id) && find(m_page->widget) && find(m_page->widget)->isVisible();
+    }
     bool save()
     {
-        return (m_page.edit != m_page.save || caption() == QLatin1String("Save") ||
-                pressOn(m_page.widget, m_page.edit)) &&
-               Finger::press(findOn(m_page.widget, m_page.save));
+        return (m_page->edit != m_page->save || caption() == QLatin1String("Save") ||
+                pressOn(m_page->widget, m_page->edit)) &&
+               Finger::press(findOn(m_page->widget, m_page->save));
     }
-    bool change() { return (!m_page.edit || pressOn(m_page.widget, m_page.edit)) && m_page.change(*this); }
+    /// What can be entered on the page, as it stands there.
+    QStringList entries() const
+    {
+        QStringList texts;
+        for (const QWidget* widget : find(m_page->widget)->findChildren<QWidget*>()) {
+            if (const auto* table = qobject_cast<const QTableWidget*>(widget)) {
+                for (const QTableWidgetItem* item : table->findItems({}, Qt::MatchContains))
+                    texts << item->text();
+            }
+            const bool isButton = widget->inherits("QAbstractButton");
+            if (isButton || widget->inherits("QLineEdit") || widget->inherits("QComboBox"))
+                texts << widget
+                             ->property(isButton                        ? "checked"
+                                        : widget->inherits("QComboBox") ? "currentText"
+                                                                        : "text")
+                             .toString();
+        }
+        return texts;
+    }
+    bool change()
+    {
+        return (!m_page->edit || pressOn(m_page->widget, m_page->edit)) && m_page->change(*this);
+    }
 
 private:
-    QString caption() const { return findOn<QAbstractButton>(m_page.widget, m_page.save)->text(); }
+    QString caption() const { return findOn<QAbstractButton>(m_page->widget, m_page->save)->text(); }
 
-    const Page& m_page;
+    const Page* m_page = nullptr;
 };
 
 } // namespace
 
-class TestEveryPage : public QObject
+class TestEveryPage : public QObject, public AnyPage
 {
     Q_OBJECT
 
 private slots:
-    void loadFaults_data();
-    void loadFaults();
-    void saveFaults_data() { eachPage(); }
-    void saveFaults();
-    void userLevelDrops_data() { eachPage(); }
-    void userLevelDrops();
-    void tickWithoutChangeCostsNothing_data();
-    void tickWithoutChangeCostsNothing();
+    void init()
+    {
+        const int index = *static_cast<int*>(QTest::qData("0", QMetaType::Int));
+        const int count = int(pages().size());
+        begin(index < count ? pages()[index] : withoutFile()[index - count]);
+    }
+    void cleanup() { stop(); }
 
-private:
-    static void eachPage();
-};
-
-void TestEveryPage::eachPage()
-{
-    QTest::addColumn<int>("pageIndex");
-    for (int index = 0; index < int(pages().size()); ++index)
-        QTest::newRow(pages()[index].name) << index;
-}
-
-void TestEveryPage::loadFaults_data()
-{
-    QTest::addColumn<int>("pageIndex");
-    QTest::addColumn<int>("fileIndex");
-    QTest::addColumn<QString>("fault");
-    for (int index = 0; index < int(pages().size()); ++index) {
-        const Page& page = pages()[index];
-        for (int number = 0; number < int(page.files.size()); ++number) {
-            const PageFile& file = page.files[number];
-            if (file.getText.isEmpty())
-                continue;
-            for (const QString& fault : ("fetch-fails " + file.unreadable).split(' ', Qt::SkipEmptyParts))
-                QTest::addRow("%s: %s, %s", page.name, file.path, qPrintable(fault))
-                    << index << number << fault;
+    void loadFaults_data()
+    {
+        const Rows<int, int, QString> row;
+        for (int index = 0; index < int(pages().size()); ++index) {
+            const Page& page = pages()[index];
+            for (int number = 0; number < int(page.files.size()); ++number) {
+                const PageFile& file = page.files[number];
+                if (file.getText.isEmpty())
+                    continue;
+                for (const QString& fault : ("fetch-fails " + file.unreadable).split(' ', Qt::SkipEmptyParts))
+                    row(QStringLiteral("%1: %2, %3").arg(page.name, file.path, fault), index, number, fault);
+            }
         }
     }
-}
 
-void TestEveryPage::loadFaults()
-{
-    QFETCH(int, pageIndex);
-    QFETCH(int, fileIndex);
-    QFETCH(QString, fault);
-    const Page& page = pages()[pageIndex];
-    const PageFile& file = page.files[fileIndex];
-    AnyPage pendant(page);
-    QVERIFY(pendant.openUpTo());
-    const QByteArray sound = pendant.controllerFile(file.path);
-    if (fault == "too-long")
-        QVERIFY(pendant.put(file.path, QByteArray(TooLongBytes, 'x')));
-    else
-        QVERIFY(pendant.controller().faults().setFromText(fault + ":-1:" + file.path));
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    QVERIFY(pendant.show());
-    QCOMPARE(pendant.messages(), QStringList(fault == "fetch-fails" ? file.getText : file.readText));
-    QCOMPARE(MsgBoxScript::shown().constLast().kind, page.kind);
-    QCOMPARE(pendant.controller().traffic().stores(), QStringList());
-    QVERIFY(!page.announced || pendant.writesOf(page.announced).isEmpty());
+    void loadFaults()
+    {
+        const auto [index, fileIndex, fault] = Rows<int, int, QString>::current();
+        const PageFile& file = page().files[fileIndex];
+        QVERIFY(openUpTo());
+        const QByteArray sound = controllerFile(file.path);
+        if (fault == "too-long")
+            QVERIFY(put(file.path, QByteArray(TooLongBytes, 'x')));
+        else
+            QVERIFY(fail(fault + ":-1:" + file.path));
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+        QVERIFY(show());
+        QCOMPARE(messages(), QStringList(fault == "fetch-fails" ? file.getText : file.readText));
+        QCOMPARE(MsgBoxScript::shown().constLast().kind, page().kind);
+        QCOMPARE(traffic().stores(), QStringList());
+        QVERIFY(!page().announced || writesOf(page().announced).isEmpty());
 
-    // The page is usable: with the cause gone a save goes through, but for one that would send what is no
-    // file.
-    pendant.controller().faults().clearAll();
-    QVERIFY(pendant.put(file.path, sound));
-    pendant.change(); // of a table that could not be loaded there is nothing to change
-    PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second});
-    QVERIFY(pendant.save());
-    QTRY_COMPARE(pendant.messages().constLast(), page.needsItsCopy ? file.writeText : page.saved);
-    QCOMPARE(pendant.controller().traffic().stores().contains(file.path), !page.needsItsCopy);
-}
+        // The page is usable: with the cause gone a save goes through, but for one that would send what is no
+        // file.
+        controller().faults().clearAll();
+        QVERIFY(put(file.path, sound));
+        change(); // of a table that could not be loaded there is nothing to change
+        answer({MsgBox::Confirmed, MsgBox::Second});
+        QVERIFY(save());
+        QTRY_COMPARE(messages().constLast(), page().needsItsCopy ? file.writeText : page().saved);
+        QCOMPARE(traffic().stores().contains(file.path), !page().needsItsCopy);
+    }
 
-// One fault after the other on the same page; each time a save goes through once the cause is gone.
-void TestEveryPage::saveFaults()
-{
-    QFETCH(int, pageIndex);
-    const Page& page = pages()[pageIndex];
-    AnyPage pendant(page);
-    QVERIFY(pendant.openUpTo());
-    QVERIFY(pendant.show());
-    QStringList sent; // what comes before a file in a save
-    for (const PageFile& file : page.files) {
-        const QString local = "../Application/fieldbusSetting/" + file.local;
+    void whatStopsASave_data() { eachPage(); }
+
+    // One after the other on the same page, with the same change on it.
+    void whatStopsASave()
+    {
         const struct
         {
-            const char* fault; // "folder": in the place of the pendant's own file, which cannot replace it
-            bool canBe;
-            QString text;
-        } cases[] = {{"send-fails", true, file.sendText},
-                     {"fetch-fails", file.isTemplate, file.writeText},
-                     {"folder", !file.writeText.isEmpty(), file.writeText}};
+            void (SimulatedController::*set)(bool);
+            bool value;
+            QStringList messages;
+            int answer;
+        } cases[] = {
+            {&SimulatedController::setRobotRunning, true, page().whileRunning, MsgBox::Confirmed},
+            {&SimulatedController::setServoOn, true, page().withServoOn, MsgBox::Confirmed},
+            {&SimulatedController::setRestartAllowed, false, page().withoutRestart, MsgBox::Confirmed},
+            {nullptr, false, {page().question}, MsgBox::Dismissed},
+            {nullptr, false, {page().question}, MsgBox::Second}};
+        QVERIFY(openUpTo());
+        QVERIFY(show());
+        const QStringList before = entries();
+        QVERIFY(change());
+        const QStringList changed = entries();
+        QCOMPARE(changed.size(), before.size());
+        traffic().clear();
         for (const auto& row : cases) {
-            if (!row.canBe)
+            if (row.messages == GoesOn)
                 continue;
-            const QByteArray name = QByteArray(file.path) + " " + row.fault;
-            const bool isUnsent = row.fault == QLatin1String("send-fails");
-            const bool isInTheWay = row.fault == QLatin1String("folder");
-            const QByteArray before = pendant.controllerFile(file.path);
-            QVERIFY2(pendant.change(), name);
-            if (isInTheWay)
-                QVERIFY(QFile::remove(local) && QDir().mkdir(local));
-            else
-                QVERIFY(pendant.controller().faults().setFromText(QString(row.fault) + ":-1:" + file.path));
-            Traffic& traffic = pendant.controller().traffic();
-            traffic.clear();
-            int shown = pendant.messages().size();
-            MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-            QVERIFY2(pendant.save(), name);
-            QTRY_COMPARE(pendant.messages().mid(shown),
-                         QStringList(page.question) + file.between + QStringList(row.text));
-            QVERIFY(pendant.settle());
-            QCOMPARE(MsgBoxScript::shown().constLast().kind, page.kind);
-            QVERIFY2(pendant.controllerFile(file.path) == before, name);
-            QCOMPARE(traffic.stores(), isUnsent ? sent + QStringList(file.path) : sent);
-            if (page.announced)
-                QCOMPARE(!pendant.writesOf(page.announced).isEmpty(), isUnsent && page.announcesUnsent);
-            QCOMPARE(traffic.restartRequests(), 0);
-
-            pendant.controller().faults().clearAll();
-            QVERIFY(!isInTheWay || QDir().rmdir(local));
-            const bool isLost = isInTheWay && page.needsItsCopy;
-            shown = pendant.messages().size();
-            PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second});
-            QVERIFY2(pendant.save(), name);
-            QTRY_VERIFY2(pendant.messages().mid(shown).contains(isLost ? file.writeText : page.saved), name);
-            QVERIFY(pendant.settle());
-            QVERIFY2((withoutDate(pendant.controllerFile(file.path)) == withoutDate(before)) == isLost, name);
+            if (row.set)
+                (controller().*row.set)(row.value);
+            MsgBoxScript::clear();
+            MsgBoxScript::answerByDefault(row.answer);
+            QVERIFY(save() && settle());
+            QCOMPARE(messages(), row.messages);
+            QCOMPARE(traffic().stores() + traffic().fetches(), QStringList());
+            QVERIFY(!page().announced || writesOf(page().announced).isEmpty());
+            const bool isDropped = row.answer == MsgBox::Second && page().noDropsEdits;
+            const QStringList shown = entries();
+            for (int i = 0; i < changed.size(); ++i) {
+                if (changed[i] != before[i])
+                    QCOMPARE(shown[i], isDropped ? before[i] : changed[i]);
+            }
+            if (row.set)
+                (controller().*row.set)(!row.value);
         }
-        sent << file.path;
-    }
-}
-
-// The application goes away under a slot that waits; nothing may be touched afterwards.
-void TestEveryPage::userLevelDrops()
-{
-    QFETCH(int, pageIndex);
-    const Page& page = pages()[pageIndex];
-    const PageFile& first = page.files.front();
-    const PageFile& last = page.files.back();
-    const struct
-    {
-        QString fault;
-        QString box; // in which it drops; none: while the file is fetched again and again
-        bool whileLoading;
-    } cases[] = {{"fetch-fails", {}, true},
-                 {"fetch-fails", first.getText, true},
-                 {QStringLiteral("send-fails:-1:") + last.path, last.sendText, false},
-                 {{}, page.question, false},
-                 {{}, page.saved, false}};
-    AnyPage pendant(page);
-    QVERIFY(pendant.openUpTo());
-    Traffic& traffic = pendant.controller().traffic();
-    for (const auto& row : cases) {
-        if (row.whileLoading && first.getText.isEmpty())
-            continue;
-        const QByteArray name = row.fault.toUtf8() + " " + row.box.toUtf8();
-        const QByteArray before = pendant.controllerFile(last.path);
-        QObject context;
-        int dropped = 0;
-        const auto drop = [&dropped] {
-            if (++dropped == 1)
-                PendantFixture::dropUserLevel();
-        };
-        if (row.box.isEmpty()) {
-            QObject::connect(&traffic, &Traffic::logged, &context, [&] {
-                if (traffic.failed(Traffic::Fetch) == 2)
-                    QTimer::singleShot(0, &context, drop);
-            });
+        // Together, what it does not look at.
+        for (const auto& row : cases) {
+            if (row.messages == GoesOn)
+                (controller().*row.set)(row.value);
         }
-        MsgBoxScript::onShown([&](const MsgBox* shown) {
-            if (shown->text() == row.box)
-                drop();
-        });
+        MsgBoxScript::clear();
+        answer({MsgBox::Confirmed, MsgBox::Second});
         MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-        const auto strike = [&] {
-            return row.fault.isEmpty() || pendant.controller().faults().setFromText(row.fault);
-        };
-        QVERIFY(!row.whileLoading || strike());
-        pendant.show();
-        if (!row.whileLoading) {
-            QVERIFY2(pendant.change(), name);
-            QVERIFY(strike());
-            if (row.box == page.saved && page.saved != Restart)
-                PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second}); // of an offered restart
-            QVERIFY2(pendant.save(), name);
-        }
-        QTRY_VERIFY2(dropped == 1, name);
-        QVERIFY2(pendant.reopensAfterDrop(), name);
-        if (row.box != page.saved)
-            QVERIFY2(pendant.controllerFile(last.path) == before, name);
-        QVERIFY(pendant.isPrepared());
+        QVERIFY(change());
+        QVERIFY(save());
+        QTRY_VERIFY(messages().contains(page().saved));
+        QVERIFY(settle());
+        QVERIFY(traffic().stores().contains(page().files.back().path));
+        QCOMPARE(traffic().restartRequests(), 0);
     }
-    QVERIFY(pendant.show());
-    QVERIFY(pendant.change());
-}
 
-void TestEveryPage::tickWithoutChangeCostsNothing_data()
-{
-    eachPage();
-    for (int index = 0; index < int(withoutFile().size()); ++index)
-        QTest::newRow(withoutFile()[index].name) << int(pages().size()) + index;
-}
+    void lightFollowsItsBit_data()
+    {
+        const Rows<int> row;
+        for (int index = 0; index < int(pages().size()); ++index) {
+            if (pages()[index].linkBit)
+                row(pages()[index].name, index);
+        }
+    }
 
-void TestEveryPage::tickWithoutChangeCostsNothing()
-{
-    QFETCH(int, pageIndex);
-    const int count = int(pages().size());
-    const Page& page = pageIndex < count ? pages()[pageIndex] : withoutFile()[pageIndex - count];
-    AnyPage pendant(page);
-    QVERIFY(pendant.openUpTo());
-    QVERIFY(pendant.show());
-    // Once what the page found has settled.
-    TickCost cost;
-    const bool isFree = QTest::qWaitFor(
-        [&] {
-            cost = TickCost::of(pendant);
-            return cost.styleChanges == 0 && cost.paints == 0 &&
-                   (page.allocatesInATick || cost.allocations == 0);
-        },
-        3000);
-    QVERIFY2(isFree, qPrintable(QStringLiteral("%1 allocations, %2 style changes, %3 paints")
-                                    .arg(cost.allocations)
-                                    .arg(cost.styleChanges)
-                                    .arg(cost.paints)));
-}
+    void lightFollowsItsBit()
+    {
+        QVERIFY(openUpTo());
+        QVERIFY(show());
+        const QWidget* light = findOn(page().widget, "led_status");
+        for (const int value :
+             {page().linkBit, 0, page().linkBit | 1, ~page().linkBit, -1, page().linkBit - 1}) {
+            set("ifidbus.commun_state", value);
+            QTRY_COMPARE(light->isEnabled(), (value & page().linkBit) != 0);
+        }
+    }
+
+    void saveFaults_data() { eachPage(); }
+    // One fault after the other on the same page; each time a save goes through once the cause is gone.
+    void saveFaults()
+    {
+        QVERIFY(openUpTo());
+        QVERIFY(show());
+        QStringList sent; // what comes before a file in a save
+        for (const PageFile& file : page().files) {
+            const QString local = "../Application/fieldbusSetting/" + file.local;
+            const struct
+            {
+                const char*
+                    fault; // "folder": in the place of the pendant's own file, which cannot replace it
+                bool canBe;
+                QString text;
+            } cases[] = {{"send-fails", true, file.sendText},
+                         {"fetch-fails", file.isTemplate, file.writeText},
+                         {"folder", !file.writeText.isEmpty(), file.writeText}};
+            for (const auto& row : cases) {
+                if (!row.canBe)
+                    continue;
+                const QByteArray name = QByteArray(file.path) + " " + row.fault;
+                const bool isUnsent = row.fault == QLatin1String("send-fails");
+                const bool isInTheWay = row.fault == QLatin1String("folder");
+                const QByteArray before = controllerFile(file.path);
+                QVERIFY2(change(), name);
+                if (isInTheWay)
+                    QVERIFY(QFile::remove(local) && QDir().mkdir(local));
+                else
+                    QVERIFY(fail(QString(row.fault) + ":-1:" + file.path));
+                traffic().clear();
+                int shown = messages().size();
+                MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+                QVERIFY2(save(), name);
+                QTRY_COMPARE(messages().mid(shown),
+                             QStringList(page().question) + file.between + QStringList(row.text));
+                QVERIFY(settle());
+                QCOMPARE(MsgBoxScript::shown().constLast().kind, page().kind);
+                QVERIFY2(controllerFile(file.path) == before, name);
+                QCOMPARE(traffic().stores(), isUnsent ? sent + QStringList(file.path) : sent);
+                if (page().announced)
+                    QCOMPARE(!writesOf(page().announced).isEmpty(), isUnsent && page().announcesUnsent);
+                QCOMPARE(traffic().restartRequests(), 0);
+
+                controller().faults().clearAll();
+                QVERIFY(!isInTheWay || QDir().rmdir(local));
+                const bool isLost = isInTheWay && page().needsItsCopy;
+                shown = messages().size();
+                answer({MsgBox::Confirmed, MsgBox::Second});
+                QVERIFY2(save(), name);
+                QTRY_VERIFY2(messages().mid(shown).contains(isLost ? file.writeText : page().saved), name);
+                QVERIFY(settle());
+                QVERIFY2((withoutDate(controllerFile(file.path)) == withoutDate(before)) == isLost, name);
+            }
+            sent << file.path;
+        }
+    }
+
+    void userLevelDrops_data() { eachPage(); }
+    // The application goes away under a slot that waits; nothing may be touched afterwards.
+    void userLevelDrops()
+    {
+        const PageFile& first = page().files.front();
+        const PageFile& last = page().files.back();
+        const struct
+        {
+            QString fault;
+            QString box; // in which it drops; none: while the file is fetched again and again
+            bool whileLoading;
+        } cases[] = {{"fetch-fails", {}, true},
+                     {"fetch-fails", first.getText, true},
+                     {QStringLiteral("send-fails:-1:") + last.path, last.sendText, false},
+                     {{}, page().question, false},
+                     {{}, page().saved, false}};
+        QVERIFY(openUpTo());
+        for (const auto& row : cases) {
+            if (row.whileLoading && first.getText.isEmpty())
+                continue;
+            const QByteArray name = row.fault.toUtf8() + " " + row.box.toUtf8();
+            const QByteArray before = controllerFile(last.path);
+            QObject context;
+            int dropped = 0;
+            const auto drop = [&dropped] {
+                if (++dropped == 1)
+                    dropUserLevel();
+            };
+            if (row.box.isEmpty()) {
+                QObject::connect(&traffic(), &Traffic::logged, &context, [&] {
+                    if (traffic().failed(Traffic::Fetch) == 2)
+                        QTimer::singleShot(0, &context, drop);
+                });
+            }
+            MsgBoxScript::onShown([&](const MsgBox* shown) {
+                if (shown->text() == row.box)
+                    drop();
+            });
+            MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+            const auto strike = [&] { return row.fault.isEmpty() || fail(row.fault); };
+            QVERIFY(!row.whileLoading || strike());
+            show();
+            if (!row.whileLoading) {
+                QVERIFY2(change(), name);
+                QVERIFY(strike());
+                if (row.box == page().saved && page().saved != Restart)
+                    answer({MsgBox::Confirmed, MsgBox::Second}); // of an offered restart
+                QVERIFY2(save(), name);
+            }
+            QTRY_VERIFY2(dropped == 1, name);
+            QVERIFY2(reopensAfterDrop(), name);
+            if (row.box != page().saved)
+                QVERIFY2(controllerFile(last.path) == before, name);
+            QVERIFY(isPrepared());
+        }
+        QVERIFY(show());
+        QVERIFY(change());
+    }
+
+    void tickWithoutChangeCostsNothing_data()
+    {
+        const Rows<int> row = eachPage();
+        for (const Page& page : withoutFile())
+            row(page.name, int(pages().size() + (&page - withoutFile().data())));
+    }
+
+    void tickWithoutChangeCostsNothing()
+    {
+        QVERIFY(openUpTo());
+        QVERIFY(show());
+        // Once what the page found has settled.
+        TickCost cost;
+        const bool isFree = QTest::qWaitFor(
+            [&] {
+                cost = TickCost::of(*this);
+                return cost.styleChanges == 0 && cost.paints == 0 &&
+                       (page().allocatesInATick || cost.allocations == 0);
+            },
+            3000);
+        QVERIFY2(isFree, qPrintable(QStringLiteral("%1 allocations, %2 style changes, %3 paints")
+                                        .arg(cost.allocations)
+                                        .arg(cost.styleChanges)
+                                        .arg(cost.paints)));
+    }
+
+private:
+    static Rows<int> eachPage()
+    {
+        const Rows<int> row;
+        for (const Page& page : pages())
+            row(page.name, int(&page - pages().data()));
+        return row;
+    }
+};
 
 PENDANT_TEST_MAIN(TestEveryPage)
 #include "tst_everypage.moc"

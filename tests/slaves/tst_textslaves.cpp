@@ -1,7 +1,7 @@
 #include "BusFileDataManager.h"
 #include "Faults.h"
 #include "NetPortsFile.h"
-#include "PendantFixture.h"
+#include "PageTest.h"
 #include "PendantPower.h"
 #include "QTouchLineEdit.h"
 #include "Texts.h"
@@ -78,360 +78,286 @@ constexpr Holder Holders[] = {
 
 } // namespace
 
-Q_DECLARE_METATYPE(Twin)
-
-class TestTextSlaves : public QObject
+class TestTextSlaves : public PageTest
 {
     Q_OBJECT
 
+public:
+    using PageTest::PageTest;
+
 private slots:
-    void saves_data();
-    void saves();
-    void profinetFields_data();
-    void profinetFields();
-    void ports_data();
-    void ports();
-    void portIsChosen();
-    void portsLostAfterLoading();
-    void portsWithoutAddress();
-    void profisafeOwnsTheModule();
-    void lights();
-    void performance_data();
-    void performance();
-    void performanceMoves();
-    void performanceTakenBack();
-};
-
-void TestTextSlaves::saves_data()
-{
-    QTest::addColumn<Twin>("twin");
-    QTest::addColumn<bool>("isFree");
-    QTest::addColumn<QVector<int>>("answers");
-    for (const Twin& twin : Twins) {
-        const auto row = [&twin](const char* what, bool isFree, const QVector<int>& answers) {
-            QTest::addRow("%s, %s", twin.name, what) << twin << isFree << answers;
-        };
-        row("free, restarted", true, {MsgBox::Confirmed, MsgBox::Confirmed});
-        row("fixed, restart put off", false, {MsgBox::Confirmed, MsgBox::Second});
-        row("not confirmed", true, {MsgBox::Second});
-    }
-}
-
-void TestTextSlaves::saves()
-{
-    QFETCH(Twin, twin);
-    QFETCH(bool, isFree);
-    QFETCH(QVector<int>, answers);
-    const bool saved = answers[0] == MsgBox::Confirmed;
-    const bool restarted = saved && answers[1] == MsgBox::Confirmed;
-    PendantFixture pendant;
-    QVERIFY(putFiles(pendant, twin));
-    QVERIFY(pendant.controller().setRoleOn("FreeBus", isFree));
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.openPage(twin.button));
-    auto* endian = pendant.findOn<QComboBox>(twin.page, "cbb_largeSmall");
-    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, twin.address)->text(), QString(twin.shownAddress));
-    QCOMPARE(endian->currentIndex(), 0);
-
-    endian->setCurrentIndex(3);
-    pendant.controller().setRestartAllowed(false); // asked for all the same
-    pendant.controller().traffic().clear();
-    const int pendantRestarts = PendantPower::instance().restartRequests();
-    for (const int answer : answers)
-        PendantFixture::answer({answer});
-    QVERIFY(pendant.pressOn(twin.page, twin.save));
-
-    const QString variant = variantPath(twin, isFree);
-    const Traffic& traffic = pendant.controller().traffic();
-    QCOMPARE(pendant.messages(), saved ? QStringList({Sure, Restart}) : QStringList(Sure));
-    QCOMPARE(traffic.stores(), saved ? QStringList({twin.driver, variant}) : QStringList());
-    QCOMPARE(pendant.controllerFile(twin.driver), saved ? twin.savedFile : twin.driverFile);
-    QCOMPARE(pendant.controllerFile(variant), saved ? SavedVariant : VariantFile);
-    QCOMPARE(pendant.controllerFile(variantPath(twin, !isFree)), VariantFile);
-    QCOMPARE(traffic.restartRequests(), restarted ? 1 : 0);
-    QCOMPARE(PendantPower::instance().restartRequests() - pendantRestarts, restarted ? 1 : 0);
-}
-
-void TestTextSlaves::profinetFields_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<int>("alarm");
-    QTest::addColumn<int>("endian");
-    QTest::newRow("alarm off") << QByteArray("RUN_ALWAYS\nMIDDLE_LITTLE_ENDIAN\nPROFIBUS_ADDRESS 0\n"
-                                             "DISABLE_COM_ALARM\n")
-                               << "0" << 0 << 1;
-    QTest::newRow("byte order below both lines keeps the default")
-        << QByteArray("PROFIBUS_ADDRESS 125\n;DISABLE_COM_ALARM\nLITTLE_ENDIAN\n") << "125" << 1 << 2;
-    QTest::newRow("nothing of its own") << QByteArray("; nothing\n") << "1" << 0 << 2;
-}
-
-void TestTextSlaves::profinetFields()
-{
-    QFETCH(QByteArray, file);
-    const QString page = Twins[0].page;
-    PendantFixture pendant;
-    QVERIFY(pendant.put(Twins[0].driver, file));
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.openPage(Twins[0].button));
-    auto* address = pendant.findOn<QTouchLineEdit>(page, "pfbAddressLE");
-    auto* alarm = pendant.findOn<QComboBox>(page, "pfbAlarmSwitchCB");
-    QTEST(address->text(), "address");
-    QTEST(alarm->currentIndex(), "alarm");
-    QTEST(pendant.findOn<QComboBox>(page, "cbb_largeSmall")->currentIndex(), "endian");
-
-    // The keyboard lets 0 to 125 through.
-    QVERIFY(pendant.enter("pfbAddressLE", "126"));
-    QTEST(address->text(), "address");
-    QVERIFY(!NumericKeyboardScript::refusals().isEmpty());
-    QVERIFY(pendant.enter("pfbAddressLE", "124"));
-    alarm->setCurrentIndex(1 - alarm->currentIndex());
-    const QByteArray written =
-        alarm->currentIndex() == 0 ? "\nDISABLE_COM_ALARM\n" : "\n;DISABLE_COM_ALARM\n";
-    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    QVERIFY(pendant.pressOn(page, "saveBt"));
-    const QByteArray saved = pendant.controllerFile(Twins[0].driver);
-    QCOMPARE(saved.contains("PROFIBUS_ADDRESS 124    \t;"), file.contains("PROFIBUS_ADDRESS"));
-    QCOMPARE(saved.contains(written), file.contains("DISABLE_COM_ALARM"));
-}
-
-void TestTextSlaves::ports_data()
-{
-    QTest::addColumn<QByteArray>("address");
-    QTest::addColumn<QString>("eth2");
-    QTest::addColumn<QString>("eth3");
-    QTest::addColumn<int>("port");
-    QTest::addColumn<QString>("hidden"); // the entries, by number
-    const auto row = [](const char* name, const char* address, const char* eth2, const char* eth3, int port,
-                        const char* hidden) {
-        QTest::newRow(name) << QByteArray(address) << eth2 << eth3 << port << hidden;
-    };
-    row("ETH2", "10.0.0.2", "10.0.0.2", "10.0.0.3", 0, "");
-    row("ETH3", "10.0.0.3", "10.0.0.2", "10.0.0.3", 1, "");
-    row("both ports alike: the first", "10.0.0.2", "10.0.0.2", "10.0.0.2", 0, "");
-    row("a part of an address", "10.0.0.", "10.0.0.2", "10.0.0.3", 2, "");
-    row("a comment behind it", "10.0.0.2 ;x", "10.0.0.2", "10.0.0.3", 2, "");
-    row("a tab around it", "\t10.0.0.2", "10.0.0.2", "10.0.0.3", 0, "");
-    row("no address", "", "10.0.0.2", "10.0.0.3", 2, "");
-    row("no address, and ports without one", "", "", "", 2, "01");
-    row("ETH2 emptied", "10.0.0.3", "", "10.0.0.3", 1, "0");
-    row("ETH3 is no address", "10.0.0.3", "10.0.0.2", "dhcp", 2, "1");
-}
-
-void TestTextSlaves::ports()
-{
-    QFETCH(QByteArray, address);
-    QFETCH(QString, eth2);
-    QFETCH(QString, eth3);
-    QFETCH(int, port);
-    QFETCH(QString, hidden);
-    const QString page = Twins[1].page;
-    PendantFixture pendant;
-    FileStore& files = pendant.controller().files();
-    QVERIFY(files.write(Twins[1].driver, "IPADDR " + address + "\nNETMASK 255.0.0.0\n"));
-    QVERIFY(writeNetPort(files, "ETH2", {eth2, "255.255.255.2"}));
-    QVERIFY(writeNetPort(files, "ETH3", {eth3, "255.255.255.3"}));
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.openPage(Twins[1].button));
-
-    auto* ports = pendant.findOn<QComboBox>(page, "localPortIpCB");
-    auto* ip = pendant.findOn<QLineEdit>(page, "IP_Edit");
-    auto* netmask = pendant.findOn<QLineEdit>(page, "netmaskEdit");
-    const auto* banner = pendant.findOn<QLabel>(page, "info_label");
-    QCOMPARE(ports->currentIndex(), port);
-    QCOMPARE(banner->isVisible(), port == 2);
-    // The page shows the port's netmask, whatever the file has.
-    QCOMPARE(ip->text(), QStringList({eth2, eth3, ""})[port]);
-    QCOMPARE(netmask->text(), QStringList({"255.255.255.2", "255.255.255.3", ""})[port]);
-    if (port == 2) {
-        QVERIFY(banner->height() >= banner->heightForWidth(banner->width()));
-        QVERIFY(banner->geometry().right() <= banner->parentWidget()->width());
-    }
-    const auto* list = qobject_cast<QListView*>(ports->view());
-    for (int index = 0; index < ports->count(); ++index) {
-        const bool isHidden = hidden.contains(QString::number(index));
-        QCOMPARE(list->isRowHidden(index), isHidden);
-        QCOMPARE(ports->model()->flags(ports->model()->index(index, 0)).testFlag(Qt::ItemIsEnabled),
-                 !isHidden);
-    }
-    QCOMPARE(pendant.messages(), QStringList());
-}
-
-// What is chosen is written, "No adapter" as an empty address, and nothing more is asked for it.
-void TestTextSlaves::portIsChosen()
-{
-    const Twin& twin = Twins[1];
-    PendantFixture pendant;
-    QVERIFY(putFiles(pendant, twin));
-    QVERIFY(writeNetPort(pendant.controller().files(), "ETH3", {"10.0.0.3", "255.255.0.0"}));
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.openPage(twin.button));
-    const struct
+    void saves_data()
     {
-        int port;
-        QByteArray lines;
-    } choices[] = {{1, "IPADDR 10.0.0.3\nNETMASK 255.255.0.0\n"}, {2, "IPADDR \nNETMASK \n"}};
-    for (const auto& choice : choices) {
-        pendant.findOn<QComboBox>(twin.page, "localPortIpCB")->setCurrentIndex(choice.port);
-        PendantFixture::answer({MsgBox::Confirmed, MsgBox::Second});
-        QVERIFY(pendant.pressOn(twin.page, twin.save));
-        QVERIFY(pendant.controllerFile(twin.driver).contains(choice.lines));
-    }
-    QCOMPARE(pendant.messages(), QStringList({Sure, Restart, Sure, Restart}));
-}
-
-void TestTextSlaves::portsLostAfterLoading()
-{
-    const Twin& twin = Twins[1];
-    PendantFixture pendant;
-    QVERIFY(putFiles(pendant, twin));
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.openPage(twin.button));
-    auto* ports = pendant.findOn<QComboBox>(twin.page, "localPortIpCB");
-    const QString address = pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text();
-    const int used = ports->currentIndex();
-    QVERIFY(used < 2 && !address.isEmpty());
-    ports->setCurrentIndex(2);
-    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
-    ports->setCurrentIndex(used);
-    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), address);
-    QVERIFY(!pendant.findOn(twin.page, "info_label")->isVisible());
-    // The address of a port that has none any more is not the port's.
-    pendant.controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
-    ports->setCurrentIndex(2);
-    ports->setCurrentIndex(used);
-    QCOMPARE(ports->currentIndex(), 2);
-    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
-    QVERIFY(pendant.findOn(twin.page, "info_label")->isVisible());
-}
-
-void TestTextSlaves::portsWithoutAddress()
-{
-    const Twin& twin = Twins[1];
-    PendantFixture pendant;
-    QVERIFY(putFiles(pendant, twin));
-    QVERIFY(pendant.open());
-    pendant.controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
-    QVERIFY(pendant.openPage(twin.button));
-    auto* ports = pendant.findOn<QComboBox>(twin.page, "localPortIpCB");
-    QCOMPARE(ports->currentIndex(), 2);
-    QVERIFY(pendant.findOn(twin.page, "info_label")->isVisible());
-    // Neither a key nor the wheel reaches a port that is not offered.
-    QTest::keyClick(ports, Qt::Key_Up);
-    QTest::keyClick(ports, Qt::Key_Home);
-    QCOMPARE(ports->currentIndex(), 2);
-    QCOMPARE(pendant.findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
-}
-
-void TestTextSlaves::profisafeOwnsTheModule()
-{
-    const Twin& twin = Twins[0];
-    PendantFixture pendant;
-    pendant.controller().variables().set("io_man.profisafe_status", 1.0);
-    pendant.controller().variables().set(Word, 8.0);
-    QVERIFY(pendant.open());
-    pendant.controller().traffic().clear();
-    QVERIFY(pendant.openPage(twin.button));
-    QVERIFY(!pendant.findOn(twin.page, "groupBox_set")->isVisible());
-    QVERIFY(!pendant.findOn(twin.page, twin.save)->isVisible());
-    QCOMPARE(pendant.controller().traffic().fetches(), QStringList());
-    QVERIFY(pendant.findOn<QCheckBox>(twin.page, "cBox")->isChecked());
-    QTRY_VERIFY(pendant.findOn(twin.page, "led_status")->isEnabled());
-}
-
-void TestTextSlaves::lights()
-{
-    PendantFixture pendant;
-    const QString state = QStringLiteral("ifidbus.commun_state");
-    QVERIFY(pendant.open());
-    for (const Twin& twin : Twins) {
-        const int bit = &twin == Twins ? 8 : 4;
-        QVERIFY(pendant.openPage(twin.button));
-        const auto* light = pendant.findOn<QLabel>(twin.page, "led_status");
-        for (const int value : {bit, 0, bit | 1, 255 - bit, -1, bit - 1}) {
-            pendant.controller().variables().set(state, value);
-            QTRY_COMPARE(light->isEnabled(), (value & bit) != 0);
+        const Rows<int, bool, QVector<int>> row;
+        for (int twin : {0, 1}) {
+            row(Twins[twin].name + QString(", free, restarted"), twin, true,
+                {MsgBox::Confirmed, MsgBox::Confirmed});
+            row(Twins[twin].name + QString(", fixed, restart put off"), twin, false,
+                {MsgBox::Confirmed, MsgBox::Second});
+            row(Twins[twin].name + QString(", not confirmed"), twin, true, {MsgBox::Second});
         }
     }
-}
 
-void TestTextSlaves::performance_data()
-{
-    QTest::addColumn<int>("holder");
-    QTest::addColumn<QString>("roleOff");
-    QTest::addColumn<int>("before");
-    QTest::addColumn<bool>("shown");
-    QTest::addColumn<int>("after"); // the box was pressed
-    QTest::newRow("Modbus TCP takes it") << 0 << "" << 2 << false << 1;
-    QTest::newRow("EtherNet/IP gives it back") << 1 << "" << 4 << true << 0;
-    QTest::newRow("PROFINET is off") << 2 << "ProfinetSlave" << 4 << false << 4;
-}
+    void saves()
+    {
+        const auto [index, isFree, answers] = Rows<int, bool, QVector<int>>::current();
+        const Twin& twin = Twins[index];
+        const bool saved = answers[0] == MsgBox::Confirmed;
+        const bool restarted = saved && answers[1] == MsgBox::Confirmed;
+        QVERIFY(putFiles(*this, twin));
+        QVERIFY(controller().setRoleOn("FreeBus", isFree));
+        QVERIFY(openTwin(twin));
+        auto* endian = findOn<QComboBox>(twin.page, "cbb_largeSmall");
+        QCOMPARE(findOn<QLineEdit>(twin.page, twin.address)->text(), QString(twin.shownAddress));
+        QCOMPARE(endian->currentIndex(), 0);
 
-void TestTextSlaves::performance()
-{
-    QFETCH(int, holder);
-    QFETCH(QString, roleOff);
-    QFETCH(int, before);
-    QFETCH(bool, shown);
-    QFETCH(int, after);
-    const Holder& role = Holders[holder];
-    PendantFixture pendant;
-    pendant.controller().variables().set(Word, before);
-    if (!roleOff.isEmpty())
-        QVERIFY(pendant.controller().setRoleOn(roleOff, false));
-    QVERIFY(pendant.open());
-    // A page whose role is off has no button; it may have been open when the role went.
-    QVERIFY(roleOff.isEmpty() ? pendant.openPage(role.button) : pendant.selectPage(role.bus == 2 ? 4 : 1));
-    const auto* box = pendant.findOn<QCheckBox>(role.page, "cBox");
-    QCOMPARE(box->isChecked(), shown);
-    QVERIFY(pendant.pressOn(role.page, "cBox"));
-    QCOMPARE(int(pendant.variable(Word)), after);
-    QCOMPARE(box->isChecked(), (after & (1 << role.bus)) != 0);
-    QCOMPARE(pendant.messages(), QStringList());
-}
+        endian->setCurrentIndex(3);
+        controller().setRestartAllowed(false); // asked for all the same
+        traffic().clear();
+        const int pendantRestarts = PendantPower::instance().restartRequests();
+        for (const int result : answers)
+            answer({result});
+        QVERIFY(pressOn(twin.page, twin.save));
 
-// Whoever takes it, the one that had it shows so when its page comes back, and only then.
-void TestTextSlaves::performanceMoves()
-{
-    PendantFixture pendant;
-    QVERIFY(pendant.open());
-    const auto box = [&pendant](const Holder& holder) {
-        return pendant.findOn<QCheckBox>(holder.page, "cBox");
-    };
-    for (std::size_t round = 0; round < std::size(Holders); ++round) {
-        const Holder& loser = Holders[round];
-        const Holder& winner = Holders[(round + 1) % std::size(Holders)];
-        QVERIFY(pendant.openPage(loser.button));
-        QVERIFY(pendant.pressOn(loser.page, "cBox"));
-        QVERIFY(pendant.openPage(winner.button));
-        QVERIFY(pendant.pressOn(winner.page, "cBox"));
-        QCOMPARE(int(pendant.variable(Word)), 1 << winner.bus);
-        QVERIFY(box(loser)->isChecked());
-        QVERIFY(pendant.openPage(loser.button));
-        QVERIFY(!box(loser)->isChecked());
-        QCOMPARE(g_lastBusType, -1);
-        QVERIFY(pendant.openPage(winner.button));
-        QVERIFY(box(winner)->isChecked());
-        QVERIFY(pendant.pressOn(winner.page, "cBox"));
-        QCOMPARE(int(pendant.variable(Word)), 0);
+        const QString variant = variantPath(twin, isFree);
+        QCOMPARE(messages(), saved ? QStringList({Sure, Restart}) : QStringList(Sure));
+        QCOMPARE(traffic().stores(), saved ? QStringList({twin.driver, variant}) : QStringList());
+        QCOMPARE(controllerFile(twin.driver), saved ? twin.savedFile : twin.driverFile);
+        QCOMPARE(controllerFile(variant), saved ? SavedVariant : VariantFile);
+        QCOMPARE(controllerFile(variantPath(twin, !isFree)), VariantFile);
+        QCOMPARE(traffic().restartRequests(), restarted ? 1 : 0);
+        QCOMPARE(PendantPower::instance().restartRequests() - pendantRestarts, restarted ? 1 : 0);
     }
-}
 
-// It lost the performance before it had a page, and has it again: that is no reason to untick it.
-void TestTextSlaves::performanceTakenBack()
-{
-    PendantFixture pendant;
-    pendant.controller().variables().set(Word, 1.0);
-    QVERIFY(pendant.open());
-    QVERIFY(pendant.openPage("etherNetBtn"));
-    QVERIFY(pendant.pressOn("EtherNetSettingWidget", "cBox"));
-    QVERIFY(pendant.pressOn("EtherNetSettingWidget", "cBox"));
-    QVERIFY(pendant.openPage("btn_mtcp"));
-    QVERIFY(pendant.pressOn("MtcpSlaveSetting", "cBox"));
-    QVERIFY(pendant.openPage("etherNetBtn"));
-    QVERIFY(pendant.openPage("btn_mtcp"));
-    QVERIFY(pendant.findOn<QCheckBox>("MtcpSlaveSetting", "cBox")->isChecked());
-}
+    void profinetFields_data()
+    {
+        const Rows<QByteArray, QString, int, int> row;
+        row("alarm off",
+            "RUN_ALWAYS\nMIDDLE_LITTLE_ENDIAN\nPROFIBUS_ADDRESS 0\n"
+            "DISABLE_COM_ALARM\n",
+            "0", 0, 1);
+        row("byte order below both lines keeps the default",
+            "PROFIBUS_ADDRESS 125\n;DISABLE_COM_ALARM\nLITTLE_ENDIAN\n", "125", 1, 2);
+        row("nothing of its own", "; nothing\n", "1", 0, 2);
+    }
 
-PENDANT_TEST_MAIN(TestTextSlaves)
+    void profinetFields()
+    {
+        const auto [file, address, alarm, endian] = Rows<QByteArray, QString, int, int>::current();
+        const QString page = Twins[0].page;
+        QVERIFY(put(Twins[0].driver, file));
+        QVERIFY(openTwin(Twins[0]));
+        QCOMPARE(text("pfbAddressLE"), address);
+        QCOMPARE(chosen("pfbAlarmSwitchCB"), alarm);
+        QCOMPARE(findOn<QComboBox>(page, "cbb_largeSmall")->currentIndex(), endian);
+
+        // The keyboard lets 0 to 125 through.
+        QVERIFY(enter("pfbAddressLE", "126"));
+        QCOMPARE(text("pfbAddressLE"), address);
+        QVERIFY(!NumericKeyboardScript::refusals().isEmpty());
+        QVERIFY(enter("pfbAddressLE", "124"));
+        choose("pfbAlarmSwitchCB", 1 - alarm);
+        const QByteArray written = alarm == 1 ? "\nDISABLE_COM_ALARM\n" : "\n;DISABLE_COM_ALARM\n";
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+        QVERIFY(pressOn(page, "saveBt"));
+        const QByteArray saved = controllerFile(Twins[0].driver);
+        QCOMPARE(saved.contains("PROFIBUS_ADDRESS 124    \t;"), file.contains("PROFIBUS_ADDRESS"));
+        QCOMPARE(saved.contains(written), file.contains("DISABLE_COM_ALARM"));
+    }
+
+    void ports_data()
+    {
+        // hidden: the entries, by number
+        const Rows<QByteArray, QString, QString, int, QString> row;
+        row("ETH2", "10.0.0.2", "10.0.0.2", "10.0.0.3", 0, "");
+        row("ETH3", "10.0.0.3", "10.0.0.2", "10.0.0.3", 1, "");
+        row("both ports alike: the first", "10.0.0.2", "10.0.0.2", "10.0.0.2", 0, "");
+        row("a part of an address", "10.0.0.", "10.0.0.2", "10.0.0.3", 2, "");
+        row("a comment behind it", "10.0.0.2 ;x", "10.0.0.2", "10.0.0.3", 2, "");
+        row("a tab around it", "\t10.0.0.2", "10.0.0.2", "10.0.0.3", 0, "");
+        row("no address", "", "10.0.0.2", "10.0.0.3", 2, "");
+        row("no address, and ports without one", "", "", "", 2, "01");
+        row("ETH2 emptied", "10.0.0.3", "", "10.0.0.3", 1, "0");
+        row("ETH3 is no address", "10.0.0.3", "10.0.0.2", "dhcp", 2, "1");
+    }
+
+    void ports()
+    {
+        const auto [address, eth2, eth3, port, hidden] =
+            Rows<QByteArray, QString, QString, int, QString>::current();
+        const QString page = Twins[1].page;
+        FileStore& files = controller().files();
+        QVERIFY(files.write(Twins[1].driver, "IPADDR " + address + "\nNETMASK 255.0.0.0\n"));
+        QVERIFY(writeNetPort(files, "ETH2", {eth2, "255.255.255.2"}));
+        QVERIFY(writeNetPort(files, "ETH3", {eth3, "255.255.255.3"}));
+        QVERIFY(openTwin(Twins[1]));
+
+        auto* ports = findOn<QComboBox>(page, "localPortIpCB");
+        auto* ip = findOn<QLineEdit>(page, "IP_Edit");
+        auto* netmask = findOn<QLineEdit>(page, "netmaskEdit");
+        const auto* banner = findOn<QLabel>(page, "info_label");
+        QCOMPARE(ports->currentIndex(), port);
+        QCOMPARE(banner->isVisible(), port == 2);
+        // The page shows the port's netmask, whatever the file has.
+        QCOMPARE(ip->text(), QStringList({eth2, eth3, ""})[port]);
+        QCOMPARE(netmask->text(), QStringList({"255.255.255.2", "255.255.255.3", ""})[port]);
+        if (port == 2) {
+            QVERIFY(banner->height() >= banner->heightForWidth(banner->width()));
+            QVERIFY(banner->geometry().right() <= banner->parentWidget()->width());
+        }
+        const auto* list = qobject_cast<QListView*>(ports->view());
+        for (int index = 0; index < ports->count(); ++index) {
+            const bool isHidden = hidden.contains(QString::number(index));
+            QCOMPARE(list->isRowHidden(index), isHidden);
+            QCOMPARE(ports->model()->flags(ports->model()->index(index, 0)).testFlag(Qt::ItemIsEnabled),
+                     !isHidden);
+        }
+        QCOMPARE(messages(), QStringList());
+    }
+
+    // What is chosen is written, "No adapter" as an empty address, and nothing more is asked for it.
+    void portIsChosen()
+    {
+        const Twin& twin = Twins[1];
+        QVERIFY(putFiles(*this, twin));
+        QVERIFY(writeNetPort(controller().files(), "ETH3", {"10.0.0.3", "255.255.0.0"}));
+        QVERIFY(openTwin(twin));
+        const struct
+        {
+            int port;
+            QByteArray lines;
+        } choices[] = {{1, "IPADDR 10.0.0.3\nNETMASK 255.255.0.0\n"}, {2, "IPADDR \nNETMASK \n"}};
+        for (const auto& choice : choices) {
+            findOn<QComboBox>(twin.page, "localPortIpCB")->setCurrentIndex(choice.port);
+            answer({MsgBox::Confirmed, MsgBox::Second});
+            QVERIFY(pressOn(twin.page, twin.save));
+            QVERIFY(controllerFile(twin.driver).contains(choice.lines));
+        }
+        QCOMPARE(messages(), QStringList({Sure, Restart, Sure, Restart}));
+    }
+
+    void portsLostAfterLoading()
+    {
+        const Twin& twin = Twins[1];
+        QVERIFY(putFiles(*this, twin));
+        QVERIFY(openTwin(twin));
+        auto* ports = findOn<QComboBox>(twin.page, "localPortIpCB");
+        const QString address = findOn<QLineEdit>(twin.page, "IP_Edit")->text();
+        const int used = ports->currentIndex();
+        QVERIFY(used < 2 && !address.isEmpty());
+        ports->setCurrentIndex(2);
+        QCOMPARE(findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
+        ports->setCurrentIndex(used);
+        QCOMPARE(findOn<QLineEdit>(twin.page, "IP_Edit")->text(), address);
+        QVERIFY(!findOn(twin.page, "info_label")->isVisible());
+        // The address of a port that has none any more is not the port's.
+        controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
+        ports->setCurrentIndex(2);
+        ports->setCurrentIndex(used);
+        QCOMPARE(ports->currentIndex(), 2);
+        QCOMPARE(findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
+        QVERIFY(findOn(twin.page, "info_label")->isVisible());
+    }
+
+    void portsWithoutAddress()
+    {
+        const Twin& twin = Twins[1];
+        QVERIFY(putFiles(*this, twin));
+        QVERIFY(open());
+        controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");
+        QVERIFY(openPage(twin.button));
+        auto* ports = findOn<QComboBox>(twin.page, "localPortIpCB");
+        QCOMPARE(ports->currentIndex(), 2);
+        QVERIFY(findOn(twin.page, "info_label")->isVisible());
+        // Neither a key nor the wheel reaches a port that is not offered.
+        QTest::keyClick(ports, Qt::Key_Up);
+        QTest::keyClick(ports, Qt::Key_Home);
+        QCOMPARE(ports->currentIndex(), 2);
+        QCOMPARE(findOn<QLineEdit>(twin.page, "IP_Edit")->text(), QString());
+    }
+
+    void profisafeOwnsTheModule()
+    {
+        const Twin& twin = Twins[0];
+        set("io_man.profisafe_status", 1.0);
+        set(Word, 8.0);
+        QVERIFY(openTwin(twin));
+        QVERIFY(!findOn(twin.page, "groupBox_set")->isVisible());
+        QVERIFY(!findOn(twin.page, twin.save)->isVisible());
+        QCOMPARE(traffic().fetches(), QStringList());
+        QVERIFY(findOn<QCheckBox>(twin.page, "cBox")->isChecked());
+        QTRY_VERIFY(findOn(twin.page, "led_status")->isEnabled());
+    }
+
+    void performance_data()
+    {
+        // after: the box was pressed
+        const Rows<int, QString, int, bool, int> row;
+        row("Modbus TCP takes it", 0, "", 2, false, 1);
+        row("EtherNet/IP gives it back", 1, "", 4, true, 0);
+        row("PROFINET is off", 2, "ProfinetSlave", 4, false, 4);
+    }
+
+    void performance()
+    {
+        const auto [holder, roleOff, before, shown, after] = Rows<int, QString, int, bool, int>::current();
+        const Holder& role = Holders[holder];
+        set(Word, before);
+        if (!roleOff.isEmpty())
+            QVERIFY(controller().setRoleOn(roleOff, false));
+        QVERIFY(open());
+        // A page whose role is off has no button; it may have been open when the role went.
+        QVERIFY(roleOff.isEmpty() ? openPage(role.button) : selectPage(role.bus == 2 ? 4 : 1));
+        const auto* box = findOn<QCheckBox>(role.page, "cBox");
+        QCOMPARE(box->isChecked(), shown);
+        QVERIFY(pressOn(role.page, "cBox"));
+        QCOMPARE(int(variable(Word)), after);
+        QCOMPARE(box->isChecked(), (after & (1 << role.bus)) != 0);
+        QCOMPARE(messages(), QStringList());
+    }
+
+    // Whoever takes it, the one that had it shows so when its page comes back, and only then.
+    void performanceMoves()
+    {
+        QVERIFY(open());
+        const auto box = [this](const Holder& holder) { return findOn<QCheckBox>(holder.page, "cBox"); };
+        for (std::size_t round = 0; round < std::size(Holders); ++round) {
+            const Holder& loser = Holders[round];
+            const Holder& winner = Holders[(round + 1) % std::size(Holders)];
+            QVERIFY(openPage(loser.button));
+            QVERIFY(pressOn(loser.page, "cBox"));
+            QVERIFY(openPage(winner.button));
+            QVERIFY(pressOn(winner.page, "cBox"));
+            QCOMPARE(int(variable(Word)), 1 << winner.bus);
+            QVERIFY(box(loser)->isChecked());
+            QVERIFY(openPage(loser.button));
+            QVERIFY(!box(loser)->isChecked());
+            QCOMPARE(g_lastBusType, -1);
+            QVERIFY(openPage(winner.button));
+            QVERIFY(box(winner)->isChecked());
+            QVERIFY(pressOn(winner.page, "cBox"));
+            QCOMPARE(int(variable(Word)), 0);
+        }
+    }
+
+    // It lost the performance before it had a page, and has it again: that is no reason to untick it.
+    void performanceTakenBack()
+    {
+        set(Word, 1.0);
+        QVERIFY(open());
+        QVERIFY(openPage("etherNetBtn"));
+        QVERIFY(pressOn("EtherNetSettingWidget", "cBox"));
+        QVERIFY(pressOn("EtherNetSettingWidget", "cBox"));
+        QVERIFY(openPage("btn_mtcp"));
+        QVERIFY(pressOn("MtcpSlaveSetting", "cBox"));
+        QVERIFY(openPage("etherNetBtn"));
+        QVERIFY(openPage("btn_mtcp"));
+        QVERIFY(findOn<QCheckBox>("MtcpSlaveSetting", "cBox")->isChecked());
+    }
+
+private:
+    bool openTwin(const Twin& twin) { return openPastStartPage() && openPage(twin.button); }
+};
+
+PENDANT_TEST_MAIN(TestTextSlaves, QString())
 #include "tst_textslaves.moc"

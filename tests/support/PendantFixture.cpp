@@ -12,6 +12,7 @@
 #include "UserSession.h"
 #include "ZelBaseWidget.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QTableWidget>
 
@@ -34,9 +35,10 @@ bool isBusy(const PendantWindow& window)
 
 } // namespace
 
-PendantFixture::PendantFixture(double timeScale)
-    : m_previousDirectory(QDir::currentPath())
+void PendantFixture::start(double timeScale)
 {
+    m_previousDirectory = QDir::currentPath();
+    m_directory = std::make_unique<QTemporaryDir>();
     MsgBoxScript::clear();
     NumericKeyboardScript::clear();
     MsgBoxScript::failUnanswered(true);
@@ -45,7 +47,7 @@ PendantFixture::PendantFixture(double timeScale)
     UserSession::instance().setUserLevel(NormalUserLevel);
     UsbDrive::instance().pullOut();
 
-    WorkDirectory work(m_directory.path());
+    WorkDirectory work(m_directory->path());
     if (!work.enter())
         qFatal("no scratch directory: %s", qPrintable(work.error()));
     QDir().mkpath(usbDirectory());
@@ -60,12 +62,15 @@ PendantFixture::PendantFixture(double timeScale)
     m_window->show();
 }
 
-PendantFixture::~PendantFixture()
+void PendantFixture::stop()
 {
+    if (!m_directory)
+        return;
     m_window.reset();
     setCurrentLink(nullptr);
     m_controller.reset();
     QDir::setCurrent(m_previousDirectory);
+    m_directory.reset();
     const QStringList unanswered = MsgBoxScript::unanswered() + NumericKeyboardScript::unanswered();
     if (!unanswered.isEmpty())
         QTest::qFail(qPrintable("not answered: " + unanswered.join(QStringLiteral(" | "))), __FILE__,
@@ -132,6 +137,13 @@ bool PendantFixture::press(const QString& name)
     return target && Finger::press(target);
 }
 
+bool PendantFixture::save(const QString& button, std::initializer_list<int> answers)
+{
+    traffic().clear();
+    answer(answers);
+    return press(button) && settle();
+}
+
 bool PendantFixture::pressCell(const QString& table, int row, int column)
 {
     auto* widget = find<QTableWidget>(table);
@@ -154,6 +166,32 @@ bool PendantFixture::enter(const QString& edit, const QString& text)
 bool PendantFixture::pressOn(const QString& page, const QString& name)
 {
     return Finger::press(findOn(page, name)) && settle();
+}
+
+QString PendantFixture::text(const QString& name) const
+{
+    const QWidget* widget = find(name);
+    if (!widget)
+        return QStringLiteral("(there is no %1)").arg(name);
+    const QVariant entry = widget->property("currentText");
+    return (entry.isValid() ? entry : widget->property("text")).toString();
+}
+
+int PendantFixture::chosen(const QString& name) const
+{
+    const auto* list = find<QComboBox>(name);
+    return list ? list->currentIndex() : -2;
+}
+
+void PendantFixture::choose(const QString& name, int index)
+{
+    find<QComboBox>(name)->setCurrentIndex(index);
+}
+
+bool PendantFixture::isChecked(const QString& name) const
+{
+    const auto* button = find<QAbstractButton>(name);
+    return button && button->isChecked();
 }
 
 void PendantFixture::dropUserLevel()

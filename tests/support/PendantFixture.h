@@ -1,6 +1,7 @@
 #ifndef TESTS_PENDANTFIXTURE_H
 #define TESTS_PENDANTFIXTURE_H
 
+#include "Faults.h"
 #include "MsgBoxScript.h"
 #include "NumericKeyboardScript.h"
 #include "PendantWindow.h"
@@ -23,16 +24,17 @@ class PendantFixture
 {
 public:
     /// `timeScale`: how much faster than real time the host's waits and the controller run.
-    explicit PendantFixture(double timeScale = 20.0);
-    ~PendantFixture();
+    explicit PendantFixture(double timeScale = NormalTimeScale) { start(timeScale); }
+    ~PendantFixture() { stop(); }
     PendantFixture(const PendantFixture&) = delete;
     PendantFixture& operator=(const PendantFixture&) = delete;
 
     SimulatedController& controller() { return *m_controller; }
+    Traffic& traffic() { return m_controller->traffic(); }
     PendantWindow& window() { return *m_window; }
     /// The place of the application on the pendant.
     ApplicationSlot* application() const;
-    QString usbDirectory() const { return m_directory.path() + QStringLiteral("/usb"); }
+    QString usbDirectory() const { return m_directory->path() + QStringLiteral("/usb"); }
 
     /// Opens the application and waits until the menu is there and the first page has loaded.
     bool open();
@@ -56,6 +58,9 @@ public:
     }
     /// Presses the middle of the widget; false when it is not there or cannot be reached by a finger.
     bool press(const QString& name);
+    /// The same for a save: the boxes are answered with `answers`, the traffic counts from here on, and all
+    /// is over when it returns.
+    bool save(const QString& button, std::initializer_list<int> answers);
     /// Presses a cell of a table.
     bool pressCell(const QString& table, int row, int column);
     /// Types into a touch line edit on the numeric keyboard that it opens.
@@ -69,6 +74,12 @@ public:
         return widget ? widget->findChild<Widget*>(name) : nullptr;
     }
     bool pressOn(const QString& page, const QString& name);
+    /// What the widget `name` says: its text, the chosen entry of a list. A widget that is not there says so.
+    QString text(const QString& name) const;
+    /// The index of the chosen entry of a list.
+    int chosen(const QString& name) const;
+    void choose(const QString& name, int index);
+    bool isChecked(const QString& name) const;
 
     /// The operator's level drops below what the application asks for: it is closed, whatever it waits for.
     static void dropUserLevel();
@@ -80,6 +91,13 @@ public:
 
     bool put(const QString& path, const QByteArray& content);
     QByteArray controllerFile(const QString& path) const;
+    void set(const QString& name, double value) { set(name, 0, value); }
+    void set(const QString& name, int element, double value)
+    {
+        m_controller->variables().set(name, element, value);
+    }
+    /// Lets something fail, as the option --fault does.
+    bool fail(const QString& fault) { return m_controller->faults().setFromText(fault); }
     /// What the pendant wrote to the variable since the traffic was cleared.
     QVector<double> writesOf(const QString& name);
     double variable(const QString& name, int element = 0) const;
@@ -87,8 +105,16 @@ public:
     static QStringList messages();
     static void answer(std::initializer_list<int> results);
 
+protected:
+    enum Made { Later };
+    explicit PendantFixture(Made /*later*/) {}
+    void start(double timeScale = NormalTimeScale);
+    void stop();
+
 private:
-    QTemporaryDir m_directory;
+    static constexpr double NormalTimeScale = 20.0;
+
+    std::unique_ptr<QTemporaryDir> m_directory;
     QString m_previousDirectory;
     std::unique_ptr<SimulatedController> m_controller;
     std::unique_ptr<PendantWindow> m_window;

@@ -18,13 +18,14 @@ inline void __lsan_enable() {}
 
 /// `main` of a test with widgets: the pendant's own application object. What Qt's offscreen platform makes
 /// for itself while the application is constructed it never gives back, so that is not searched for leaks.
-#define PENDANT_TEST_MAIN(TestClass)                                                                         \
+/// Further arguments are those of the class's constructor.
+#define PENDANT_TEST_MAIN(TestClass, ...)                                                                    \
     int main(int argc, char* argv[])                                                                         \
     {                                                                                                        \
         __lsan_disable();                                                                                    \
         const auto application = std::make_unique<PendantApplication>(argc, argv);                           \
         __lsan_enable();                                                                                     \
-        TestClass test;                                                                                      \
+        TestClass test{__VA_ARGS__};                                                                         \
         return QTest::qExec(&test, argc, argv);                                                              \
     }
 
