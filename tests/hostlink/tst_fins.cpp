@@ -102,9 +102,9 @@ public:
 private slots:
     void pageIsReachedFromThePanel()
     {
+        const Shortcut finsPage(window(), QStringLiteral("finsPage"));
         ControllerPanel panel(controller(),
-                              {[this] { return FinsShortcut::isAtHand(window()); },
-                               [this] { Shortcut(window(), QStringLiteral("finsPage")).show(); }});
+                              {[finsPage] { return finsPage.isAtHand(); }, [finsPage] { finsPage.show(); }});
         panel.show();
         auto* tabs = panel.findChild<QTabWidget*>();
         tabs->setCurrentWidget(panel.findChild<QWidget*>("hostLinkTab"));
@@ -135,7 +135,7 @@ private slots:
         MsgBoxScript::onShown([&inSight](const MsgBox* box) {
             inSight = box->isVisible() && box->parentWidget() && box->parentWidget()->isVisible();
         });
-        QTimer::singleShot(200, &window(), [this] { FinsShortcut::show(window()); });
+        QTimer::singleShot(200, &window(), [this] { Shortcut(window(), QStringLiteral("finsPage")).show(); });
         QVERIFY(showAgain());
         QVERIFY(find("FinsTcpSettingWidget")->isVisible());
         QCOMPARE(messages().size(), 1);

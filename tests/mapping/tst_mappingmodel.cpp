@@ -73,6 +73,8 @@ QString cellsOf(const MappingModel::Row& row)
 } // namespace
 
 Q_DECLARE_METATYPE(Quantities)
+Q_DECLARE_METATYPE(Mapping::Bus)
+Q_DECLARE_METATYPE(Mapping::Layout)
 
 class TestMappingModel : public QObject
 {
@@ -95,7 +97,7 @@ private slots:
         row("PROFINET slave", {7, 8}, true, {1536, 96, 48});
         row("fixed PROFINET slave", {7, 8}, false, {480, 38, 30});
         for (const bool freeMode : {true, false}) {
-            const QByteArray mode = freeMode ? "free " : "fixed ";
+            const QString mode = freeMode ? "free " : "fixed ";
             row(mode + "masters of Bools", {9, 10, 15, 16, 17, 18}, freeMode, boolsOnly);
             row(mode + "Modbus TCP master reads", {13}, freeMode, {2000, 125, 62});
             row(mode + "Modbus TCP master writes", {14}, freeMode, {1968, 123, 61});
@@ -204,7 +206,7 @@ private slots:
 
     void layouts_data()
     {
-        const ::Rows<int, Quantities, quint32, QString> row;
+        const ::Rows<Layout, Quantities, quint32, QString> row;
         // Bool, Int, Float = block
         const Layout slave = Layout::SlaveRegisters;
         row("slave", slave, {32, 3, 2}, 40001, "40001-40002 40003-40005 40006-40009 = 40001-40009");
@@ -234,25 +236,24 @@ private slots:
     void layouts()
     {
         const auto [layout, quantities, start, expected] =
-            ::Rows<int, Quantities, quint32, QString>::current();
-        QCOMPARE(addresses(blockWith(quantities, static_cast<Layout>(layout), start)), expected);
+            ::Rows<Layout, Quantities, quint32, QString>::current();
+        QCOMPARE(addresses(blockWith(quantities, layout, start)), expected);
 
         // Behind a system area every row moves by its size; a block keeps its own start.
-        const auto counted = static_cast<Layout>(layout);
-        if (counted != Layout::Bytes && counted != Layout::SlaveRegisters)
+        if (layout != Layout::Bytes && layout != Layout::SlaveRegisters)
             return;
-        const BusAreaInfo plain = blockWith(quantities, counted, start);
+        const BusAreaInfo plain = blockWith(quantities, layout, start);
         BusAreaInfo area = areaWith(quantities);
         area.system[BusBool] = {64, start, start + 7};
         area.system[BusFloat] = {12, start + 20, start + 67};
-        layOut(area, counted, start);
+        layOut(area, layout, start);
         for (std::size_t type = 0; type < plain.user.size(); ++type) {
             const quint32 moved = quantities[type] == 0 ? 0 : 68;
             QCOMPARE(area.user[type].start, plain.user[type].start + moved);
             QCOMPARE(area.user[type].end, plain.user[type].end + moved);
         }
         QCOMPARE(area.start, plain.start);
-        QCOMPARE(area.end, counted == Layout::Bytes ? NoAddress : plain.end + 68);
+        QCOMPARE(area.end, layout == Layout::Bytes ? NoAddress : plain.end + 68);
     }
 
     // Write only 40001-40010, read only 40101-40110, read and write 40301-40310: one row an entry.
@@ -497,7 +498,7 @@ private slots:
 
     void saveChecks_data()
     {
-        const ::Rows<int, bool, Quantities, QString> row;
+        const ::Rows<Bus, bool, Quantities, QString> row;
         const QString small =
             QStringLiteral("%1:User Bool and User Int Bytes Limit Range: %2 ~ %3, Please Fill In Again!");
         const QString all = QStringLiteral("%1:Bytes Limit Range: %2 ~ %3, Please Fill In Again!");
@@ -552,12 +553,11 @@ private slots:
 
     void saveChecks()
     {
-        const auto [bus, freeMode, quantities, message] = ::Rows<int, bool, Quantities, QString>::current();
-        const auto checked = static_cast<Bus>(bus);
+        const auto [bus, freeMode, quantities, message] = ::Rows<Bus, bool, Quantities, QString>::current();
         // What is written is not looked at.
         const MappingModel model =
-            modelWith(checked, areaWith(quantities), areaWith({9000, 9000, 9000}), {}, freeMode);
-        const Refusal refusal = model.saveRefusal({QString(infoOf(checked).name).toUpper()});
+            modelWith(bus, areaWith(quantities), areaWith({9000, 9000, 9000}), {}, freeMode);
+        const Refusal refusal = model.saveRefusal({QString(infoOf(bus).name).toUpper()});
         QCOMPARE(refusal ? refusal->text : QString(), message);
         if (refusal)
             QVERIFY(refusal->severity == Severity::Warning);

@@ -337,7 +337,8 @@ const std::vector<Page>& withoutFile()
             pendant.controller().behaviour<ProfisafeDevice>().setPresent(true);
             return true;
         };
-        return std::vector<Page>{modbusSlave, profisafe};
+        Page busSwitches{"bus switches", 5, "BusSettingWidget", nullptr, "", {}, {}, nullptr};
+        return std::vector<Page>{modbusSlave, profisafe, busSwitches};
     }();
     return all;
 }
@@ -478,6 +479,7 @@ private slots:
         QVERIFY(show());
         const QStringList before = entries();
         QVERIFY(change());
+        QTRY_VERIFY(entries() != before);
         const QStringList changed = entries();
         QCOMPARE(changed.size(), before.size());
         traffic().clear();
