@@ -1,8 +1,9 @@
 #include "RoleListFile.h"
 
-#include <QRegularExpression>
+#include "AsciiText.h"
+#include "KeptXml.h"
 
-#include <pugixml.hpp>
+#include <QSet>
 
 #include <algorithm>
 
@@ -11,57 +12,78 @@ namespace {
 constexpr const char* RootElement = "Fieldbus";
 constexpr const char* RoleElement = "Bus";
 constexpr const char* NameAttribute = "name";
-constexpr const char* EnableAttribute = "enable";
+constexpr std::string_view EnableAttribute = "enable";
 constexpr int On = 1;
 
-bool load(const QByteArray& content, pugi::xml_document& document)
+// The value of the attribute `enable` in the tag that begins at `tag` with the element's name; empty when it
+// has none. The document was parsed: quotes and equal signs are where they have to be.
+std::string_view enableValue(std::string_view tag)
 {
-    return document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
-                                pugi::parse_default, pugi::encoding_utf8) &&
-           document.child(RootElement);
-}
-
-// Switches the element off whose name stands at `offset`. One without the attribute is off already.
-void switchOffAt(QByteArray& content, int offset)
-{
-    static const QRegularExpression enable(
-        QStringLiteral(
-            R"(^[^\s/>]+(?:\s+[^\s=/>]+\s*=\s*(?:"[^"]*"|'[^']*'))*?\s+%1\s*=\s*("[^"]*"|'[^']*'))")
-            .arg(QLatin1String(EnableAttribute)));
-    const QRegularExpressionMatch found = enable.match(QString::fromLatin1(content.mid(offset)));
-    if (found.hasMatch())
-        content.replace(offset + found.capturedStart(1) + 1, found.capturedLength(1) - 2, "0");
+    std::size_t at = tag.find_first_of(" \t\r\n/>");
+    while (true) {
+        at = tag.find_first_not_of(AsciiText::WhiteSpace, at);
+        if (at == std::string_view::npos || tag[at] == '/' || tag[at] == '>')
+            return {};
+        const std::size_t equal = tag.find('=', at);
+        const std::size_t open = tag.find_first_of("\"'", equal);
+        if (open == std::string_view::npos)
+            return {};
+        const std::size_t close = tag.find(tag[open], open + 1);
+        if (close == std::string_view::npos)
+            return {};
+        if (AsciiText::trimmed(tag.substr(at, equal - at)) == EnableAttribute)
+            return tag.substr(open + 1, close - open - 1);
+        at = close + 1;
+    }
 }
 
 } // namespace
 
-bool RoleListFile::read(const QByteArray& content, std::vector<ListedRole>& roles)
+bool RoleListFile::read(const QByteArray& bytes, std::vector<ListedRole>& roles)
 {
     pugi::xml_document document;
-    if (!load(content, document))
+    const pugi::xml_node root = KeptXml::load(bytes, RootElement, document);
+    if (!root)
         return false;
     roles.clear();
-    for (const pugi::xml_node bus : document.child(RootElement).children(RoleElement)) {
-        const QString name = QString::fromUtf8(bus.attribute(NameAttribute).value());
-        const bool known = std::any_of(roles.begin(), roles.end(),
-                                       [&name](const ListedRole& role) { return role.name == name; });
-        if (!name.isEmpty() && !known)
-            roles.push_back({name, bus.attribute(EnableAttribute).as_int() == On});
+    QSet<QString> known;
+    for (const pugi::xml_node bus : root.children(RoleElement)) {
+        const QString name = KeptXml::text(bus.attribute(NameAttribute));
+        if (name.isEmpty() || known.contains(name))
+            continue;
+        known.insert(name);
+        roles.push_back({name, bus.attribute(EnableAttribute.data()).as_int() == On});
     }
     return true;
 }
 
-// In the bytes, so that the file stays the same in all that is not switched; from the end, so that the
-// offsets before stay valid.
-QByteArray RoleListFile::switchedOff(QByteArray content, const QString& role)
+bool RoleListFile::isOn(const std::vector<ListedRole>& roles, const QString& name)
+{
+    return std::any_of(roles.begin(), roles.end(),
+                       [&name](const ListedRole& role) { return role.on && role.name == name; });
+}
+
+// In the bytes, so that the file stays the same in all that is not switched. An entry without the attribute
+// is off already.
+QByteArray RoleListFile::switchedOff(const QByteArray& bytes, const QString& role)
 {
     pugi::xml_document document;
-    if (!load(content, document))
+    const pugi::xml_node root = KeptXml::load(bytes, RootElement, document);
+    if (!root)
         return {};
-    for (pugi::xml_node bus = document.child(RootElement).last_child(); bus; bus = bus.previous_sibling()) {
-        if (qstrcmp(bus.name(), RoleElement) == 0 &&
-            role == QString::fromUtf8(bus.attribute(NameAttribute).value()))
-            switchOffAt(content, static_cast<int>(bus.offset_debug()));
+    const std::string_view all(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    const QByteArray name = role.toUtf8();
+    QByteArray out;
+    std::size_t done = 0;
+    for (const pugi::xml_node bus : root.children(RoleElement)) {
+        if (name != bus.attribute(NameAttribute).value())
+            continue;
+        const std::string_view value = enableValue(all.substr(static_cast<std::size_t>(bus.offset_debug())));
+        if (value.data() == nullptr)
+            continue;
+        const auto begin = static_cast<std::size_t>(value.data() - all.data());
+        out.append(AsciiText::raw(all.substr(done, begin - done))).append('0');
+        done = begin + value.size();
     }
-    return content;
+    return out.append(AsciiText::raw(all.substr(done)));
 }

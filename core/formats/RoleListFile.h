@@ -13,16 +13,21 @@ struct ListedRole
     bool on = false;
 };
 
-/// A copy of fieldbus.xml that is about to be imported. The controller's own one belongs to the bus file data
-/// service, which reads and writes it.
+/// fieldbus.xml: the roles that the controller has, and which of them are switched on.
 namespace RoleListFile {
 
-/// Reads the roles in file order; of two entries with one name the first counts. False (and `roles`
-/// untouched) when `content` is no XML or has another root.
-bool read(const QByteArray& content, std::vector<ListedRole>& roles);
+/// The entry that is no bus: on selects the free mode of the mapping, else the fixed one.
+constexpr const char* FreeBus = "FreeBus";
 
-/// The file with `role` switched off, and every other byte as it is. Empty when `read` would refuse it.
-QByteArray switchedOff(QByteArray content, const QString& role);
+/// The roles in file order; of two entries with one name the first counts. False (and `roles` untouched) when
+/// the bytes are not well-formed or have another root.
+bool read(const QByteArray& bytes, std::vector<ListedRole>& roles);
+
+/// Whether `name` is listed and on.
+bool isOn(const std::vector<ListedRole>& roles, const QString& name);
+
+/// The file with every entry of `role` off and every other byte as it was; null when it cannot be read.
+QByteArray switchedOff(const QByteArray& bytes, const QString& role);
 
 } // namespace RoleListFile
 

@@ -16,17 +16,11 @@ namespace {
 
 const QString ProfinetSlave = QStringLiteral("ProfinetSlave");
 
-bool isOn(const std::vector<ListedRole>& roles, const QString& name)
-{
-    return std::any_of(roles.begin(), roles.end(),
-                       [&name](const ListedRole& role) { return role.on && role.name == name; });
-}
-
 States switchedOn(const std::vector<ListedRole>& roles)
 {
     States on{};
     for (int i = 0; i < Count; ++i)
-        on[i] = isOn(roles, QLatin1String(rows()[i].busName));
+        on[i] = RoleListFile::isOn(roles, QLatin1String(rows()[i].busName));
     return on;
 }
 
@@ -79,13 +73,13 @@ void planUnlisted(const QMap<QString, BusName>& present, std::vector<ImportedRol
 
 bool planRoleList(const QString& path, RoleConditions conditions, ImportedRoles& plan)
 {
-    std::vector<ListedRole> listed;
     QByteArray content;
+    std::vector<ListedRole> listed;
     if (!WholeFile::read(path, content) || !RoleListFile::read(content, listed))
         return false;
-    if (!conditions.profinetSlaveAllowed && isOn(listed, ProfinetSlave)) {
+    if (!conditions.profinetSlaveAllowed && RoleListFile::isOn(listed, ProfinetSlave)) {
         content = RoleListFile::switchedOff(content, ProfinetSlave);
-        if (!RoleListFile::read(content, listed) || !WholeFile::replace(path, content))
+        if (!WholeFile::replace(path, content) || !RoleListFile::read(content, listed))
             return false;
         plan.profinetSlaveSwitchedOff = true;
     }

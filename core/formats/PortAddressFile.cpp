@@ -1,0 +1,34 @@
+#include "PortAddressFile.h"
+
+#include "KeptXml.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+bool PortAddressFile::read(const QByteArray& bytes, std::vector<PortAddress>& ports)
+{
+    pugi::xml_document document;
+    const pugi::xml_node root = KeptXml::load(bytes, "NetPorts", document);
+    if (!root)
+        return false;
+    ports.clear();
+    QSet<QString> known;
+    for (const pugi::xml_node node : root.children("Port")) {
+        const QString name = KeptXml::text(node.attribute("name"));
+        if (name.isEmpty() || known.contains(name))
+            continue;
+        known.insert(name);
+        ports.push_back(
+            {name, KeptXml::text(node.attribute("ip")), KeptXml::text(node.attribute("netmask"))});
+    }
+    return true;
+}
+
+const PortAddress* PortAddressFile::portOf(const std::vector<PortAddress>& ports, int index)
+{
+    const QLatin1String name(index == 0 ? "ETH2" : "ETH3");
+    const auto found = std::find_if(ports.begin(), ports.end(),
+                                    [name](const PortAddress& port) { return port.name == name; });
+    return found == ports.end() ? nullptr : &*found;
+}

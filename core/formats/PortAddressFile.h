@@ -1,0 +1,30 @@
+#ifndef PORTADDRESSFILE_H
+#define PORTADDRESSFILE_H
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+/// A network port of the controller; both texts are empty while it has no address.
+struct PortAddress
+{
+    QString name; ///< "ETH2", "ETH3"
+    QString ip;
+    QString netmask;
+};
+
+/// netports.xml: the network ports and their addresses. The controller writes it.
+namespace PortAddressFile {
+
+/// In file order; an entry without a name is passed over, and of two with one name the first counts. False
+/// (and `ports` untouched) when the bytes are not well-formed or have another root.
+bool read(const QByteArray& bytes, std::vector<PortAddress>& ports);
+
+/// The port that the files of the host links count as `index`: 0 is ETH2, everything else ETH3. Null when the
+/// controller does not have it.
+const PortAddress* portOf(const std::vector<PortAddress>& ports, int index);
+
+} // namespace PortAddressFile
+
+#endif
