@@ -2,6 +2,7 @@
 
 #include "MesPortRules.h"
 #include "NetworkPorts.h"
+#include "Poll.h"
 #include "ui_MesSettingWidget.h"
 
 namespace {
@@ -9,9 +10,7 @@ namespace {
 constexpr int HighestPort = 99999;    // of the keyboard; what is no port the controller does not listen on
 constexpr int LongestInterval = 9999; // ms
 
-// Starting and stopping is waited for in slices, 1.6 s in all.
-constexpr int MonitorWaits = 100;
-constexpr unsigned MonitorWaitMs = 16;
+constexpr Poll::Rule MonitorChange = {16, 100}; // 1.6 s in all
 
 } // namespace
 
@@ -71,13 +70,10 @@ void MesSettingWidget::on_monitorButton_clicked()
     // What the server is started with is what the page is to show.
     if (!m_active)
         fillFromRecord();
-    const QPointer<MesSettingWidget> self(this);
-    for (int wait = 0; wait < MonitorWaits && lib()->get_imes_tcp_server_active() == before; ++wait) {
-        lib()->delay_MSec(MonitorWaitMs);
-        if (!self)
-            return;
-    }
-    ui->monitorButton->setEnabled(true);
+    const auto changed = [before] { return lib()->get_imes_tcp_server_active() != before; };
+    const auto delay = [](unsigned msec) { lib()->delay_MSec(msec); };
+    if (Poll::wait(MonitorChange, this, delay, changed) != Poll::Answer::Gone)
+        ui->monitorButton->setEnabled(true);
 }
 
 void MesSettingWidget::refreshStatus()

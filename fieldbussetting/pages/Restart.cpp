@@ -2,13 +2,16 @@
 
 #include "BusFileDataManager.h"
 #include "ControllerVariables.h"
+#include "Poll.h"
 #include "SysSettingApi.h"
+
+#include <optional>
+#include <utility>
 
 namespace {
 
 constexpr unsigned BetweenRestartsMs = 100; // controller first, then the pendant
-constexpr int ClockReadings = 10;
-constexpr unsigned BetweenReadingsMs = 600;
+constexpr Poll::Rule ClockReadings = {600, 10};
 
 } // namespace
 
@@ -31,11 +34,10 @@ void Restart::perform(Way way)
 
 bool Restart::controllerStopped()
 {
-    for (int reading = 0; reading < ClockReadings; ++reading) {
-        const double before = ControllerVariables::ifidbus_current_time;
-        SysSettingApi::delay_MSec(BetweenReadingsMs);
-        if (ControllerVariables::ifidbus_current_time.getValue() == before)
-            return true;
-    }
-    return false;
+    std::optional<double> last; // none to compare the first reading with
+    const auto standsStill = [&last] {
+        const double now = ControllerVariables::ifidbus_current_time.getValue();
+        return std::exchange(last, now) == now;
+    };
+    return Poll::wait(ClockReadings, nullptr, SysSettingApi::delay_MSec, standsStill) == Poll::Answer::Yes;
 }

@@ -16,23 +16,23 @@ constexpr int DeviceNetLinkBit = 32; // of the communication state
 constexpr int SlaveFileSent = 0x9000;
 constexpr int SlaveFileTaken = 0x2000;
 
-// Polls without an answer until a save has failed; the first one of a page is given a second more.
-constexpr int PollMs = 500;
-constexpr int FirstPollLimit = 12;
-constexpr int PollLimit = 10;
+// Half-second polls without an answer before a save has failed; the first one of a page is given a second
+// more.
+constexpr Poll::Rule FirstHandshake = {500, 12};
+constexpr Poll::Rule Handshake = {500, 10};
 
 } // namespace
 
 DeviceNetSlaverSetting::DeviceNetSlaverSetting()
     : PageBase("DeviceNetSlaverSetting")
     , ui(std::make_unique<Ui::DeviceNetSlaverSetting>())
+    , m_handshake(FirstHandshake, this)
 {
     ui->setupUi(this);
     ui->le_macid->setCast(QTouchLineEdit::CastUnsigned);
     ui->le_macid->setValueRange(LowestMacId, HighestMacId);
     m_light.emplace(ui->led_status);
     connect(ui->le_macid, &QTouchLineEdit::valueSetted, this, &DeviceNetSlaverSetting::slotCheckMACIDFormat);
-    connect(&m_handshake, &QTimer::timeout, this, &DeviceNetSlaverSetting::getFileSaveStatus);
     applyStyle();
     scheduleOnce(1, &DeviceNetSlaverSetting::slotGetFileToUi);
 }
@@ -77,37 +77,31 @@ void DeviceNetSlaverSetting::on_btn_save_clicked()
         beginHandshake();
 }
 
-// The save button is off until the handshake ends: the poll limit and the answering bit are those of one
-// save.
+// The save button is off until the handshake ends: patience and the answering bit are those of one save.
 void DeviceNetSlaverSetting::beginHandshake()
 {
-    m_pollLimit = m_firstSave ? FirstPollLimit : PollLimit;
-    m_firstSave = false;
     // An answer that came after a handshake was given up is not the one to this file.
     const int state = lib()->get_freebus_busconfig_xml_update_state() & ~SlaveFileTaken;
     lib()->set_freebus_busconfig_xml_update(state | SlaveFileSent);
     ui->btn_save->setEnabled(false);
-    m_handshake.start(PollMs);
-}
-
-void DeviceNetSlaverSetting::endHandshake()
-{
-    lib()->set_freebus_busconfig_xml_update(0);
-    m_polls = 0;
-    m_handshake.stop();
-    ui->btn_save->setEnabled(true);
+    m_handshake.start(
+        m_firstSave ? FirstHandshake : Handshake,
+        [] { return (lib()->get_freebus_busconfig_xml_update_state() & SlaveFileTaken) != 0; },
+        [this](Poll::Answer answer) { endHandshake(answer == Poll::Answer::Yes); });
+    m_firstSave = false;
 }
 
 void DeviceNetSlaverSetting::getFileSaveStatus()
 {
-    // The answer first: one that came since the last poll counts even when the patience is used up.
-    if ((lib()->get_freebus_busconfig_xml_update_state() & SlaveFileTaken) != 0) {
-        endHandshake();
+    m_handshake.ask();
+}
+
+void DeviceNetSlaverSetting::endHandshake(bool taken)
+{
+    lib()->set_freebus_busconfig_xml_update(0);
+    ui->btn_save->setEnabled(true);
+    if (taken)
         offerRestart(Restart::Way::AtOnce);
-    } else if (m_polls != m_pollLimit) {
-        ++m_polls;
-    } else {
-        endHandshake();
+    else
         tell(MsgBox::Warning, tr("Save failed!"));
-    }
 }

@@ -3,6 +3,7 @@
 
 #include "LinkLight.h"
 #include "PageBase.h"
+#include "Poll.h"
 
 #include <memory>
 #include <optional>
@@ -26,19 +27,18 @@ public:
 private slots:
     void on_btn_save_clicked();
     void slotCheckMACIDFormat(const QString& text);
+    /// A poll of the handshake, while one runs.
     void getFileSaveStatus();
     void slotGetFileToUi();
 
 private:
     void beginHandshake();
-    void endHandshake();
+    void endHandshake(bool taken);
 
     std::unique_ptr<Ui::DeviceNetSlaverSetting> ui;
     std::optional<LinkLight> m_light;
-    QTimer m_handshake{this};
+    Poll m_handshake;
     QString m_acceptedMacId; ///< comes back when another one is refused
-    int m_polls = 0;         ///< of the handshake that runs
-    int m_pollLimit = 0;     ///< unanswered polls before it is given up
     bool m_firstSave = true;
 };
 
