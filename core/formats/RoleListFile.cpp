@@ -21,7 +21,7 @@ std::string_view enableValue(std::string_view tag)
 {
     std::size_t at = tag.find_first_of(" \t\r\n/>");
     while (true) {
-        at = tag.find_first_not_of(AsciiText::WhiteSpace, at);
+        at = tag.find_first_not_of(" \t\n\v\f\r", at);
         if (at == std::string_view::npos || tag[at] == '/' || tag[at] == '>')
             return {};
         const std::size_t equal = tag.find('=', at);
