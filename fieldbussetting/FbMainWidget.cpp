@@ -95,8 +95,7 @@ void FbMainWidget::slotGetFileToUi()
 {
     const QPointer<FbMainWidget> self(this);
     BusFileDataManager* service = BusFileDataManager::getInstance();
-    ++m_mouseBlockCount;
-    applyMouseBlock();
+    mouseEventTransParentSlot(true);
     if (service->isFuncInfoNotified(QStringLiteral("fieldbus")))
         busNotification(0, QLatin1String(FileLocations::FieldbusXml), true);
     else
@@ -109,8 +108,7 @@ void FbMainWidget::slotGetFileToUi()
         service->emitGetFieldbusCfg();
     if (!self)
         return;
-    --m_mouseBlockCount;
-    applyMouseBlock();
+    mouseEventTransParentSlot(false);
 }
 
 void FbMainWidget::busNotification(int kind, const QString& path, bool success)
@@ -125,7 +123,7 @@ void FbMainWidget::busNotification(int kind, const QString& path, bool success)
                 m_busNames.append(bus.name);
             showButtonsOf(m_busNames);
             const QPointer<FbMainWidget> self(this);
-            slotMenuBtnsClicked(PageRegistry::StartPage);
+            showPage(PageRegistry::StartPage);
             if (!self)
                 return;
             m_progressBar->setValue(ProgressStartPage);
@@ -158,6 +156,12 @@ void FbMainWidget::countNotification()
 }
 
 void FbMainWidget::slotMenuBtnsClicked(int id)
+{
+    if (!m_inputBlock.isOn())
+        showPage(id);
+}
+
+void FbMainWidget::showPage(int id)
 {
     if (id < 0 || id >= PageRegistry::PageCount)
         id = 0;
@@ -193,6 +197,8 @@ PageBase* FbMainWidget::pageOf(int id)
     m_pageInTheMaking = outerPage;
     if (entry.blocksInput)
         connect(page.get(), &PageBase::mouseEventSignal, this, &FbMainWidget::mouseEventTransParentSlot);
+    else // these pages leave the menu page as it is for fingers, which are stopped all the same
+        connect(page.get(), &PageBase::mouseEventSignal, &m_inputBlock, &InputBlock::count);
     if (entry.needsFreeMode)
         page->setFreeConfiguration(BusFileDataManager::getInstance()->isOpenFreeBus());
     ui->fieldbusSetSWidget->addWidget(page.get());
@@ -203,18 +209,15 @@ PageBase* FbMainWidget::pageOf(int id)
 void FbMainWidget::mouseEventTransParentSlot(bool status)
 {
     m_mouseBlockCount += status ? 1 : -1;
-    applyMouseBlock();
-}
-
-void FbMainWidget::applyMouseBlock()
-{
+    m_inputBlock.count(status);
     setAttribute(Qt::WA_TransparentForMouseEvents, m_mouseBlockCount != 0);
 }
 
 void FbMainWidget::on_exitBtn_clicked()
 {
     qCDebug(fieldbusLog, "FbMainWidget::on_exitBtn_clicked");
-    emit closeApp(); // deletes this page
+    if (!m_inputBlock.isOn())
+        emit closeApp(); // deletes this page
 }
 
 void FbMainWidget::idle()
@@ -222,7 +225,7 @@ void FbMainWidget::idle()
     const QPointer<FbMainWidget> self(this);
     for (const int id : PageRegistry::idleOrder()) {
         PageBase* page = m_pages[static_cast<std::size_t>(id)];
-        if (page && page->isVisible())
+        if (page && (page->isVisible() || page->isAtWork()))
             page->refreshStatus();
         if (!self) // a page's idle work may wait, and the application may be closed meanwhile
             return;

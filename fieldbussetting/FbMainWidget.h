@@ -2,6 +2,7 @@
 #define FBMAINWIDGET_H
 
 #include "BusObserver.h"
+#include "InputBlock.h"
 #include "PageRegistry.h"
 
 #include <QStringList>
@@ -38,7 +39,7 @@ signals:
 private slots:
     void on_exitBtn_clicked();
     /// Shows the page of `id` and creates it when it is shown for the first time. An id that no page has
-    /// counts as 0.
+    /// counts as 0. Does nothing while a page blocks input.
     void slotMenuBtnsClicked(int id);
     /// A page begins (true) or ends (false) a time in which the operator's input is ignored.
     void mouseEventTransParentSlot(bool status);
@@ -50,11 +51,12 @@ private:
     void countNotification();
     /// The page of `id`, created when it is wanted for the first time; null when there is none.
     PageBase* pageOf(int id);
-    void applyMouseBlock();
+    void showPage(int id);
 
     std::unique_ptr<Ui::FbMainWidget> ui;
     QButtonGroup* m_menuButtons;
     int m_mouseBlockCount = 0;
+    InputBlock m_inputBlock{this};
     int m_chosenPage = -1;      // id of the page that was asked for last, -1 before the first
     int m_pageInTheMaking = -1; // id of the page whose constructor is running, -1 for none
     QStringList m_busNames;     // switched on

@@ -69,9 +69,7 @@ void MainWidget::closeAppSlot()
 
 void MainWidget::closeApplication(bool hideCurrent)
 {
-    // A forced close is told to the host also when an ordinary one is under way: that one may be refused.
-    if (m_closing && !hideCurrent)
-        return;
+    // Every request is passed on, also when one is under way: the host may refuse any of them.
     m_closing = true;
     setCentralWidget(nullptr);
     ZelCustomData::deleteMenuPage();

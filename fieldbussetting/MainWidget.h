@@ -29,8 +29,7 @@ private:
     void closeApplication(bool hideCurrent);
     BaseZelCustomData* customData() const;
 
-    /// Never cleared once set: closing processes events, and a level that drops meanwhile closes nothing
-    /// twice.
+    /// Never cleared once set.
     bool m_closing = false;
 };
 

@@ -216,8 +216,6 @@ void ConfigWidget::refuse(const Message& message)
 
 void ConfigWidget::on_bt_EditOrSave_clicked()
 {
-    if (m_save.isUnderWay()) // no finger gets here meanwhile, but a key does
-        return;
     if (!m_editing) {
         setEditing(true);
         return;

@@ -28,6 +28,7 @@ public:
     ~ConfigWidget() override;
 
     void refreshStatus() override;
+    bool isAtWork() const override { return m_save.isUnderWay(); }
     void busNotification(int kind, const QString& path, bool success) override;
 
 signals:

@@ -48,8 +48,10 @@ public:
     /// constructor counts as gone when `maker` goes meanwhile: it shows nothing more and is to be deleted.
     static PageBase* make(PageBase* (*create)(), QWidget* maker);
 
-    /// Called on each idle tick of the host while the page is visible.
+    /// Called on each idle tick of the host while the page is visible or at work.
     virtual void refreshStatus() {}
+    /// Whether a save is under way that the idle ticks carry on, also while the page is hidden.
+    virtual bool isAtWork() const { return false; }
     /// Told once, right after construction, whether free bus configuration is switched on.
     virtual void setFreeConfiguration(bool open) { Q_UNUSED(open) }
 

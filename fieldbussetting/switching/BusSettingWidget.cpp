@@ -51,13 +51,11 @@ void BusSettingWidget::slotGetFileToUi()
 
 Outcome BusSettingWidget::reload()
 {
-    m_loading = true;
     m_board.setProfisafePresent(FieldbusModule::isProfisafePresent());
     const Outcome read =
         fetchAndRead(ConfigFile::Override, plain(&FieldbusSettingLib::readEtherCatFile), Texts);
     if (read == Outcome::Gone)
         return read;
-    m_loading = false;
     m_overrideRead = read == Outcome::Done;
     m_board.showRunning(m_overrideRead);
     return read;
@@ -165,7 +163,7 @@ void BusSettingWidget::showWarnings()
 
 void BusSettingWidget::on_saveBusBt_clicked()
 {
-    if (!isOccupied() && m_transfer.isSaveAllowed() && checkServoOff())
+    if (m_transfer.isSaveAllowed() && checkServoOff())
         m_save.begin();
 }
 

@@ -26,6 +26,7 @@ public:
     ~BusSettingWidget() override;
 
     void refreshStatus() override;
+    bool isAtWork() const override { return m_save.isUnderWay(); }
     void busNotification(int kind, const QString& path, bool success) override;
 
 signals:
@@ -64,7 +65,6 @@ private:
     bool isOverrideRead() const override { return m_overrideRead; }
     void takeInput(bool take) override;
     const TransferTexts& overrideTexts() const override { return Texts; }
-    bool isOccupied() const override { return m_loading || m_save.isUnderWay(); }
     RoleConditions roleConditions() const override;
     void holdSave() override;
 
@@ -81,7 +81,6 @@ private:
     SwitchBoard m_board{this};
     std::unique_ptr<Ui::BusSettingWidget> ui;
     bool m_overrideRead = true;
-    bool m_loading = false; ///< from the fetch on: a key can press a button meanwhile
     QQueue<SwitchWarning> m_warnings;
     bool m_showingWarnings = false;
     Poll m_moduleCheck{{70, 10}, this};

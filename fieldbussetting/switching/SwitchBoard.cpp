@@ -50,7 +50,7 @@ void SwitchBoard::layOut(QGridLayout* layout) const
 
 bool SwitchBoard::isOn(Switch which) const
 {
-    return combo(which)->currentIndex() != Off;
+    return combo(which)->isEnabled() ? combo(which)->currentIndex() != Off : runs(which);
 }
 
 States SwitchBoard::switchedOn() const

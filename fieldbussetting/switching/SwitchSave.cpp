@@ -232,10 +232,10 @@ void SwitchSave::restart()
     const bool stopped = Restart::controllerStopped();
     if (!page)
         return;
-    end();
-    // For as long as the page lives: the controller holds a configuration that it does not run.
+    // The controller holds a configuration that it does not run.
     if (!stopped)
-        m_exit.withdraw();
+        m_exitForGood.withdraw();
+    end();
     m_page.tellRestarted(stopped);
 }
 

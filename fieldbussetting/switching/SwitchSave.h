@@ -79,7 +79,8 @@ private:
     Poll m_busType{{50, 200}};
     std::optional<PageBase::Busy> m_busy;
     WaitNotice m_notice;
-    ExitPermission m_exit;
+    ExitPermission m_exit;        // while it waits for the controller
+    ExitPermission m_exitForGood; // for the page's life, whatever a later save brings
 };
 
 #endif

@@ -7,8 +7,6 @@ struct RoleConditions;
 class TransferHost
 {
 public:
-    /// Whether a save or a load is under way; nothing is carried meanwhile.
-    virtual bool isOccupied() const = 0;
     virtual RoleConditions roleConditions() const = 0;
     /// An import, or putting one back, has changed the controller's files. What the page shows is not what
     /// they hold: it must not be saved over them before the page is made anew.

@@ -20,7 +20,7 @@ UsbTransfer::UsbTransfer(PageBase& page, TransferHost& host)
 
 void UsbTransfer::runOnce(void (UsbTransfer::*transfer)())
 {
-    if (m_host.isOccupied() || isHeldUp())
+    if (isHeldUp())
         return;
     const TransferUnderWay underWay(&m_page);
     (this->*transfer)();

@@ -1,4 +1,5 @@
 #include "BusFileDataManager.h"
+#include "Desktop.h"
 #include "Faults.h"
 #include "IdleCounter.h"
 #include "PageTest.h"
@@ -6,6 +7,8 @@
 #include "VariableTable.h"
 #include "ZelBaseWidget.h"
 
+#include <QInputMethodEvent>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
 
@@ -113,8 +116,22 @@ private slots:
         signal(false);
         QVERIFY(menu->testAttribute(Qt::WA_TransparentForMouseEvents));
         QVERIFY(!press("exitBtn"));
+        auto* edit = page->findChild<QLineEdit*>();
+        const QString text = edit->text();
+        for (const char* button : {"configBtn", "exitBtn"})
+            QTest::keyClick(find(button), Qt::Key_Space);
+        QInputMethodEvent method;
+        method.setCommitString("1");
+        QCoreApplication::sendEvent(edit, &method);
+        QTest::mouseClick(edit, Qt::LeftButton);
+        QMetaObject::invokeMethod(menu, "slotMenuBtnsClicked", Q_ARG(int, 7));
+        QMetaObject::invokeMethod(menu, "on_exitBtn_clicked");
+        QVERIFY(isOpen() && page->isVisible());
+        QCOMPARE(edit->text(), text);
         signal(false);
         QVERIFY(!menu->testAttribute(Qt::WA_TransparentForMouseEvents));
+        QTest::keyClick(find("configBtn"), Qt::Key_Space);
+        QTRY_VERIFY(find("ConfigWidget"));
     }
 
     // The button deletes the page that it stands on while its own click is under way.
@@ -122,7 +139,15 @@ private slots:
     {
         for (int round = 0; round < 3; ++round) {
             QVERIFY(show());
+            // The host may refuse a request, so each is passed on.
+            int requests = 0;
+            const auto counted =
+                connect(&Desktop::instance(), &Desktop::closeRequested, [&requests] { ++requests; });
+            QWidget* application = find("FbMainWidget")->parentWidget();
             QVERIFY(press("exitBtn"));
+            QMetaObject::invokeMethod(application, "closeAppSlot");
+            disconnect(counted);
+            QCOMPARE(requests, 2);
             QTRY_VERIFY(!isOpen());
             QVERIFY(!find("FbMainWidget"));
             QTest::qWait(50);

@@ -217,7 +217,12 @@ void TestBusSwitch::theWholeRoad()
         if (box->text() != Waiting)
             return;
         blocked = !pendant.press("mesSwitch") && !pendant.press("exitBtn");
-        QMetaObject::invokeMethod(pendant.find("BusSettingWidget"), "on_saveBusBt_clicked"); // by a key
+        for (const char* button : {"heartbeatBtn", "exitBtn", "btn_export"})
+            QTest::keyClick(pendant.find(button), Qt::Key_Space);
+        QTest::keyClick(pendant.combo("pfnMasterSwitch"), Qt::Key_Down);
+        QTest::keyClick(const_cast<MsgBox*>(box), Qt::Key_Escape);
+        blocked = blocked && box->isVisible() && pendant.combo("pfnMasterSwitch")->isEnabled() &&
+                  pendant.combo("pfnMasterSwitch")->currentIndex() == 0;
     });
     pendant.answer({MsgBox::Confirmed, MsgBox::Confirmed, MsgBox::Confirmed});
     QVERIFY(pendant.save());
