@@ -1,6 +1,6 @@
 #include "PageRegistry.h"
 
-#include "BusRoleNames.h"
+#include "BusRoles.h"
 #include "BusSettingWidget.h"
 #include "ConfigWidget.h"
 #include "DeviceNetMasterSetting.h"
@@ -28,6 +28,8 @@ PageBase* create()
     return new Page;
 }
 
+using RoleTable::nameOf;
+
 constexpr const char* NoButton = nullptr;
 constexpr const char* NoBus = nullptr;
 
@@ -37,15 +39,15 @@ const std::array<Entry, PageCount>& entries()
 {
     // id, button, caption, row, shown, bus, page, blocks input, needs free mode
     static constexpr std::array<Entry, PageCount> table = {{
-        {0, "mesBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mes"), 1, Shown::WhenOn, BusRoleNames::Mes,
+        {0, "mesBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mes"), 1, Shown::WhenOn, nameOf(RoleId::Mes),
          create<MesSettingWidget>, true, false},
         {1, "pfbPfnBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pfn"), 4, Shown::WhenOn,
-         BusRoleNames::ProfinetSlave, create<Pfb_PfnSettingWidget>, true, true},
+         nameOf(RoleId::ProfinetSlave), create<Pfb_PfnSettingWidget>, true, true},
         {2, NoButton, "", 0, Shown::Never, NoBus, create<FinsTcpSettingWidget>, false, false},
         {3, "etherCatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "EthCat"), 5, Shown::WhenOn,
-         BusRoleNames::EtherCatSlave, create<EtherCatSettingWidget>, true, false},
+         nameOf(RoleId::EtherCatSlave), create<EtherCatSettingWidget>, true, false},
         {4, "etherNetBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eip"), 7, Shown::WhenOn,
-         BusRoleNames::EtherNetIPSlave, create<EtherNetSettingWidget>, true, true},
+         nameOf(RoleId::EtherNetIPSlave), create<EtherNetSettingWidget>, true, true},
         {5, "busSetting", QT_TRANSLATE_NOOP("FbMainWidget", "BusSetting"), 0, Shown::Always, NoBus,
          create<BusSettingWidget>, true, false},
         {6, "heartbeatBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Heartbeat"), 14, Shown::Always, NoBus,
@@ -53,17 +55,17 @@ const std::array<Entry, PageCount>& entries()
         {7, "configBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Configuration"), 15, Shown::Always, NoBus,
          create<ConfigWidget>, true, false},
         {8, "etherCatMBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Ecm"), 8, Shown::WhenOn,
-         BusRoleNames::EtherCatMaster, create<EcatMasterSettingWidget>, true, false},
+         nameOf(RoleId::EtherCatMaster), create<EcatMasterSettingWidget>, true, false},
         {9, "deviceBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dns"), 9, Shown::WhenOn,
-         BusRoleNames::DeviceNetSlave, create<DeviceNetSlaverSetting>, true, false},
+         nameOf(RoleId::DeviceNetSlave), create<DeviceNetSlaverSetting>, true, false},
         {10, "mtcpMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Mbc"), 3, Shown::WhenOn,
-         BusRoleNames::ModbusTcpMaster, create<MtcpMasterSetting>, true, false},
+         nameOf(RoleId::ModbusTcpMaster), create<MtcpMasterSetting>, true, false},
         {11, "eipMasterBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Eim"), 10, Shown::WhenOn,
-         BusRoleNames::EtherNetIPMaster, create<EipMasterSettingWidget>, true, false},
+         nameOf(RoleId::EtherNetIPMaster), create<EipMasterSettingWidget>, true, false},
         {12, "pnmBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Pnm"), 11, Shown::WhenOn,
-         BusRoleNames::ProfinetMaster, create<PfnMasterSetting>, true, false},
+         nameOf(RoleId::ProfinetMaster), create<PfnMasterSetting>, true, false},
         {13, "devicemBtn", QT_TRANSLATE_NOOP("FbMainWidget", "Dnm"), 12, Shown::WhenOn,
-         BusRoleNames::DeviceNetMaster, create<DeviceNetMasterSetting>, true, false},
+         nameOf(RoleId::DeviceNetMaster), create<DeviceNetMasterSetting>, true, false},
         {14, "btn_pfss", QT_TRANSLATE_NOOP("FbMainWidget", "Pfss"), 13, Shown::WithProfisafe, NoBus,
          create<ProfiSAFESlaveWidget>, false, false},
         {15, "btn_mtcp", QT_TRANSLATE_NOOP("FbMainWidget", "Mtcp"), 2, Shown::Always, NoBus,

@@ -1,33 +1,11 @@
 #include "BusSwitchFile.h"
 
-#include "BusRoleNames.h"
+#include "BusRoles.h"
 #include "XmlFile.h"
 
 #include <QStringList>
 
 namespace {
-
-struct Role
-{
-    const char* name;
-    bool BusSwitchSet::*enabled;
-    Qt::CaseSensitivity spelling; ///< how the controller's spelling of the name is compared
-};
-
-constexpr Role Roles[] = {
-    {BusRoleNames::Mes, &BusSwitchSet::Mes, Qt::CaseInsensitive},
-    {BusRoleNames::EtherCatSlave, &BusSwitchSet::EtherCatSlave, Qt::CaseInsensitive},
-    {BusRoleNames::ProfinetSlave, &BusSwitchSet::ProfinetSlave, Qt::CaseInsensitive},
-    {BusRoleNames::ProfinetMaster, &BusSwitchSet::ProfinetMaster, Qt::CaseInsensitive},
-    {BusRoleNames::FinsTcp, &BusSwitchSet::FinsTcp, Qt::CaseSensitive},
-    {BusRoleNames::EtherNetIPSlave, &BusSwitchSet::EtherNetIPSlave, Qt::CaseInsensitive},
-    {BusRoleNames::EtherCatMaster, &BusSwitchSet::EtherCatMaster, Qt::CaseInsensitive},
-    {BusRoleNames::DeviceNetSlave, &BusSwitchSet::DeviceNetSlave, Qt::CaseInsensitive},
-    {BusRoleNames::ModbusTcpMaster, &BusSwitchSet::ModbusTcpMaster, Qt::CaseInsensitive},
-    {BusRoleNames::EtherNetIPMaster, &BusSwitchSet::EtherNetIPMaster, Qt::CaseSensitive},
-    {BusRoleNames::DeviceNetMaster, &BusSwitchSet::DeviceNetMaster, Qt::CaseInsensitive},
-    {BusRoleNames::FreeBus, &BusSwitchSet::FreeBus, Qt::CaseInsensitive},
-};
 
 constexpr const char* RootElement = "FieldbusSettingConfig";
 
@@ -68,12 +46,13 @@ bool BusSwitchFile::read(const QByteArray& content, BusSwitchSet& switches, bool
         const QString name = QString::fromUtf8(entry.attribute("name").value());
         if (entry.child("enable").text().as_int() == 1)
             enabledNames.append(name);
-        if (isImport && name.contains(QLatin1String(BusRoleNames::ModbusTcpMaster), Qt::CaseInsensitive))
+        if (isImport &&
+            name.contains(QLatin1String(RoleTable::nameOf(RoleId::ModbusTcpMaster)), Qt::CaseInsensitive))
             switches.ModbusTcpMasterListed = true;
     }
-    for (const Role& role : Roles) {
-        if (enabledNames.contains(QLatin1String(role.name), role.spelling))
-            switches.*role.enabled = true;
+    for (const RoleInfo& role : RoleTable::Roles) {
+        if (role.switchFlag && enabledNames.contains(QLatin1String(role.name), role.spelling))
+            switches.*role.switchFlag = true;
     }
     return true;
 }
@@ -88,7 +67,7 @@ QByteArray BusSwitchFile::rewritten(const QByteArray& content)
         return {};
     for (const pugi::xml_node entry : document.child(RootElement).children()) {
         const QString name = QString::fromUtf8(entry.attribute("name").value());
-        if (name.compare(QLatin1String(BusRoleNames::ProfinetSlave), Qt::CaseInsensitive) == 0)
+        if (name.compare(QLatin1String(RoleTable::nameOf(RoleId::ProfinetSlave)), Qt::CaseInsensitive) == 0)
             entry.child("enable").first_child().set_value("0");
     }
     QuoteEscaper escaper;

@@ -1,5 +1,6 @@
 #include "BusMappingTab.h"
 
+#include "MappingService.h"
 #include "TouchTable.h"
 
 #include <QBoxLayout>
@@ -189,7 +190,9 @@ void BusMappingTab::showTable(const MappingModel& model, bool editing)
     int row = 0;
     for (const MappingModel::Row& shown : rows) {
         for (int column = 0; column < MappingModel::ColumnCount; ++column) {
-            setText(m_table->item(row, column), shown.cells.at(static_cast<std::size_t>(column)));
+            setText(m_table->item(row, column), column == MappingModel::TypeColumn
+                                                    ? translated(shown.typeText)
+                                                    : shown.cells.at(static_cast<std::size_t>(column)));
             if (editing && model.pressed(number, shown, column).kind != MappingModel::Press::Nothing)
                 marked.append(QItemSelectionRange(m_table->model()->index(row, column)));
         }

@@ -3,6 +3,7 @@
 #include "BusFileDataManager.h"
 #include "BusMappingTab.h"
 #include "DataAccess.h"
+#include "MappingService.h"
 #include "UpdateState.h"
 #include "ZelFunctions.h"
 #include "ui_ConfigWidget.h"
@@ -57,7 +58,7 @@ void ConfigWidget::buildTabs()
 void ConfigWidget::enableTabs()
 {
     for (const BusMappingTab* tab : m_tabs) {
-        const bool isOn = m_busNames.contains(QLatin1String(infoOf(tab->bus()).name), Qt::CaseInsensitive);
+        const bool isOn = m_busNames.contains(QLatin1String(infoOf(tab->bus()).name()), Qt::CaseInsensitive);
         const bool isEnabled =
             tab->bus() == Bus::MtcpSlave || (isOn && (tab->bus() != Bus::MtcpMaster || m_model.isFree()));
         // Visibility too: the tab bar gives a tab that is only disabled its place again at the next layout,
@@ -96,7 +97,7 @@ void ConfigWidget::showCurrent()
     BusMappingTab* tab = currentTab();
     tab->showTable(m_model, m_editing);
     tab->takeTips(ui->lab_Tips);
-    ui->lab_Tips->setText(tipsOf(tab->tableNumber(), m_model.isFree()));
+    ui->lab_Tips->setText(Mapping::translated(tipsOf(tab->tableNumber(), m_model.mode())));
 }
 
 void ConfigWidget::showAll()
@@ -108,7 +109,8 @@ void ConfigWidget::showAll()
 
 void ConfigWidget::slotGetFileToUi()
 {
-    m_model.load(service()->getBusNumAndAddr(), service()->isOpenFreeBus());
+    m_model.load(MappingService::fromService(service()->getBusNumAndAddr()),
+                 service()->isOpenFreeBus() ? MappingConfig::Free : MappingConfig::Fixed);
     m_busNames = switchedOnBuses();
     m_loaded = true;
     enableTabs();
@@ -184,7 +186,7 @@ void ConfigWidget::openEntry(Bus bus, const MappingModel::Row& row, const Mappin
         slot = isQuantity ? SLOT(slotMbcSetValue(double)) : SLOT(slotMbcSetAddr(double));
     else if (bus == Bus::MtcpSlave && m_model.isFree())
         slot = isQuantity ? SLOT(slotSetMtcpFreeValue(double)) : SLOT(slotSetMtcpFreeByteAndAddr(double));
-    const QString caption = isQuantity ? row.cells[MappingModel::TypeColumn] : tr("Start Address");
+    const QString caption = isQuantity ? Mapping::translated(row.typeText) : tr("Start Address");
     ZelExecNumericKeyboard(press.value, press.range.least, press.range.most, "%li", caption, this, slot);
 }
 
@@ -211,7 +213,7 @@ void ConfigWidget::take(const MappingModel::Entry& entry)
 
 void ConfigWidget::refuse(const Message& message)
 {
-    tell(static_cast<MsgBox::Kind>(message.severity), message.text);
+    tell(static_cast<MsgBox::Kind>(message.severity), Mapping::translated(message.text));
 }
 
 void ConfigWidget::on_bt_EditOrSave_clicked()
@@ -239,7 +241,7 @@ void ConfigWidget::on_bt_EditOrSave_clicked()
     if (DataAccess::isServoOn())
         tell(MsgBox::Warning, tr("Please turn off the servo first!"));
     else
-        m_save.begin(m_model.editedBuses());
+        m_save.begin(MappingService::editedBuses(m_model.buses()));
 }
 
 void ConfigWidget::forbidEditing()

@@ -88,9 +88,9 @@ private:
     std::vector<BusMappingTab*> m_tabs;
     bool m_loaded = false;
     bool m_editing = false;
-    bool m_entering = false;                // a keyboard or a refusal is open
-    int m_editedTable = 0;                  // the one of the cell that was pressed last
-    BusVariableType m_editedType = BusBool; // ... and its row's
+    bool m_entering = false;              // a keyboard or a refusal is open
+    int m_editedTable = 0;                // the one of the cell that was pressed last
+    MappedType m_editedType = MappedBool; // ... and its row's
     MappingSave m_save{*this, *this};
 };
 

@@ -1,7 +1,7 @@
 #include "DeviceNetMasterSetting.h"
 
 #include "BusFileDataManager.h"
-#include "BusRoleNames.h"
+#include "BusRoles.h"
 #include "QTouchLineEdit.h"
 #include "ZelFunctions.h"
 #include "ui_DeviceNetMasterSetting.h"
@@ -162,7 +162,7 @@ void DeviceNetMasterSetting::takeLimits()
     record.inputLimitBits = 0;
     record.outputLimitBits = 0;
     for (const BusAddrNumInfo& bus : BusFileDataManager::getInstance()->getBusNumAndAddr()) {
-        if (bus.busName != QLatin1String(BusRoleNames::DeviceNetMaster))
+        if (bus.busName != QLatin1String(RoleTable::nameOf(RoleId::DeviceNetMaster)))
             continue;
         record.inputLimitBits = bus.readOnly.user[BusBool].quantity;
         record.outputLimitBits = bus.writeOnly.user[BusBool].quantity;

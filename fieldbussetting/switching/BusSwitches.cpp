@@ -3,36 +3,32 @@
 #include "ControllerVariables.h"
 #include "FieldbusSettingLib.h"
 
-#include <QtGlobal>
-
 using namespace ControllerVariables;
 
 namespace BusSwitches {
 
-namespace {
-
-// The value of the performance switch word, halved, of the bus that is meant. The word has a bit a bus: the
-// EtherNet/IP slave's 4 gives 2; the PROFINET slave's 8 gives 4, so that its performance is never taken away
-// here. Controllers in the field count on that word staying as it is.
-constexpr int EipPerformance = 2;
-constexpr int PfnPerformance = 3;
-
-} // namespace
-
 const std::array<Row, Count>& rows()
 {
     static constexpr std::array<Row, Count> table = {{
-        {"mesSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "Mes Switch"), "Mes"},
-        {"ethcatSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "EtherCatSlave Switch"), "EtherCatSlave"},
-        {"ethcatMSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "EtherCatMaster Switch"), "EtherCatMaster"},
-        {"ethnetSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "EthernetIPSlave Switch"), "EtherNetIPSlave"},
-        {"eipMSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "EthernetIPMaster Switch"), "EtherNetIPMaster"},
-        {"pftSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "ProfinetSlave Switch"), "ProfinetSlave"},
-        {"pfnMasterSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "ProfinetMaster Switch"), "ProfinetMaster"},
-        {"devnetSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "DeviceNetSlave Switch"), "DeviceNetSlave"},
-        {"devnetmSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "DeviceNetMaster Switch"), "DeviceNetMaster"},
-        {"mbcSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "ModbusTcpMaster Switch"), "ModbusTcpMaster"},
-        {"freeBusSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", " FreeBus Switch"), "FreeBus"},
+        {"mesSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "Mes Switch"), RoleId::Mes},
+        {"ethcatSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "EtherCatSlave Switch"),
+         RoleId::EtherCatSlave},
+        {"ethcatMSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "EtherCatMaster Switch"),
+         RoleId::EtherCatMaster},
+        {"ethnetSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "EthernetIPSlave Switch"),
+         RoleId::EtherNetIPSlave},
+        {"eipMSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "EthernetIPMaster Switch"),
+         RoleId::EtherNetIPMaster},
+        {"pftSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "ProfinetSlave Switch"), RoleId::ProfinetSlave},
+        {"pfnMasterSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "ProfinetMaster Switch"),
+         RoleId::ProfinetMaster},
+        {"devnetSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "DeviceNetSlave Switch"),
+         RoleId::DeviceNetSlave},
+        {"devnetmSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "DeviceNetMaster Switch"),
+         RoleId::DeviceNetMaster},
+        {"mbcSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", "ModbusTcpMaster Switch"),
+         RoleId::ModbusTcpMaster},
+        {"freeBusSwitch", QT_TRANSLATE_NOOP("BusSettingWidget", " FreeBus Switch"), RoleId::FreeBus},
     }};
     return table;
 }
@@ -67,36 +63,6 @@ const std::array<RoleVariable, 7>& roleVariables()
         {DeviceNetMaster, &FieldbusSettingLib::set_ifidbus_dnm_state},
     }};
     return table;
-}
-
-const char* mastersObjection(const States& on)
-{
-    return int(on[EipMaster]) + int(on[EtherCatMaster]) + int(on[PfnMaster]) < 2
-               ? nullptr
-               : QT_TRANSLATE_NOOP("BusSettingWidget",
-                                   "EthernetIP master EtherCat master and Profinet master cannot be "
-                                   "enabled at the same time!");
-}
-
-const char* freeConfigurationObjection(const QString& objectName, int index, bool freeBusOn,
-                                       bool profisafePresent)
-{
-    if (index != On || freeBusOn)
-        return nullptr;
-    if (profisafePresent)
-        return QT_TRANSLATE_NOOP("BusSettingWidget",
-                                 "If ModbusTcp Master or Profinet Slave switch is ON,\n the bus free "
-                                 "configuration switch needs to be ON!");
-    if (!objectName.contains(QLatin1String("mbc")))
-        return nullptr;
-    return QT_TRANSLATE_NOOP("BusSettingWidget", "If ModbusTcp Master switch is ON,\n the bus free "
-                                                 "configuration switch needs to be ON!");
-}
-
-bool losesPerformance(int performanceSwitch, bool eipSlaveOn, bool pfnSlaveOn)
-{
-    const int holder = performanceSwitch / 2;
-    return (holder == EipPerformance && !eipSlaveOn) || (holder == PfnPerformance && !pfnSlaveOn);
 }
 
 } // namespace BusSwitches

@@ -1,9 +1,8 @@
 #ifndef BUSSWITCHES_H
 #define BUSSWITCHES_H
 
+#include "BusRoles.h"
 #include "zelCustomRvar.h"
-
-#include <QString>
 
 #include <array>
 
@@ -35,7 +34,9 @@ struct Row
 {
     const char* objectName; ///< of the switch
     const char* label;      ///< beside it
-    const char* busName;    ///< of the role, as the bus file data service calls it
+    RoleId role;
+
+    const char* busName() const { return RoleTable::nameOf(role); }
 };
 const std::array<Row, Count>& rows();
 
@@ -64,21 +65,6 @@ struct RoleVariable
 };
 /// In the order in which they are written.
 const std::array<RoleVariable, 7>& roleVariables();
-
-/// Which roles are on.
-using States = std::array<bool, Count>;
-
-/// Why masters may not be on together; null when they may. The text is one of the page's context, as are
-/// those of the other rules.
-const char* mastersObjection(const States& on);
-
-/// Why a switch may not stand as it does beside the bus free configuration; null when it may. `objectName`
-/// is the switch's.
-const char* freeConfigurationObjection(const QString& objectName, int index, bool freeBusOn,
-                                       bool profisafePresent);
-
-/// The performance switch word is left without effect when the bus that holds it is switched off.
-bool losesPerformance(int performanceSwitch, bool eipSlaveOn, bool pfnSlaveOn);
 
 } // namespace BusSwitches
 

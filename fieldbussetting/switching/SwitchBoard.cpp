@@ -1,6 +1,7 @@
 #include "SwitchBoard.h"
 
 #include "BusFileDataManager.h"
+#include "SwitchRules.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -24,7 +25,7 @@ SwitchBoard::SwitchBoard(QWidget* page)
         m_combos[i]->setObjectName(QLatin1String(rows()[i].objectName));
         m_combos[i]->addItems({tr("OFF"), tr("ON")});
         m_running[i] = std::any_of(running.begin(), running.end(), [i](const BusName& bus) {
-            return bus.name == QLatin1String(rows()[i].busName);
+            return bus.name == QLatin1String(rows()[i].busName());
         });
     }
     m_running[FreeBus] = service->isOpenFreeBus();
@@ -53,11 +54,11 @@ bool SwitchBoard::isOn(Switch which) const
     return combo(which)->isEnabled() ? combo(which)->currentIndex() != Off : runs(which);
 }
 
-States SwitchBoard::switchedOn() const
+RoleTable::States SwitchBoard::switchedOn() const
 {
-    States on{};
+    RoleTable::States on{};
     for (int i = 0; i < Count; ++i)
-        on[i] = isOn(static_cast<Switch>(i));
+        on[static_cast<std::size_t>(rows()[i].role)] = isOn(static_cast<Switch>(i));
     return on;
 }
 
@@ -114,6 +115,5 @@ bool SwitchBoard::isCommandWanted(Switch which) const
 
 const char* SwitchBoard::freeConfigurationObjection(Switch which) const
 {
-    return BusSwitches::freeConfigurationObjection(combo(which)->objectName(), combo(which)->currentIndex(),
-                                                   isOn(FreeBus), m_profisafePresent);
+    return SwitchRules::freeConfigurationObjection(rows()[which].role, switchedOn(), m_profisafePresent);
 }

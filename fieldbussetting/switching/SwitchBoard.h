@@ -32,7 +32,7 @@ public:
     bool isOn(Switch which) const;
     bool runs(Switch which) const { return m_running[which]; }
     bool differs(Switch which) const { return isOn(which) != runs(which); }
-    BusSwitches::States switchedOn() const;
+    RoleTable::States switchedOn() const;
 
     /// With ProfiSAFE two of the masters cannot be had, and more roles need the free configuration.
     void setProfisafePresent(bool present);

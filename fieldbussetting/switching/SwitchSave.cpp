@@ -3,6 +3,7 @@
 #include "BusFileDataManager.h"
 #include "ControllerVariables.h"
 #include "SwitchBoard.h"
+#include "SwitchRules.h"
 #include "SysSettingApi.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ SwitchSave::SwitchSave(PageBase& page, SwitchSaveHost& host, SwitchBoard& board)
 
 void SwitchSave::begin()
 {
-    if (const char* objection = mastersObjection(m_board.switchedOn())) {
+    if (const char* objection = SwitchRules::mastersObjection(m_board.switchedOn())) {
         m_page.tell(MsgBox::Information, tr(objection));
         return;
     }
@@ -185,7 +186,7 @@ void SwitchSave::sendSwitches()
     m_state = State::Ending;
     QMap<QString, BusName> roles = BusFileDataManager::getInstance()->getAllBusName();
     for (int i = 0; i < Count; ++i) {
-        const auto role = roles.find(QLatin1String(rows()[i].busName));
+        const auto role = roles.find(QLatin1String(rows()[i].busName()));
         if (role != roles.end())
             role->enabled = m_board.isOn(static_cast<Switch>(i));
     }
@@ -201,8 +202,7 @@ void SwitchSave::finish(bool sent)
             end();
         return;
     }
-    if (losesPerformance(lib()->get_ifidbus_performance_switch(), m_board.isOn(EipSlave),
-                         m_board.isOn(PfnSlave)))
+    if (SwitchRules::losesPerformance(lib()->get_ifidbus_performance_switch(), m_board.switchedOn()))
         lib()->set_ifidbus_performance_switch(0);
     switch (m_page.tell(MsgBox::Information,
                         tr("Successfully saved, the robot is about to restart and take effect."))) {

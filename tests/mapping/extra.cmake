@@ -1,6 +1,2 @@
-# The model of the I/O mapping knows no widget: it is tested by itself.
-set(mapping_sources ${CMAKE_SOURCE_DIR}/fieldbussetting/mapping)
-target_sources(
-  tst_mappingmodel PRIVATE ${mapping_sources}/MappingTables.cpp ${mapping_sources}/MappingLayout.cpp
-                           ${mapping_sources}/MappingChecks.cpp ${mapping_sources}/MappingModel.cpp
-                           ${mapping_sources}/MappingRows.cpp)
+# The rules of the I/O mapping know no widget: they are tested by themselves.
+target_link_libraries(tst_mappingmodel PRIVATE core_rules)

@@ -1,4 +1,3 @@
-#include "BusMappingFile.h"
 #include "FileStore.h"
 #include "MappingCheck.h"
 #include "MappingModel.h"
@@ -10,64 +9,77 @@ using namespace Mapping;
 
 namespace {
 
-constexpr quint32 NoAddress = NoBusAddress;
+constexpr quint32 NoAddress = MappingRow::NoAddress;
 
 using Quantities = std::array<int, 3>;
 
-// A model in which one area holds quantities that lie where an entry of their own would put them.
-BusAreaInfo areaWith(const Quantities& quantities)
+Mode modeOf(bool freeMode)
 {
-    BusAreaInfo area;
+    return freeMode ? MappingConfig::Free : MappingConfig::Fixed;
+}
+
+// A model in which one area holds quantities that lie where an entry of their own would put them.
+MappingArea areaWith(const Quantities& quantities)
+{
+    MappingArea area;
     for (std::size_t type = 0; type < quantities.size(); ++type)
         area.user[type].quantity = quantities[type];
     return area;
 }
 
-BusAreaInfo blockWith(const Quantities& quantities, Layout layout, quint32 start)
+MappingArea blockWith(const Quantities& quantities, Layout layout, quint32 start)
 {
-    BusAreaInfo area = areaWith(quantities);
+    MappingArea area = areaWith(quantities);
     layOut(area, layout, start);
     return area;
 }
 
-MappingModel modelWith(Bus bus, const BusAreaInfo& readOnly, const BusAreaInfo& writeOnly = {},
-                       const BusAreaInfo& readWrite = {}, bool freeMode = true)
+MappingModel modelWith(Bus bus, const MappingArea& readOnly, const MappingArea& writeOnly = {},
+                       const MappingArea& readWrite = {}, bool freeMode = true)
 {
+    Buses buses;
+    buses[std::size_t(bus)].areas = {readOnly, writeOnly, readWrite};
     MappingModel model;
-    model.load({{QLatin1String(infoOf(bus).name), readOnly, writeOnly, readWrite}}, freeMode);
+    model.load(buses, modeOf(freeMode));
+    return model;
+}
+
+MappingModel modelWith(int number, const MappingArea& area, Mode mode)
+{
+    Buses buses;
+    areaOf(buses[std::size_t(tableOf(number).bus)], tableOf(number).direction) = area;
+    MappingModel model;
+    model.load(buses, mode);
     return model;
 }
 
 MappingModel modelWith(int number, const Quantities& quantities, bool freeMode)
 {
-    BusAddrNumInfo bus;
-    bus.busName = QLatin1String(infoOf(tableOf(number).bus).name);
-    bus.*areaOf(tableOf(number).direction) = areaWith(quantities);
-    MappingModel model;
-    model.load({bus}, freeMode);
-    return model;
+    return modelWith(number, areaWith(quantities), modeOf(freeMode));
 }
 
 QString refusalOf(const MappingModel::Entry& entry)
 {
-    return entry.refusal ? entry.refusal->text : QString();
+    return entry.refusal ? entry.refusal->text.inEnglish() : QString();
 }
 
-QString addresses(const BusAreaInfo& area)
+QString addresses(const MappingArea& area)
 {
     const auto text = [](quint32 start, quint32 end) {
         return start == NoAddress && end == NoAddress ? QStringLiteral("none")
                                                       : QStringLiteral("%1-%2").arg(start).arg(end);
     };
     QStringList texts;
-    for (const BusRowInfo& row : area.user)
+    for (const MappingRow& row : area.user)
         texts << text(row.start, row.end);
     return texts.join(' ') + QStringLiteral(" = ") + text(area.start, area.end);
 }
 
 QString cellsOf(const MappingModel::Row& row)
 {
-    return QStringList(row.cells.begin(), row.cells.end()).join('|');
+    QStringList cells(row.cells.begin(), row.cells.end());
+    cells.first() = QLatin1String(row.typeText);
+    return cells.join('|');
 }
 
 } // namespace
@@ -109,21 +121,22 @@ private slots:
     {
         const auto [tables, freeMode, most] = ::Rows<QVector<int>, bool, Quantities>::current();
         for (const int number : qAsConst(tables)) {
-            for (const BusVariableType type : {BusBool, BusInt, BusFloat}) {
+            for (const MappedType type : {MappedBool, MappedInt, MappedFloat}) {
                 if (most[type] < 0)
                     continue;
                 MappingModel model = modelWith(number, {}, freeMode);
                 const Bus bus = tableOf(number).bus;
-                const BusAddrNumInfo before = model.recordOf(bus);
+                const MappingBus before = model.recordOf(bus);
                 QCOMPARE(refusalOf(model.enterQuantity(number, type, most[type] + 1)),
                          QString("Limit Range: 0 ~ %1, Please Fill In Again!").arg(most[type]));
                 QVERIFY(model.recordOf(bus) == before);
                 QCOMPARE(refusalOf(model.enterQuantity(number, type, most[type])), QString());
-                QCOMPARE((model.recordOf(bus).*areaOf(tableOf(number).direction)).user[type].quantity,
+                QCOMPARE(areaOf(model.recordOf(bus), tableOf(number).direction).user[type].quantity,
                          most[type]);
             }
-            QVERIFY(tipsOf(number, freeMode).contains(QString::number(most[BusBool])));
-            QVERIFY2(!tipsOf(number, freeMode).contains('%'), qPrintable(tipsOf(number, freeMode)));
+            const QString tips = tipsOf(number, modeOf(freeMode)).inEnglish();
+            QVERIFY(tips.contains(QString::number(most[MappedBool])));
+            QVERIFY2(!tips.contains('%'), qPrintable(tips));
         }
     }
 
@@ -136,22 +149,23 @@ private slots:
             "ModbusTCP:User Bool and User Int Bytes Limit Range: 0 ~ 80, Please Fill In Again!");
         const QString master = QStringLiteral(
             "The current total input bytes are %1, \nexceeding the maximum bytes of %2. Please re-enter");
-        row("Modbus TCP slave", 0, true, {1024, 60, 0}, BusFloat, 2, plain.arg(256));
-        row("fixed Modbus TCP slave", 1, false, {320, 19, 0}, BusFloat, 13, plain.arg(132));
-        row("fixed Modbus TCP slave, Bool and Int", 0, false, {320, 0, 0}, BusInt, 20, small);
-        row("fixed Modbus TCP slave, both", 2, false, {512, 60, 0}, BusFloat, 4, plain.arg(200));
-        row("fixed Modbus TCP slave, both, Bool and Int", 2, false, {512, 0, 0}, BusInt, 68, plain.arg(200));
-        row("EtherCAT slave", 3, true, {1024, 0, 4}, BusInt, 20, plain.arg(184));
-        row("fixed EtherCAT slave", 4, false, {0, 50, 0}, BusFloat, 4, plain.arg(116));
-        row("EtherNet/IP slave", 5, true, {0, 98, 0}, BusFloat, 1, plain.arg(200));
-        row("fixed EtherNet/IP slave", 6, false, {0, 40, 0}, BusFloat, 13, plain.arg(132));
-        row("PROFINET slave", 7, true, {0, 0, 40}, BusInt, 16, plain.arg(192));
-        row("fixed PROFINET slave", 8, false, {0, 0, 30}, BusInt, 2, plain.arg(124));
-        row("fixed DeviceNet slave", 11, false, {0, 40, 0}, BusFloat, 13, plain.arg(132));
-        row("Modbus TCP master reads", 13, true, {0, 125, 0}, BusFloat, 0, master.arg(254).arg(250));
-        row("Modbus TCP master writes", 14, true, {0, 0, 61}, BusInt, 1, master.arg(248).arg(246));
+        row("Modbus TCP slave", 0, true, {1024, 60, 0}, MappedFloat, 2, plain.arg(256));
+        row("fixed Modbus TCP slave", 1, false, {320, 19, 0}, MappedFloat, 13, plain.arg(132));
+        row("fixed Modbus TCP slave, Bool and Int", 0, false, {320, 0, 0}, MappedInt, 20, small);
+        row("fixed Modbus TCP slave, both", 2, false, {512, 60, 0}, MappedFloat, 4, plain.arg(200));
+        row("fixed Modbus TCP slave, both, Bool and Int", 2, false, {512, 0, 0}, MappedInt, 68,
+            plain.arg(200));
+        row("EtherCAT slave", 3, true, {1024, 0, 4}, MappedInt, 20, plain.arg(184));
+        row("fixed EtherCAT slave", 4, false, {0, 50, 0}, MappedFloat, 4, plain.arg(116));
+        row("EtherNet/IP slave", 5, true, {0, 98, 0}, MappedFloat, 1, plain.arg(200));
+        row("fixed EtherNet/IP slave", 6, false, {0, 40, 0}, MappedFloat, 13, plain.arg(132));
+        row("PROFINET slave", 7, true, {0, 0, 40}, MappedInt, 16, plain.arg(192));
+        row("fixed PROFINET slave", 8, false, {0, 0, 30}, MappedInt, 2, plain.arg(124));
+        row("fixed DeviceNet slave", 11, false, {0, 40, 0}, MappedFloat, 13, plain.arg(132));
+        row("Modbus TCP master reads", 13, true, {0, 125, 0}, MappedFloat, 0, master.arg(254).arg(250));
+        row("Modbus TCP master writes", 14, true, {0, 0, 61}, MappedInt, 1, master.arg(248).arg(246));
         // 17 Bools are 2 bytes, but 32 are 4: what the rounding makes counts.
-        row("the rounded quantity counts", 13, true, {0, 124, 0}, BusBool, 16, master.arg(252).arg(250));
+        row("the rounded quantity counts", 13, true, {0, 124, 0}, MappedBool, 16, master.arg(252).arg(250));
     }
 
     void bytes()
@@ -159,9 +173,9 @@ private slots:
         const auto [number, freeMode, present, type, full, message] =
             ::Rows<int, bool, Quantities, int, int, QString>::current();
         MappingModel model = modelWith(number, present, freeMode);
-        const auto variable = static_cast<BusVariableType>(type);
+        const auto variable = static_cast<MappedType>(type);
         QCOMPARE(refusalOf(model.enterQuantity(number, variable, full)), QString());
-        const BusAddrNumInfo before = model.recordOf(tableOf(number).bus);
+        const MappingBus before = model.recordOf(tableOf(number).bus);
         QCOMPARE(refusalOf(model.enterQuantity(number, variable, full + 1)), message);
         QVERIFY(model.recordOf(tableOf(number).bus) == before);
     }
@@ -182,9 +196,9 @@ private slots:
     {
         const auto [number, entered, kept] = ::Rows<int, int, int>::current();
         MappingModel model = modelWith(number, {}, true);
-        QCOMPARE(refusalOf(model.enterQuantity(number, BusBool, entered)), QString());
+        QCOMPARE(refusalOf(model.enterQuantity(number, MappedBool, entered)), QString());
         const SubTable& table = tableOf(number);
-        QCOMPARE((model.recordOf(table.bus).*areaOf(table.direction)).user[BusBool].quantity, kept);
+        QCOMPARE(areaOf(model.recordOf(table.bus), table.direction).user[MappedBool].quantity, kept);
     }
 
     void noNumbers_data()
@@ -198,8 +212,8 @@ private slots:
     {
         const auto [value] = ::Rows<double>::current();
         MappingModel model = modelWith(Bus::MtcpSlave, blockWith({16, 0, 0}, Layout::SlaveRegisters, 40001));
-        const BusAddrNumInfo before = model.recordOf(Bus::MtcpSlave);
-        QVERIFY(model.enterQuantity(0, BusBool, value).refusal);
+        const MappingBus before = model.recordOf(Bus::MtcpSlave);
+        QVERIFY(model.enterQuantity(0, MappedBool, value).refusal);
         QVERIFY(model.enterStart(0, value).refusal);
         QVERIFY(model.recordOf(Bus::MtcpSlave) == before);
     }
@@ -242,10 +256,10 @@ private slots:
         // Behind a system area every row moves by its size; a block keeps its own start.
         if (layout != Layout::Bytes && layout != Layout::SlaveRegisters)
             return;
-        const BusAreaInfo plain = blockWith(quantities, layout, start);
-        BusAreaInfo area = areaWith(quantities);
-        area.system[BusBool] = {64, start, start + 7};
-        area.system[BusFloat] = {12, start + 20, start + 67};
+        const MappingArea plain = blockWith(quantities, layout, start);
+        MappingArea area = areaWith(quantities);
+        area.system[MappedBool] = {64, start, start + 7};
+        area.system[MappedFloat] = {12, start + 20, start + 67};
         layOut(area, layout, start);
         for (std::size_t type = 0; type < plain.user.size(); ++type) {
             const quint32 moved = quantities[type] == 0 ? 0 : 68;
@@ -299,9 +313,9 @@ private slots:
         const auto [number, isStart, value, message] = ::Rows<int, bool, int, QString>::current();
         const auto block = [](quint32 start) { return blockWith({0, 10, 0}, Layout::SlaveRegisters, start); };
         MappingModel model = modelWith(Bus::MtcpSlave, block(40101), block(40001), block(40301));
-        const BusAddrNumInfo before = model.recordOf(Bus::MtcpSlave);
+        const MappingBus before = model.recordOf(Bus::MtcpSlave);
         const MappingModel::Entry entry =
-            isStart ? model.enterStart(number, value) : model.enterQuantity(number, BusInt, value);
+            isStart ? model.enterStart(number, value) : model.enterQuantity(number, MappedInt, value);
         QCOMPARE(refusalOf(entry), message);
         QCOMPARE(model.recordOf(Bus::MtcpSlave) == before, !message.isEmpty());
         QCOMPARE(entry.movedSlaveBlock, message.isEmpty());
@@ -314,12 +328,12 @@ private slots:
     {
         const auto block = [](quint32 start) { return blockWith({0, 10, 0}, Layout::SlaveRegisters, start); };
         MappingModel model = modelWith(Bus::MtcpSlave, block(40101), block(40001), block(40991));
-        QCOMPARE(refusalOf(model.enterQuantity(2, BusInt, 11)),
+        QCOMPARE(refusalOf(model.enterQuantity(2, MappedInt, 11)),
                  QString("The current input end address is 41001. The end address\n must be less than 41000. "
                          "Please re-enter!"));
-        QVERIFY(!model.enterQuantity(0, BusInt, 10).movedSlaveBlock);
+        QVERIFY(!model.enterQuantity(0, MappedInt, 10).movedSlaveBlock);
         QVERIFY(!model.enterStart(0, 40101).movedSlaveBlock);
-        QVERIFY(model.enterQuantity(0, BusInt, 9).movedSlaveBlock);
+        QVERIFY(model.enterQuantity(0, MappedInt, 9).movedSlaveBlock);
         // Without a block above it nothing but the bytes limits the block, and an oversized one cannot be
         // moved.
         model = modelWith(Bus::MtcpSlave, blockWith({0, 0, 65}, Layout::SlaveRegisters, 40101));
@@ -329,7 +343,7 @@ private slots:
                     "re-enter"));
         // In the fixed mode a move is nothing to tell, and a block may be emptied.
         model = modelWith(Bus::MtcpSlave, block(40101), {}, {}, false);
-        const MappingModel::Entry emptied = model.enterQuantity(0, BusInt, 0);
+        const MappingModel::Entry emptied = model.enterQuantity(0, MappedInt, 0);
         QVERIFY(!emptied.refusal && !emptied.movedSlaveBlock);
         QCOMPARE(addresses(model.recordOf(Bus::MtcpSlave).readOnly), QString("none none none = 40101-40100"));
     }
@@ -368,9 +382,9 @@ private slots:
             return blockWith({0, 10, 0}, Layout::MasterRegisters, start);
         };
         MappingModel model = modelWith(Bus::MtcpMaster, block(40001), block(40021));
-        const BusAddrNumInfo before = model.recordOf(Bus::MtcpMaster);
+        const MappingBus before = model.recordOf(Bus::MtcpMaster);
         const MappingModel::Entry entry =
-            isStart ? model.enterStart(number, value) : model.enterQuantity(number, BusInt, value);
+            isStart ? model.enterStart(number, value) : model.enterQuantity(number, MappedInt, value);
         QCOMPARE(refusalOf(entry), message);
         QCOMPARE(model.recordOf(Bus::MtcpMaster) == before, !message.isEmpty());
         QVERIFY(!entry.movedSlaveBlock);
@@ -379,35 +393,35 @@ private slots:
     void aBlockComesBackToItsPlace()
     {
         const auto area = [](const MappingModel& model, int number) {
-            return addresses(model.recordOf(tableOf(number).bus).*areaOf(tableOf(number).direction));
+            return addresses(areaOf(model.recordOf(tableOf(number).bus), tableOf(number).direction));
         };
         MappingModel model;
-        model.load({}, true);
+        model.load({}, MappingConfig::Free);
         // What was never placed lies behind the other direction.
-        QVERIFY(!model.enterQuantity(13, BusInt, 10).refusal);
-        QVERIFY(!model.enterQuantity(14, BusInt, 5).refusal);
+        QVERIFY(!model.enterQuantity(13, MappedInt, 10).refusal);
+        QVERIFY(!model.enterQuantity(14, MappedInt, 5).refusal);
         QCOMPARE(area(model, 13), QString("none 40001-40010 40011-40010 = 40001-40010"));
         QCOMPARE(area(model, 14), QString("none 40011-40015 40016-40015 = 40011-40015"));
         // An emptied block keeps its place, and has no start to be moved.
-        QVERIFY(!model.enterQuantity(14, BusInt, 0).refusal);
+        QVERIFY(!model.enterQuantity(14, MappedInt, 0).refusal);
         QCOMPARE(area(model, 14), QString("none none 40011-40010 = none"));
         QCOMPARE(refusalOf(model.enterStart(14, 40100)), QString("Cannot set start address for quantity 0!"));
-        QVERIFY(!model.enterQuantity(14, BusFloat, 1).refusal);
+        QVERIFY(!model.enterQuantity(14, MappedFloat, 1).refusal);
         QCOMPARE(area(model, 14), QString("none none 40011-40012 = 40011-40012"));
         // While it was away the other one has taken its place.
-        QVERIFY(!model.enterQuantity(14, BusFloat, 0).refusal);
-        QVERIFY(!model.enterQuantity(13, BusInt, 11).refusal);
-        QCOMPARE(refusalOf(model.enterQuantity(14, BusFloat, 1)),
+        QVERIFY(!model.enterQuantity(14, MappedFloat, 0).refusal);
+        QVERIFY(!model.enterQuantity(13, MappedInt, 11).refusal);
+        QCOMPARE(refusalOf(model.enterQuantity(14, MappedFloat, 1)),
                  QString("Currently, only the starting address is calculated by default from 40011,\n which "
                          "conflicts with a read-only address!"));
 
         // The slave's blocks follow each other, too.
-        QVERIFY(!model.enterQuantity(1, BusInt, 10).refusal);
-        QVERIFY(!model.enterQuantity(0, BusInt, 10).refusal);
-        QVERIFY(!model.enterQuantity(2, BusInt, 10).refusal);
+        QVERIFY(!model.enterQuantity(1, MappedInt, 10).refusal);
+        QVERIFY(!model.enterQuantity(0, MappedInt, 10).refusal);
+        QVERIFY(!model.enterQuantity(2, MappedInt, 10).refusal);
         QCOMPARE(area(model, 2), QString("none 40021-40030 none = 40021-40030"));
         QVERIFY(!model.enterStart(5, 40001).refusal); // no registers, nothing to enter
-        QVERIFY(model.recordOf(Bus::EipSlave).readOnly == BusAreaInfo());
+        QVERIFY(model.recordOf(Bus::EipSlave).areas[ReadOnlyArea] == MappingArea());
     }
 
     void rows_data()
@@ -434,14 +448,10 @@ private slots:
     {
         const auto [number, freeMode, cells] = ::Rows<int, bool, QStringList>::current();
         const SubTable& table = tableOf(number);
-        BusAddrNumInfo bus;
-        bus.busName = QLatin1String(infoOf(table.bus).name);
-        BusAreaInfo& area = bus.*areaOf(table.direction);
-        area = blockWith({32, 3, 0}, Layout::SlaveRegisters, 40001);
-        area.system[BusBool] = {64, 7, 14};
-        area.system[BusFloat] = {1, NoAddress, NoAddress};
-        MappingModel model;
-        model.load({bus}, freeMode);
+        MappingArea area = blockWith({32, 3, 0}, Layout::SlaveRegisters, 40001);
+        area.system[MappedBool] = {64, 7, 14};
+        area.system[MappedFloat] = {1, NoAddress, NoAddress};
+        MappingModel model = modelWith(number, area, modeOf(freeMode));
         QStringList shown;
         for (const MappingModel::Row& row : model.rowsOf(number)) {
             if (!row.isHidden)
@@ -450,13 +460,13 @@ private slots:
         QCOMPARE(shown, cells);
 
         // Seven Bools are no byte, and a quantity of 0 has no address whatever the file says.
-        area.user[BusBool].quantity = 7;
-        area.user[BusInt].quantity = 0;
-        model.load({bus}, freeMode);
+        area.user[MappedBool].quantity = 7;
+        area.user[MappedInt].quantity = 0;
+        model = modelWith(number, area, modeOf(freeMode));
         for (const MappingModel::Row& row : model.rowsOf(number)) {
-            if (row.kind == MappingModel::Row::User && row.type == BusBool)
+            if (row.kind == MappingModel::Row::User && row.type == MappedBool)
                 QCOMPARE(row.cells[MappingModel::Byte], QString("0"));
-            if (row.kind == MappingModel::Row::User && row.type == BusInt)
+            if (row.kind == MappingModel::Row::User && row.type == MappedInt)
                 QVERIFY2(cellsOf(row).endsWith("|--|--|--"), qPrintable(cellsOf(row)));
         }
     }
@@ -557,8 +567,8 @@ private slots:
         // What is written is not looked at.
         const MappingModel model =
             modelWith(bus, areaWith(quantities), areaWith({9000, 9000, 9000}), {}, freeMode);
-        const Refusal refusal = model.saveRefusal({QString(infoOf(bus).name).toUpper()});
-        QCOMPARE(refusal ? refusal->text : QString(), message);
+        const Refusal refusal = model.saveRefusal({QString(infoOf(bus).name()).toUpper()});
+        QCOMPARE(refusal ? refusal->text.inEnglish() : QString(), message);
         if (refusal)
             QVERIFY(refusal->severity == Severity::Warning);
     }
@@ -566,11 +576,11 @@ private slots:
     void aBusThatIsNotOnIsNotChecked()
     {
         MappingModel model; // everything empty
-        model.load({}, true);
+        model.load({}, MappingConfig::Free);
         QVERIFY(!model.saveRefusal({"EtherCatSlave", "ModbusTcpMaster"}));
         // The first one in order speaks, whatever the order of the list.
         const Refusal first = model.saveRefusal({"DeviceNetSlave", "profinetslave", "EtherCatSlave"});
-        QVERIFY(first && first->text.startsWith("Profinet:"));
+        QVERIFY(first && first->text.inEnglish().startsWith("Profinet:"));
     }
 
     // Every quantity of the factory's file could be entered as it is, and lies where it would come to lie.
@@ -578,27 +588,25 @@ private slots:
     {
         const QByteArray content = FileStore::factoryFile("/application/fidbus/fieldbus_config.xml");
         QCOMPARE(mappingFault(content), QString());
-        BusMappingFile file;
-        QVERIFY(file.parse(content));
-        for (const auto mode : {BusMappingFile::Free, BusMappingFile::Fixed}) {
-            const std::vector<BusAddrNumInfo> buses = file.buses(mode);
-            QCOMPARE(buses.size(), std::size_t(10));
+        MappingConfig config;
+        QVERIFY(MappingFile::read(content, config));
+        QStringList names;
+        for (const RoleInfo& role : RoleTable::Roles)
+            names << role.name;
+        for (const Mode mode : {MappingConfig::Free, MappingConfig::Fixed}) {
             MappingModel model;
-            model.load(buses, mode == BusMappingFile::Free);
-            QStringList names;
-            for (const BusAddrNumInfo& bus : buses)
-                names << bus.busName;
+            model.load(config.buses[mode], mode);
             const Refusal refusal = model.saveRefusal(names);
-            QVERIFY2(!refusal, refusal ? qPrintable(refusal->text) : "");
-            for (int number = 0; number <= 20; ++number) {
+            QVERIFY2(!refusal, refusal ? qPrintable(refusal->text.inEnglish()) : "");
+            for (int number = 0; number < TableCount; ++number) {
                 const SubTable& table = tableOf(number);
-                const BusAddrNumInfo before = model.recordOf(table.bus);
-                for (const BusVariableType type : {BusBool, BusInt, BusFloat}) {
-                    const int quantity = (before.*areaOf(table.direction)).user[type].quantity;
+                const MappingBus before = model.recordOf(table.bus);
+                for (const MappedType type : Types) {
+                    const int quantity = areaOf(before, table.direction).user[type].quantity;
                     if (quantity == 0)
                         continue;
                     QCOMPARE(refusalOf(model.enterQuantity(number, type, quantity)), QString());
-                    QVERIFY2(model.recordOf(table.bus) == before, qPrintable(before.busName));
+                    QVERIFY2(model.recordOf(table.bus) == before, infoOf(table.bus).name());
                 }
             }
         }

@@ -43,11 +43,11 @@ ImportPreviewDialog::ImportPreviewDialog(const QString& folderName, const std::v
     ui->setupUi(this);
     applyStyle();
     ui->label_title->setText(tr("Import of %1").arg(folderName));
-    showFiles(entries, roles.brokenRules.isEmpty());
+    showFiles(entries, roles.brokenRules.empty());
     showRoles(roles);
 
     const bool possible =
-        roles.brokenRules.isEmpty() &&
+        roles.brokenRules.empty() &&
         std::any_of(entries.begin(), entries.end(), [](const ImportEntry& entry) { return entry.isSent(); });
     ui->importButton->setVisible(possible);
     if (!possible)
@@ -94,8 +94,10 @@ void ImportPreviewDialog::showRoles(const ImportedRoles& roles)
     }
     ui->roleTable->setVisible(!roles.roles.empty());
 
-    const bool refused = !roles.brokenRules.isEmpty();
-    QStringList notices = roles.brokenRules;
+    const bool refused = !roles.brokenRules.empty();
+    QStringList notices;
+    for (const char* rule : roles.brokenRules)
+        notices << QCoreApplication::translate("BusSettingWidget", rule);
     if (refused)
         notices.prepend(tr("This configuration cannot be imported:"));
     if (roles.profinetSlaveSwitchedOff)

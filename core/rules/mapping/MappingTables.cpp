@@ -1,9 +1,5 @@
 #include "MappingTables.h"
 
-#include "BusRoleNames.h"
-
-#include <QCoreApplication>
-
 namespace Mapping {
 
 namespace {
@@ -114,24 +110,24 @@ constexpr std::array<SubTable, TableCount> Tables = {{
     {Bus::DnMaster, WO, "dnm_wo_b", "", "Bus_Set[0]", &DnMasterAll, &DnMasterAll},
 }};
 
-constexpr std::array<BusInfo, BusCount> Buses = {{
-    {BusRoleNames::ModbusTcpSlave, Layout::SlaveRegisters, true, 0, 3},
-    {BusRoleNames::EtherCatSlave, Layout::Bytes, true, 3, 2},
-    {BusRoleNames::EtherNetIPSlave, Layout::Bytes, true, 5, 2},
-    {BusRoleNames::ProfinetSlave, Layout::Bytes, true, 7, 2},
-    {BusRoleNames::EtherCatMaster, Layout::MasterBools, false, 9, 2},
-    {BusRoleNames::DeviceNetSlave, Layout::Bytes, true, 11, 2},
-    {BusRoleNames::ModbusTcpMaster, Layout::MasterRegisters, true, 13, 2},
-    {BusRoleNames::EtherNetIPMaster, Layout::MasterBools, false, 15, 2},
-    {BusRoleNames::ProfinetMaster, Layout::MasterBools, false, 17, 2},
-    {BusRoleNames::DeviceNetMaster, Layout::MasterBools, true, 19, 2},
+constexpr std::array<BusInfo, BusCount> BusInfos = {{
+    {RoleId::ModbusTcpSlave, Layout::SlaveRegisters, true, 0, 3},
+    {RoleId::EtherCatSlave, Layout::Bytes, true, 3, 2},
+    {RoleId::EtherNetIPSlave, Layout::Bytes, true, 5, 2},
+    {RoleId::ProfinetSlave, Layout::Bytes, true, 7, 2},
+    {RoleId::EtherCatMaster, Layout::MasterBools, false, 9, 2},
+    {RoleId::DeviceNetSlave, Layout::Bytes, true, 11, 2},
+    {RoleId::ModbusTcpMaster, Layout::MasterRegisters, true, 13, 2},
+    {RoleId::EtherNetIPMaster, Layout::MasterBools, false, 15, 2},
+    {RoleId::ProfinetMaster, Layout::MasterBools, false, 17, 2},
+    {RoleId::DeviceNetMaster, Layout::MasterBools, true, 19, 2},
 }};
 
 } // namespace
 
 const BusInfo& infoOf(Bus bus)
 {
-    return Buses.at(static_cast<std::size_t>(bus));
+    return BusInfos.at(static_cast<std::size_t>(bus));
 }
 
 const SubTable& tableOf(int number)
@@ -144,35 +140,24 @@ int numberOf(Bus bus, Direction direction)
     return infoOf(bus).firstTable + static_cast<int>(direction);
 }
 
-const Limits& limitsOf(int number, bool freeMode)
+const Limits& limitsOf(int number, Mode mode)
 {
     const SubTable& table = tableOf(number);
-    return freeMode ? *table.freeLimits : *table.fixedLimits;
+    return mode == MappingConfig::Free ? *table.freeLimits : *table.fixedLimits;
 }
 
-QString translated(const char* text)
+MarkedText tipsOf(int number, Mode mode)
 {
-    return QCoreApplication::translate("ConfigWidget", text);
-}
-
-QString tipsOf(int number, bool freeMode)
-{
-    const Limits& limits = limitsOf(number, freeMode);
-    QString tips = translated(limits.tips);
-    for (const int value : {limits.quantity[BusBool], limits.quantity[BusInt], limits.quantity[BusFloat],
-                            limits.boolMultiple, limits.smallBytes.least, limits.smallBytes.most,
-                            limits.allBytes.least, limits.allBytes.most, limits.smallMultiple}) {
+    const Limits& limits = limitsOf(number, mode);
+    MarkedText tips{limits.tips, {}};
+    for (const int value :
+         {limits.quantity[MappedBool], limits.quantity[MappedInt], limits.quantity[MappedFloat],
+          limits.boolMultiple, limits.smallBytes.least, limits.smallBytes.most, limits.allBytes.least,
+          limits.allBytes.most, limits.smallMultiple}) {
         if (value != None)
-            tips = tips.arg(value);
+            tips.arguments << QString::number(value);
     }
     return tips;
-}
-
-BusAreaInfo BusAddrNumInfo::*areaOf(Direction direction)
-{
-    constexpr BusAreaInfo BusAddrNumInfo::*Areas[] = {&BusAddrNumInfo::readOnly, &BusAddrNumInfo::writeOnly,
-                                                      &BusAddrNumInfo::readWrite};
-    return Areas[static_cast<int>(direction)];
 }
 
 } // namespace Mapping

@@ -1,14 +1,12 @@
 #ifndef MAPPINGTABLES_H
 #define MAPPINGTABLES_H
 
-#include "BusFileData.h"
-
-#include <QString>
-
-#include <array>
+#include "BusRoles.h"
+#include "MappingFile.h"
+#include "MarkedText.h"
 
 /// What is fixed about the I/O mapping of each bus: its tables, their limits in either mode and the texts
-/// that tell them. Knows no widget.
+/// that tell them. The texts are of the translation context "ConfigWidget", the page's.
 namespace Mapping {
 
 /// The buses, by the position of their tab.
@@ -24,9 +22,15 @@ enum class Bus {
     PfnMaster,
     DnMaster
 };
-constexpr std::size_t BusCount = 10;
+constexpr std::size_t BusCount = MappingConfig::BusCount;
+/// By Bus.
+using Buses = std::array<MappingBus, BusCount>;
 
+/// As index of a bus's areas.
 enum class Direction { ReadOnly, WriteOnly, ReadWrite };
+
+/// Free bus configuration, or the fixed one with system areas.
+using Mode = MappingConfig::Mode;
 
 /// How the variables of a bus are laid out.
 enum class Layout {
@@ -37,18 +41,20 @@ enum class Layout {
 };
 
 /// The types of variables, in the order of their rows.
-constexpr std::array<BusVariableType, 3> Types = {BusBool, BusInt, BusFloat};
+constexpr std::array<MappedType, 3> Types = {MappedBool, MappedInt, MappedFloat};
 
 /// A limit that a bus does not have.
 constexpr int None = -1;
 
 struct BusInfo
 {
-    const char* name; ///< role as "fieldbus.xml" and "fieldbus_config.xml" spell it
+    RoleId role;
     Layout layout;
     bool isEdited;  ///< its quantities are entered here and not by the master's own configuration
     int firstTable; ///< number of its read-only table; the other directions follow
     int directions; ///< 2, or 3 with read and write
+
+    const char* name() const { return RoleTable::nameOf(role); }
 };
 
 struct ByteRange
@@ -60,7 +66,7 @@ struct ByteRange
 
 struct Limits
 {
-    std::array<int, 3> quantity{None, None, None}; ///< largest one, by BusVariableType
+    std::array<int, 3> quantity{None, None, None}; ///< largest one, by MappedType
     int boolMultiple = None;                       ///< what a Bool quantity must be a multiple of
     ByteRange smallBytes;                          ///< of Bool and Int together
     ByteRange allBytes;
@@ -85,14 +91,19 @@ const BusInfo& infoOf(Bus bus);
 /// The table of `number`, 0 to 20.
 const SubTable& tableOf(int number);
 int numberOf(Bus bus, Direction direction);
-const Limits& limitsOf(int number, bool freeMode);
-/// A text of the page in the operator's language; the translations know them all as the page's own.
-QString translated(const char* text);
+const Limits& limitsOf(int number, Mode mode);
 /// The limits of a table in words, for the operator.
-QString tipsOf(int number, bool freeMode);
+MarkedText tipsOf(int number, Mode mode);
 
 /// The part of a bus's record that a direction shows.
-BusAreaInfo BusAddrNumInfo::*areaOf(Direction direction);
+inline MappingArea& areaOf(MappingBus& bus, Direction direction)
+{
+    return bus.areas[static_cast<std::size_t>(direction)];
+}
+inline const MappingArea& areaOf(const MappingBus& bus, Direction direction)
+{
+    return bus.areas[static_cast<std::size_t>(direction)];
+}
 
 } // namespace Mapping
 

@@ -1,4 +1,4 @@
-#include "MappingRows.h"
+#include "MappingCells.h"
 
 namespace Mapping {
 
@@ -34,7 +34,7 @@ QString inBrackets(qint64 number)
 
 QString registerText(quint32 address)
 {
-    return address == NoBusAddress ? NoValue : QString::number(address);
+    return address == MappingRow::NoAddress ? NoValue : QString::number(address);
 }
 
 QString variableText(const QString& name, int quantity)
@@ -47,7 +47,8 @@ Row emptyRow(Row::Kind kind, const char* typeText)
     Row row;
     row.kind = kind;
     row.cells.fill(NoValue);
-    row.cells[MappingModel::TypeColumn] = translated(typeText);
+    row.cells[MappingModel::TypeColumn].clear();
+    row.typeText = typeText;
     return row;
 }
 
@@ -58,15 +59,15 @@ Row placeholder(bool isHidden)
     return row;
 }
 
-void fillAddresses(Row& row, const SubTable& table, const BusRowInfo& info)
+void fillAddresses(Row& row, const SubTable& table, const MappingRow& info)
 {
     QString& start = row.cells[MappingModel::StartAddress];
     QString& end = row.cells[MappingModel::EndAddress];
     switch (infoOf(table.bus).layout) {
     case Layout::Bytes:
-        if (info.start != NoBusAddress)
+        if (info.start != MappingRow::NoAddress)
             start = QLatin1String(table.prefix) + QLatin1Char(':') + inBrackets(info.start);
-        if (info.end != NoBusAddress)
+        if (info.end != MappingRow::NoAddress)
             end = inBrackets(info.end);
         break;
     case Layout::SlaveRegisters:
@@ -77,13 +78,13 @@ void fillAddresses(Row& row, const SubTable& table, const BusRowInfo& info)
     case Layout::MasterBools:
         // What the master was given, whatever the file says of addresses.
         start = QLatin1String(table.prefix);
-        end = inBrackets(bytesOf(BusBool, info.quantity) - 1);
+        end = inBrackets(bytesOf(MappedBool, info.quantity) - 1);
         break;
     }
 }
 
-Row dataRow(Row::Kind kind, const char* typeText, BusVariableType type, const SubTable& table,
-            const BusRowInfo& info, const QString& variable)
+Row dataRow(Row::Kind kind, const char* typeText, MappedType type, const SubTable& table,
+            const MappingRow& info, const QString& variable)
 {
     Row row = emptyRow(kind, typeText);
     row.type = type;
@@ -100,30 +101,31 @@ void addDataRows(std::vector<Row>& rows, Row::Kind kind, const char* const (&typ
                  const SubTable& table, const Rows& infos)
 {
     const QString key = QLatin1String(kind == Row::System ? table.systemKey : table.userKey);
-    for (const BusVariableType type : Types)
+    for (const MappedType type : Types)
         rows.push_back(dataRow(kind, typeTexts[type], type, table, infos[type],
                                key + QLatin1String(VariableTypes[type])));
 }
 
-Row totalRow(const BusAreaInfo& area, bool freeMode)
+Row totalRow(const MappingArea& area, Mode mode)
 {
     Row row = emptyRow(Row::Total, QT_TRANSLATE_NOOP("ConfigWidget", "Total"));
     row.cells[MappingModel::Byte] = QString::number(bytesOf(area.user));
-    if (freeMode) {
+    if (mode == MappingConfig::Free) {
         row.cells[MappingModel::StartAddress] = registerText(area.start);
         row.cells[MappingModel::EndAddress] = registerText(area.end);
     }
     return row;
 }
 
-std::vector<Row> slaveRows(const SubTable& table, const BusAreaInfo& area, bool freeMode)
+std::vector<Row> slaveRows(const SubTable& table, const MappingArea& area, Mode mode)
 {
     std::vector<Row> rows;
     const bool isMtcp = table.bus == Bus::MtcpSlave;
-    const bool hasSystem = !freeMode && *table.systemKey;
+    const bool isFree = mode == MappingConfig::Free;
+    const bool hasSystem = !isFree && *table.systemKey;
     if (isMtcp) {
-        rows.push_back(totalRow(area, freeMode));
-        rows.back().isHidden = !freeMode && !hasSystem;
+        rows.push_back(totalRow(area, mode));
+        rows.back().isHidden = !isFree && !hasSystem;
     }
     addDataRows(rows, Row::User, UserTypes, table, area.user);
     int tail = isMtcp ? MtcpTailRows : SlaveTailRows;
@@ -131,7 +133,7 @@ std::vector<Row> slaveRows(const SubTable& table, const BusAreaInfo& area, bool 
         addDataRows(rows, Row::System, SystemTypes, table, area.system);
         tail -= SlaveTailRows;
     }
-    const int shown = freeMode || hasSystem ? 0 : PlaceholdersShown;
+    const int shown = isFree || hasSystem ? 0 : PlaceholdersShown;
     for (int i = 0; i < tail; ++i)
         rows.push_back(placeholder(i >= shown));
     return rows;
@@ -139,11 +141,11 @@ std::vector<Row> slaveRows(const SubTable& table, const BusAreaInfo& area, bool 
 
 } // namespace
 
-std::vector<Row> rowsOf(const SubTable& table, const BusAreaInfo& area, bool freeMode)
+std::vector<Row> rowsOf(const SubTable& table, const MappingArea& area, Mode mode)
 {
     switch (infoOf(table.bus).layout) {
     case Layout::MasterBools:
-        return {dataRow(Row::User, MasterTypes[BusBool], BusBool, table, area.user[BusBool],
+        return {dataRow(Row::User, MasterTypes[MappedBool], MappedBool, table, area.user[MappedBool],
                         QLatin1String(table.userKey))};
     case Layout::MasterRegisters: {
         std::vector<Row> rows;
@@ -154,7 +156,7 @@ std::vector<Row> rowsOf(const SubTable& table, const BusAreaInfo& area, bool fre
     case Layout::SlaveRegisters:
         break;
     }
-    return slaveRows(table, area, freeMode);
+    return slaveRows(table, area, mode);
 }
 
 } // namespace Mapping

@@ -1,6 +1,6 @@
 #include "MappingModel.h"
 
-#include "MappingRows.h"
+#include "MappingCells.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,7 +26,7 @@ int roundedUp(int value, int multiple)
     return rest == 0 ? value : value - rest + multiple;
 }
 
-bool isSamePlace(const BusAreaInfo& a, const BusAreaInfo& b)
+bool isSamePlace(const MappingArea& a, const MappingArea& b)
 {
     const auto same = [](const auto& one, const auto& other) {
         return one.start == other.start && one.end == other.end;
@@ -36,48 +36,26 @@ bool isSamePlace(const BusAreaInfo& a, const BusAreaInfo& b)
 
 } // namespace
 
-MappingModel::MappingModel()
+void MappingModel::load(const Buses& buses, Mode mode)
 {
-    load({}, false);
+    m_buses = buses;
+    m_mode = mode;
 }
 
-void MappingModel::load(const std::vector<BusAddrNumInfo>& buses, bool freeMode)
-{
-    m_free = freeMode;
-    m_buses.assign(BusCount, {});
-    for (std::size_t i = 0; i < BusCount; ++i) {
-        m_buses[i].busName = QLatin1String(infoOf(static_cast<Bus>(i)).name);
-        for (const BusAddrNumInfo& bus : buses) {
-            if (bus.busName == m_buses[i].busName)
-                m_buses[i] = bus;
-        }
-    }
-}
-
-const BusAddrNumInfo& MappingModel::recordOf(Bus bus) const
+const MappingBus& MappingModel::recordOf(Bus bus) const
 {
     return m_buses[static_cast<std::size_t>(bus)];
 }
 
-const BusAreaInfo& MappingModel::shownArea(int number) const
+const MappingArea& MappingModel::shownArea(int number) const
 {
     const SubTable& table = tableOf(number);
-    return recordOf(table.bus).*areaOf(table.direction);
-}
-
-std::vector<BusAddrNumInfo> MappingModel::editedBuses() const
-{
-    std::vector<BusAddrNumInfo> edited;
-    for (std::size_t i = 0; i < BusCount; ++i) {
-        if (infoOf(static_cast<Bus>(i)).isEdited)
-            edited.push_back(m_buses[i]);
-    }
-    return edited;
+    return areaOf(recordOf(table.bus), table.direction);
 }
 
 std::vector<MappingModel::Row> MappingModel::rowsOf(int number) const
 {
-    return Mapping::rowsOf(tableOf(number), shownArea(number), m_free);
+    return Mapping::rowsOf(tableOf(number), shownArea(number), m_mode);
 }
 
 MappingModel::Press MappingModel::pressed(int number, const Row& row, int column) const
@@ -93,7 +71,7 @@ MappingModel::Press MappingModel::pressed(int number, const Row& row, int column
         return shownArea(number).user[row.type].quantity > 0
                    ? pressedStart(number)
                    : refusedPress(Severity::Warning, NoStartOfNothing);
-    return m_free && row.kind == Row::Total ? pressedStart(number) : Press();
+    return isFree() && row.kind == Row::Total ? pressedStart(number) : Press();
 }
 
 MappingModel::Press MappingModel::pressedQuantity(int number, const Row& row) const
@@ -105,7 +83,7 @@ MappingModel::Press MappingModel::pressedQuantity(int number, const Row& row) co
     Press press;
     press.kind = Press::EnterQuantity;
     press.value = row.cells[Quantity].section(QLatin1Char(' '), 0, 0).toInt();
-    press.range = {0, limitsOf(number, m_free).quantity[row.type]};
+    press.range = {0, limitsOf(number, m_mode).quantity[row.type]};
     return press;
 }
 
@@ -120,17 +98,17 @@ MappingModel::Press MappingModel::pressedStart(int number) const
     return press;
 }
 
-MappingModel::Entry MappingModel::enterQuantity(int number, BusVariableType type, double value)
+MappingModel::Entry MappingModel::enterQuantity(int number, MappedType type, double value)
 {
-    if (const Refusal refusal = quantityRefusal(number, m_free, type, value))
+    if (const Refusal refusal = quantityRefusal(number, m_mode, type, value))
         return {refusal};
     const SubTable& table = tableOf(number);
-    BusAddrNumInfo changed = recordOf(table.bus);
-    BusAreaInfo& area = changed.*areaOf(table.direction);
+    MappingBus changed = recordOf(table.bus);
+    MappingArea& area = areaOf(changed, table.direction);
     const int quantity = static_cast<int>(value);
     area.user[type].quantity =
-        type == BusBool ? roundedUp(quantity, limitsOf(number, m_free).boolMultiple) : quantity;
-    if (const Refusal refusal = bytesRefusal(number, m_free, area))
+        type == MappedBool ? roundedUp(quantity, limitsOf(number, m_mode).boolMultiple) : quantity;
+    if (const Refusal refusal = bytesRefusal(number, m_mode, area))
         return {refusal};
     const quint32 start = blockStart(changed, infoOf(table.bus).layout, table.direction);
     return take(number, std::move(changed), start, Entered::Quantity);
@@ -144,17 +122,17 @@ MappingModel::Entry MappingModel::enterStart(int number, double value)
         return {};
     if (layout == Layout::MasterRegisters && isEmpty(shownArea(number).user))
         return {message(Severity::Warning, NoStartOfNothing)};
-    if (!(value >= FirstRegister && value < NoBusAddress))
+    if (!(value >= FirstRegister && value < MappingRow::NoAddress))
         return {rangeRefusal(int(FirstRegister), int(lastRegister(layout)))};
     return take(number, recordOf(table.bus), static_cast<quint32>(value), Entered::Start);
 }
 
-MappingModel::Entry MappingModel::take(int number, BusAddrNumInfo changed, quint32 start, Entered entered)
+MappingModel::Entry MappingModel::take(int number, MappingBus changed, quint32 start, Entered entered)
 {
     const SubTable& table = tableOf(number);
     const Layout layout = infoOf(table.bus).layout;
-    layOut(changed.*areaOf(table.direction), layout, start);
-    const bool isFreeSlave = layout == Layout::SlaveRegisters && m_free;
+    layOut(areaOf(changed, table.direction), layout, start);
+    const bool isFreeSlave = layout == Layout::SlaveRegisters && isFree();
     Refusal refusal;
     if (isFreeSlave)
         refusal = slaveBlockRefusal(changed, table.direction, entered);
@@ -162,7 +140,7 @@ MappingModel::Entry MappingModel::take(int number, BusAddrNumInfo changed, quint
         refusal = masterBlockRefusal(changed, table.direction, entered);
     if (refusal)
         return {refusal};
-    const bool moved = isFreeSlave && !isSamePlace(shownArea(number), changed.*areaOf(table.direction));
+    const bool moved = isFreeSlave && !isSamePlace(shownArea(number), areaOf(changed, table.direction));
     m_buses[static_cast<std::size_t>(table.bus)] = std::move(changed);
     return {{}, moved};
 }

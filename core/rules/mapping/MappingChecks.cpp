@@ -36,31 +36,31 @@ constexpr const char* NamedBytesMultiple = QT_TRANSLATE_NOOP(
 // The free slave's blocks lie in the order write only, read only, read and write.
 struct Neighbours
 {
-    BusAreaInfo BusAddrNumInfo::*below; // null: nothing
+    std::optional<Direction> below; // none: nothing
     const char* startTooLow;
-    BusAreaInfo BusAddrNumInfo::*above; // null: the end of the registers
+    std::optional<Direction> above; // none: the end of the registers
     const char* endTooHigh;
 };
 constexpr std::array<Neighbours, 3> SlaveNeighbours = {{
     // by Direction
-    {&BusAddrNumInfo::writeOnly,
+    {Direction::WriteOnly,
      QT_TRANSLATE_NOOP("ConfigWidget", "The start address of ModbusTcp read-only input must be greater than "
                                        "the end address of write only!"),
-     &BusAddrNumInfo::readWrite,
+     Direction::ReadWrite,
      QT_TRANSLATE_NOOP(
          "ConfigWidget",
          "The current input read-only end address is %1, and the ModbusTcp read-only end address "
          "must be less than\n the readable and writable start address. Please re-enter")},
-    {nullptr, nullptr, &BusAddrNumInfo::readOnly,
+    {std::nullopt, nullptr, Direction::ReadOnly,
      QT_TRANSLATE_NOOP("ConfigWidget",
                        "The current input only write end address is %1, and ModbusTcp only write end address "
                        "must be less than\n the read-only start address. Please re-enter")},
-    {&BusAddrNumInfo::readOnly,
+    {Direction::ReadOnly,
      QT_TRANSLATE_NOOP(
          "ConfigWidget",
          "The start address of the ModbusTcp readable and writable input must be greater than the "
          "end address of the read-only input!"),
-     nullptr, EndTooHigh},
+     std::nullopt, EndTooHigh},
 }};
 
 struct MasterTexts
@@ -81,153 +81,158 @@ constexpr std::array<MasterTexts, 2> MasterConflicts = {{
      QT_TRANSLATE_NOOP("ConfigWidget", "Conflicting with duplicate address reading only!")},
 }};
 
-// What bytes must be a multiple of when they are saved, and what the system area adds to them before.
-struct Multiple
-{
-    int system = 0;
-    int of = None;
-};
 struct SaveCheck
 {
     Bus bus;
     const char* nameInMessages;
-    Multiple freeSmall, freeAll;
-    Multiple fixedSmall, fixedAll;
+    Multiples free;
+    Multiples fixed;
 };
 // In the order in which they are made. The free PROFINET slave's tips tell a multiple of its Bool and Int
 // bytes, but it is not checked.
 constexpr SaveCheck SaveChecks[] = {
-    {Bus::EipSlave, "EtheretIP", {}, {}, {}, {}},
-    {Bus::PfnSlave, "Profinet", {}, {0, 8}, {20, 8}, {68, 8}},
-    {Bus::DnSlave, "DeviceNet", {}, {}, {}, {}},
-    {Bus::EthcatSlave, "EtherCat", {}, {}, {}, {}},
+    {Bus::EipSlave, "EtheretIP", {}, {}},
+    {Bus::PfnSlave, "Profinet", {{}, {0, 8}}, {{20, 8}, {68, 8}}},
+    {Bus::DnSlave, "DeviceNet", {}, {}},
+    {Bus::EthcatSlave, "EtherCat", {}, {}},
 };
 
-Message warning(const QString& text)
+QString word(const QString& text)
 {
-    return {Severity::Warning, text};
+    return text;
+}
+template <typename Number>
+QString word(Number number)
+{
+    return QString::number(number);
 }
 
-bool isMultiple(int bytes, const Multiple& multiple)
+template <typename... Arguments>
+Message warning(const char* text, const Arguments&... arguments)
 {
-    return multiple.of == None || (multiple.system + bytes) % multiple.of == 0;
+    return {Severity::Warning, {text, {word(arguments)...}}};
 }
 
-Refusal savedBytesRefusal(const SaveCheck& check, bool freeMode, const Rows& rows)
+Refusal savedBytesRefusal(const SaveCheck& check, Mode mode, const Rows& rows)
 {
-    const Limits& limits = limitsOf(numberOf(check.bus, Direction::ReadOnly), freeMode);
-    const Multiple& small = freeMode ? check.freeSmall : check.fixedSmall;
-    const Multiple& all = freeMode ? check.freeAll : check.fixedAll;
+    const Limits& limits = limitsOf(numberOf(check.bus, Direction::ReadOnly), mode);
+    const Multiples& multiples = mode == MappingConfig::Free ? check.free : check.fixed;
     const QString name = QLatin1String(check.nameInMessages);
     const auto outside = [&name](const char* text, const ByteRange& range) {
-        return warning(translated(text).arg(name).arg(range.least).arg(range.most));
+        return warning(text, name, range.least, range.most);
     };
-    const auto uneven = [&name](const char* text, int multiple) {
-        return warning(translated(text).arg(name).arg(multiple));
-    };
+    const auto uneven = [&name](const char* text, int multiple) { return warning(text, name, multiple); };
     // The least bytes of Bool and Int stand in the message only.
     if (limits.smallBytes.isGiven() && smallBytesOf(rows) > limits.smallBytes.most)
         return outside(NamedSmallBytesRange, limits.smallBytes);
-    if (!isMultiple(smallBytesOf(rows), small))
-        return uneven(NamedSmallBytesMultiple, small.of);
+    if (!multiples.small.isMet(smallBytesOf(rows)))
+        return uneven(NamedSmallBytesMultiple, multiples.small.of);
     if (bytesOf(rows) < limits.allBytes.least || bytesOf(rows) > limits.allBytes.most)
         return outside(NamedBytesRange, limits.allBytes);
-    if (!isMultiple(bytesOf(rows), all))
-        return uneven(NamedBytesMultiple, all.of);
+    if (!multiples.all.isMet(bytesOf(rows)))
+        return uneven(NamedBytesMultiple, multiples.all.of);
     return {};
 }
 
 } // namespace
 
+Multiples multiplesOf(Bus bus, Mode mode)
+{
+    for (const SaveCheck& check : SaveChecks) {
+        if (check.bus == bus)
+            return mode == MappingConfig::Free ? check.free : check.fixed;
+    }
+    return {};
+}
+
 Message message(Severity severity, const char* text)
 {
-    return {severity, translated(text)};
+    return {severity, {text, {}}};
 }
 
 Message rangeRefusal(int least, int most)
 {
-    return warning(translated(QuantityRange).arg(least).arg(most));
+    return warning(QuantityRange, least, most);
 }
 
-Refusal quantityRefusal(int number, bool freeMode, BusVariableType type, double value)
+Refusal quantityRefusal(int number, Mode mode, MappedType type, double value)
 {
-    const int most = limitsOf(number, freeMode).quantity[type];
+    const int most = limitsOf(number, mode).quantity[type];
     // Also what is no number is outside.
     if (value >= 0 && value <= most)
         return {};
     return rangeRefusal(0, most);
 }
 
-Refusal bytesRefusal(int number, bool freeMode, const BusAreaInfo& area)
+Refusal bytesRefusal(int number, Mode mode, const MappingArea& area)
 {
     const SubTable& table = tableOf(number);
-    const Limits& limits = limitsOf(number, freeMode);
+    const Limits& limits = limitsOf(number, mode);
     if (infoOf(table.bus).layout == Layout::MasterRegisters)
         return {}; // its block has a message of its own
     if (bytesOf(area.user) > limits.allBytes.most)
-        return warning(translated(BytesRange).arg(0).arg(limits.allBytes.most));
+        return warning(BytesRange, 0, limits.allBytes.most);
     if (table.bus == Bus::MtcpSlave && limits.smallBytes.isGiven() &&
         smallBytesOf(area.user) > limits.smallBytes.most)
-        return warning(
-            translated(MtcpSmallBytesRange).arg(limits.smallBytes.least).arg(limits.smallBytes.most));
+        return warning(MtcpSmallBytesRange, QString(), limits.smallBytes.least, limits.smallBytes.most);
     return {};
 }
 
-Refusal slaveBlockRefusal(const BusAddrNumInfo& bus, Direction direction, Entered entered)
+Refusal slaveBlockRefusal(const MappingBus& bus, Direction direction, Entered entered)
 {
-    const BusAreaInfo& area = bus.*areaOf(direction);
+    const MappingArea& area = areaOf(bus, direction);
     const Neighbours& neighbours = SlaveNeighbours.at(static_cast<std::size_t>(direction));
     if (isEmpty(area.user))
         return message(Severity::Error, TotalZero);
-    const int most = limitsOf(numberOf(Bus::MtcpSlave, direction), true).allBytes.most;
+    const int most = limitsOf(numberOf(Bus::MtcpSlave, direction), MappingConfig::Free).allBytes.most;
     if (bytesOf(area.user) > most)
-        return warning(translated(SlaveBytes).arg(bytesOf(area.user)));
+        return warning(SlaveBytes, bytesOf(area.user));
     if (entered == Entered::Start && neighbours.below) {
-        const quint32 below = (bus.*neighbours.below).end;
-        if (below != NoBusAddress && area.start <= below)
-            return warning(translated(neighbours.startTooLow));
+        const quint32 below = areaOf(bus, *neighbours.below).end;
+        if (below != MappingRow::NoAddress && area.start <= below)
+            return warning(neighbours.startTooLow);
     }
     const quint64 end = blockEnd(area, area.start);
     if (neighbours.above) {
-        if (end >= (bus.*neighbours.above).start)
-            return warning(translated(neighbours.endTooHigh).arg(end));
+        if (end >= areaOf(bus, *neighbours.above).start)
+            return warning(neighbours.endTooHigh, end);
     } else if (end > LastSlaveRegister) { // the last register itself is admitted, whatever the text says
-        return warning(translated(neighbours.endTooHigh).arg(end).arg(LastSlaveRegister));
+        return warning(neighbours.endTooHigh, end, LastSlaveRegister);
     }
     return {};
 }
 
-Refusal masterBlockRefusal(const BusAddrNumInfo& bus, Direction direction, Entered entered)
+Refusal masterBlockRefusal(const MappingBus& bus, Direction direction, Entered entered)
 {
-    const BusAreaInfo& area = bus.*areaOf(direction);
+    const MappingArea& area = areaOf(bus, direction);
     const int bytes = bytesOf(area.user);
-    const int most = limitsOf(numberOf(Bus::MtcpMaster, direction), true).allBytes.most;
+    const int most = limitsOf(numberOf(Bus::MtcpMaster, direction), MappingConfig::Free).allBytes.most;
     if (bytes > most)
-        return warning(translated(MasterBytes).arg(bytes).arg(most));
+        return warning(MasterBytes, bytes, most);
     if (isEmpty(area.user))
         return {};
 
     const bool isReadOnly = direction == Direction::ReadOnly;
-    const BusAreaInfo& other = isReadOnly ? bus.writeOnly : bus.readOnly;
+    const MappingArea& other = isReadOnly ? bus.areas[WriteOnlyArea] : bus.areas[ReadOnlyArea];
     const quint64 end = blockEnd(area, area.start);
     if (!isEmpty(other.user) && area.start <= other.end && other.start <= end) {
         const MasterTexts& texts = MasterConflicts.at(isReadOnly ? 0 : 1);
-        return warning(entered == Entered::Start ? translated(texts.enteredConflicts)
-                                                 : translated(texts.defaultConflicts).arg(area.start));
+        return entered == Entered::Start ? warning(texts.enteredConflicts)
+                                         : warning(texts.defaultConflicts, area.start);
     }
     // The last register itself is admitted, whatever the text says.
     if (end > LastMasterRegister)
-        return warning(translated(EndTooHigh).arg(end).arg(LastMasterRegister));
+        return warning(EndTooHigh, end, LastMasterRegister);
     return {};
 }
 
-Refusal saveRefusal(const std::vector<BusAddrNumInfo>& buses, const QStringList& busNames, bool freeMode)
+Refusal saveRefusal(const Buses& buses, const QStringList& busNames, Mode mode)
 {
     for (const SaveCheck& check : SaveChecks) {
-        if (!busNames.contains(QLatin1String(infoOf(check.bus).name), Qt::CaseInsensitive))
+        if (!busNames.contains(QLatin1String(infoOf(check.bus).name()), Qt::CaseInsensitive))
             continue;
-        const BusAddrNumInfo& bus = buses.at(static_cast<std::size_t>(check.bus));
-        if (Refusal refusal = savedBytesRefusal(check, freeMode, bus.readOnly.user))
+        const MappingBus& bus = buses.at(static_cast<std::size_t>(check.bus));
+        if (Refusal refusal = savedBytesRefusal(check, mode, bus.areas[ReadOnlyArea].user))
             return refusal;
     }
     return {};

@@ -1,5 +1,5 @@
-#ifndef MAPPINGROWS_H
-#define MAPPINGROWS_H
+#ifndef MAPPINGCELLS_H
+#define MAPPINGCELLS_H
 
 #include "MappingModel.h"
 
@@ -8,7 +8,7 @@ namespace Mapping {
 
 /// The rows that show `area` in `table`: the sum of a block, the user's variables, the robot's own in the
 /// fixed mode, and placeholders up to the number of rows that the table always has.
-std::vector<MappingModel::Row> rowsOf(const SubTable& table, const BusAreaInfo& area, bool freeMode);
+std::vector<MappingModel::Row> rowsOf(const SubTable& table, const MappingArea& area, Mode mode);
 
 } // namespace Mapping
 

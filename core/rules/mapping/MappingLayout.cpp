@@ -12,12 +12,12 @@ constexpr int BytesPerFloat = 4;
 constexpr int BoolsPerRegister = 16;
 constexpr int RegistersPerFloat = 2;
 
-using SizeOf = int (*)(BusVariableType, int);
+using SizeOf = int (*)(MappedType, int);
 
 int sumOf(const Rows& rows, SizeOf sizeOf)
 {
     int sum = 0;
-    for (const BusVariableType type : Types)
+    for (const MappedType type : Types)
         sum += sizeOf(type, rows[type].quantity);
     return sum;
 }
@@ -25,9 +25,9 @@ int sumOf(const Rows& rows, SizeOf sizeOf)
 // The rows one after another; returns what follows the last one.
 quint32 placeRows(Rows& rows, quint32 start, SizeOf sizeOf)
 {
-    for (const BusVariableType type : Types) {
-        BusRowInfo& row = rows[type];
-        row.start = row.end = NoBusAddress;
+    for (const MappedType type : Types) {
+        MappingRow& row = rows[type];
+        row.start = row.end = MappingRow::NoAddress;
         const int size = sizeOf(type, row.quantity);
         if (size == 0) // Bools that do not fill one byte or register have no place either
             continue;
@@ -39,12 +39,12 @@ quint32 placeRows(Rows& rows, quint32 start, SizeOf sizeOf)
 }
 
 // What follows the system rows, `otherwise` without any.
-quint32 behindSystem(const BusAreaInfo& area, quint32 otherwise)
+quint32 behindSystem(const MappingArea& area, quint32 otherwise)
 {
     bool found = false;
     quint32 last = 0;
-    for (const BusRowInfo& row : area.system) {
-        if (row.quantity == 0 || row.end == NoBusAddress)
+    for (const MappingRow& row : area.system) {
+        if (row.quantity == 0 || row.end == MappingRow::NoAddress)
             continue;
         found = true;
         last = std::max(last, row.end);
@@ -53,11 +53,11 @@ quint32 behindSystem(const BusAreaInfo& area, quint32 otherwise)
 }
 
 // What follows a block of the Modbus TCP master.
-quint32 behindMasterBlock(const BusAreaInfo& area)
+quint32 behindMasterBlock(const MappingArea& area)
 {
-    if (area.user[BusFloat].start != NoBusAddress)
-        return area.user[BusFloat].end + 1;
-    return area.end == NoBusAddress ? FirstRegister : area.end + 1;
+    if (area.user[MappedFloat].start != MappingRow::NoAddress)
+        return area.user[MappedFloat].end + 1;
+    return area.end == MappingRow::NoAddress ? FirstRegister : area.end + 1;
 }
 
 } // namespace
@@ -67,14 +67,14 @@ quint32 lastRegister(Layout layout)
     return layout == Layout::MasterRegisters ? LastMasterRegister : LastSlaveRegister;
 }
 
-int bytesOf(BusVariableType type, int quantity)
+int bytesOf(MappedType type, int quantity)
 {
     switch (type) {
-    case BusBool:
+    case MappedBool:
         return quantity / BoolsPerByte;
-    case BusInt:
+    case MappedInt:
         return quantity * BytesPerInt;
-    case BusFloat:
+    case MappedFloat:
         break;
     }
     return quantity * BytesPerFloat;
@@ -87,17 +87,17 @@ int bytesOf(const Rows& rows)
 
 int smallBytesOf(const Rows& rows)
 {
-    return bytesOf(rows) - bytesOf(BusFloat, rows[BusFloat].quantity);
+    return bytesOf(rows) - bytesOf(MappedFloat, rows[MappedFloat].quantity);
 }
 
-int registersOf(BusVariableType type, int quantity)
+int registersOf(MappedType type, int quantity)
 {
     switch (type) {
-    case BusBool:
+    case MappedBool:
         return quantity / BoolsPerRegister;
-    case BusInt:
+    case MappedInt:
         return quantity;
-    case BusFloat:
+    case MappedFloat:
         break;
     }
     return quantity * RegistersPerFloat;
@@ -110,34 +110,34 @@ int registersOf(const Rows& rows)
 
 bool isEmpty(const Rows& rows)
 {
-    return std::all_of(rows.begin(), rows.end(), [](const BusRowInfo& row) { return row.quantity == 0; });
+    return std::all_of(rows.begin(), rows.end(), [](const MappingRow& row) { return row.quantity == 0; });
 }
 
-quint32 blockStart(const BusAddrNumInfo& bus, Layout layout, Direction direction)
+quint32 blockStart(const MappingBus& bus, Layout layout, Direction direction)
 {
-    const BusAreaInfo& area = bus.*areaOf(direction);
-    if (area.start != NoBusAddress)
+    const MappingArea& area = areaOf(bus, direction);
+    if (area.start != MappingRow::NoAddress)
         return area.start;
     if (layout == Layout::MasterRegisters) {
         // A block that was emptied has left its place with its Float row.
-        if (area.user[BusFloat].start != NoBusAddress)
-            return area.user[BusFloat].start;
-        return direction == Direction::WriteOnly ? behindMasterBlock(bus.readOnly) : FirstRegister;
+        if (area.user[MappedFloat].start != MappingRow::NoAddress)
+            return area.user[MappedFloat].start;
+        return direction == Direction::WriteOnly ? behindMasterBlock(bus.areas[ReadOnlyArea]) : FirstRegister;
     }
     // The blocks of the slave lie in the order write only, read only, read and write.
-    if (direction == Direction::ReadWrite && bus.readOnly.end != NoBusAddress)
-        return bus.readOnly.end + 1;
-    if (direction != Direction::WriteOnly && bus.writeOnly.end != NoBusAddress)
-        return bus.writeOnly.end + 1;
+    if (direction == Direction::ReadWrite && bus.areas[ReadOnlyArea].end != MappingRow::NoAddress)
+        return bus.areas[ReadOnlyArea].end + 1;
+    if (direction != Direction::WriteOnly && bus.areas[WriteOnlyArea].end != MappingRow::NoAddress)
+        return bus.areas[WriteOnlyArea].end + 1;
     return FirstRegister;
 }
 
-quint64 blockEnd(const BusAreaInfo& area, quint32 start)
+quint64 blockEnd(const MappingArea& area, quint32 start)
 {
     return quint64(start) + quint64(registersOf(area.user)) - 1;
 }
 
-void layOut(BusAreaInfo& area, Layout layout, quint32 start)
+void layOut(MappingArea& area, Layout layout, quint32 start)
 {
     switch (layout) {
     case Layout::Bytes:
@@ -150,15 +150,15 @@ void layOut(BusAreaInfo& area, Layout layout, quint32 start)
         break;
     case Layout::MasterRegisters: {
         const quint32 behind = placeRows(area.user, start, registersOf);
-        BusRowInfo& floats = area.user[BusFloat];
+        MappingRow& floats = area.user[MappedFloat];
         // An empty Float row keeps the place where it would lie: the block's own when all of it is empty, and
         // the one that the other direction may begin at.
         if (floats.quantity == 0) {
             floats.start = behind;
             floats.end = behind - 1;
         }
-        area.start = isEmpty(area.user) ? NoBusAddress : start;
-        area.end = isEmpty(area.user) ? NoBusAddress : behind - 1;
+        area.start = isEmpty(area.user) ? MappingRow::NoAddress : start;
+        area.end = isEmpty(area.user) ? MappingRow::NoAddress : behind - 1;
         break;
     }
     }

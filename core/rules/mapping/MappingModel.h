@@ -4,6 +4,8 @@
 #include "MappingChecks.h"
 #include "MappingLayout.h"
 
+#include <vector>
+
 /// The quantities and addresses of all buses as the I/O mapping page shows and edits them. Knows no widget.
 class MappingModel
 {
@@ -19,9 +21,10 @@ public:
             Reserved ///< a placeholder
         };
         Kind kind = Reserved;
-        BusVariableType type = BusBool;
+        MappedType type = MappedBool;
         bool isHidden = false;
-        std::array<QString, ColumnCount> cells;
+        const char* typeText = "";              ///< of the first cell, not translated yet
+        std::array<QString, ColumnCount> cells; ///< the first one empty
     };
 
     /// What a press on a cell in edit mode asks for: to be entered on the keyboard, which shows `value` first
@@ -42,39 +45,36 @@ public:
         bool movedSlaveBlock = false; ///< an address of the free Modbus TCP slave is another one now
     };
 
-    MappingModel();
+    void load(const Mapping::Buses& buses, Mapping::Mode mode);
 
-    /// Takes over what the bus file data service holds. A bus that is missing is empty.
-    void load(const std::vector<BusAddrNumInfo>& buses, bool freeMode);
-
-    bool isFree() const { return m_free; }
-    const BusAddrNumInfo& recordOf(Mapping::Bus bus) const;
-    /// The buses whose quantities are entered here, as the service takes them.
-    std::vector<BusAddrNumInfo> editedBuses() const;
+    bool isFree() const { return m_mode == MappingConfig::Free; }
+    Mapping::Mode mode() const { return m_mode; }
+    const Mapping::Buses& buses() const { return m_buses; }
+    const MappingBus& recordOf(Mapping::Bus bus) const;
 
     /// The rows of a table, hidden ones too; always the same number for one table.
     std::vector<Row> rowsOf(int number) const;
 
     Press pressed(int number, const Row& row, int column) const;
 
-    Entry enterQuantity(int number, BusVariableType type, double value);
+    Entry enterQuantity(int number, MappedType type, double value);
     /// The first register of a Modbus TCP block.
     Entry enterStart(int number, double value);
 
     Mapping::Refusal saveRefusal(const QStringList& busNames) const
     {
-        return Mapping::saveRefusal(m_buses, busNames, m_free);
+        return Mapping::saveRefusal(m_buses, busNames, m_mode);
     }
 
 private:
-    const BusAreaInfo& shownArea(int number) const;
+    const MappingArea& shownArea(int number) const;
     Press pressedQuantity(int number, const Row& row) const;
     Press pressedStart(int number) const;
     /// Lays a block out that begins at `start`, checks it, and keeps it when it may be.
-    Entry take(int number, BusAddrNumInfo changed, quint32 start, Mapping::Entered entered);
+    Entry take(int number, MappingBus changed, quint32 start, Mapping::Entered entered);
 
-    std::vector<BusAddrNumInfo> m_buses; // by Mapping::Bus
-    bool m_free = false;
+    Mapping::Buses m_buses;
+    Mapping::Mode m_mode = MappingConfig::Fixed;
 };
 
 #endif
