@@ -249,7 +249,7 @@ private slots:
         row("rejected, no restart", "mapping-rejected", MsgBox::Second, asked + QStringList(Failed), true);
         // The rejection is not looked at when the robot is restarted.
         row("rejected, restart", "mapping-rejected", MsgBox::Confirmed,
-            asked + QStringList("Please close and reopen the teaching "), true);
+            asked + QStringList("Please close and reopen the teaching pendant."), true);
     }
 
     void handshake()
@@ -332,7 +332,7 @@ private slots:
     void restart_data()
     {
         const Rows<QString, QString> row;
-        row("the clock stops", "", "Please close and reopen the teaching ");
+        row("the clock stops", "", "Please close and reopen the teaching pendant.");
         row("the clock runs on", "restart-ignored", "Please manually power off and restart the robot!");
     }
 

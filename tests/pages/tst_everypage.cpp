@@ -376,8 +376,10 @@ public:
         QStringList texts;
         for (const QWidget* widget : find(m_page->widget)->findChildren<QWidget*>()) {
             if (const auto* table = qobject_cast<const QTableWidget*>(widget)) {
-                for (const QTableWidgetItem* item : table->findItems({}, Qt::MatchContains))
-                    texts << item->text();
+                for (int cell = 0; cell < table->rowCount() * table->columnCount(); ++cell) {
+                    const auto* item = table->item(cell / table->columnCount(), cell % table->columnCount());
+                    texts << (item ? item->text() : QString());
+                }
             }
             const bool isButton = widget->inherits("QAbstractButton");
             if (isButton || widget->inherits("QLineEdit") || widget->inherits("QComboBox"))

@@ -83,13 +83,6 @@ private slots:
         auto* rates = find<QComboBox>("cbb_baud");
         QTest::keyClick(rates, Qt::Key_Down);
         traffic().clear();
-
-        // Declined, nothing leaves the
-        answer({MsgBox::Second});
-        QVERIFY(pressSave());
-        QVERIFY(settle());
-        QCOMPARE(traffic().stores(), QStringList());
-
         QVERIFY(pressSave({MsgBox::Confirmed}));
         QVERIFY(controllerFile(FilePath).contains(fileWith("44", "500")));
         QCOMPARE(writesOf(UpdateState), QVector<double>({Asked}));

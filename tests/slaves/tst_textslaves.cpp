@@ -237,7 +237,7 @@ private slots:
         };
         const int used = ports->currentIndex();
         ports->setCurrentIndex(2);
-        QVERIFY(shows({}));
+        QVERIFY(!shows(twin.shownAddress));
         ports->setCurrentIndex(used);
         QVERIFY(used < 2 && shows(twin.shownAddress));
         controller().faults().set(Faults::FetchGarbage, -1, "/application/network/netports.xml");

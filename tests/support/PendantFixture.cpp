@@ -85,8 +85,11 @@ ApplicationSlot* PendantFixture::application() const
 bool PendantFixture::open()
 {
     m_window->openApplication(application()->info().className);
-    return QTest::qWaitFor([this] { return isOpen() && menuPage(*m_window)->isVisible(); }, 10000) &&
-           settle();
+    const auto isFirstPageShown = [this] {
+        const QWidget* first = find(QStringLiteral("BusSettingWidget"));
+        return isOpen() && first && first->isVisible();
+    };
+    return QTest::qWaitFor(isFirstPageShown, 10000) && settle();
 }
 
 bool PendantFixture::openPastStartPage()
