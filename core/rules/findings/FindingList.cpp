@@ -41,7 +41,7 @@ int FindingList::lineOf(const About& about) const
         const int next = bytes.indexOf(text, found + 1);
         if (next < 0)
             break;
-        found = next;
+        found = text.startsWith('\n') ? next + 1 : next; // a keyword that begins its line
     }
     return found < 0 ? 0 : FileCheck::lineAt(bytes, found);
 }

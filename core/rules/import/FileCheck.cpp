@@ -203,9 +203,9 @@ std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content, c
         return {};
     if (content.size() > KnownFiles::MostBytes)
         return fault(Fault::TooLarge, IsTooLarge);
-    // What nobody here reads may be empty: some controllers have it so.
+    // The groups of a robot without any are an empty file.
     if (isBlank(content)) {
-        if (!needsOf(file.id) && (!file.root || (present && isBlank(*present))))
+        if (file.id == FileId::GroupIo || (present && isBlank(*present)))
             return {};
         return fault(Fault::Empty, IsEmpty);
     }
