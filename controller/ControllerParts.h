@@ -4,6 +4,7 @@
 #include "BusRoles.h"
 #include "Faults.h"
 #include "FileStore.h"
+#include "FrameLog.h"
 #include "Links.h"
 #include "SimulatedTime.h"
 #include "Traffic.h"
@@ -24,6 +25,7 @@ struct ControllerParts
     Links links;
     Faults faults;
     Traffic traffic;
+    FrameLog frames;
     SimulatedTime time;
 };
 

@@ -4,31 +4,54 @@
 
 namespace {
 
+// What the target of a fault says. A path or a variable, or a port, names whom alone the fault hits; of a
+// number the fault makes use.
+constexpr const char* None = "";
+constexpr const char* Path = "path";
+constexpr const char* Variable = "variable";
+constexpr const char* Port = "port";
+
 struct Description
 {
     const char* name;
+    const char* target;
     const char* meaning;
+    int usual = -1; // number of a fault whose target is one; -1: it is none
 };
 
 // As Faults::Fault counts.
 constexpr Description Descriptions[] = {
-    {"fetch-fails", "a fetch of a file fails"},
-    {"send-fails", "a store of a file fails"},
-    {"fetch-cut-short", "a fetched file arrives with its second half missing"},
-    {"fetch-empty", "a fetched file arrives empty"},
-    {"fetch-garbage", "a fetched file arrives with other bytes"},
-    {"command-never-taken",
+    {"fetch-fails", Path, "a fetch of a file fails"},
+    {"send-fails", Path, "a store of a file fails"},
+    {"fetch-cut-short", Path, "a fetched file arrives with its second half missing"},
+    {"fetch-empty", Path, "a fetched file arrives empty"},
+    {"fetch-garbage", Path, "a fetched file arrives with other bytes"},
+    {"command-never-taken", Variable,
      "an open, close or ProfiSAFE command, or the request to the MES server, stays set"},
-    {"bus-type-refused", "the bus type is answered with the refusing bit"},
-    {"bus-type-never-answered", "the bus type gets no answer"},
-    {"mapping-never-answered", "the I/O mapping file is not acknowledged"},
-    {"mapping-answered-late", "the I/O mapping file is acknowledged at the last moment"},
-    {"mapping-rejected", "the I/O mapping file is rejected"},
-    {"slave-never-answered", "the DeviceNet slave file is not acknowledged"},
-    {"slave-answered-late", "the DeviceNet slave file is acknowledged at the last moment"},
-    {"restart-ignored", "a restart request has no effect"},
-    {"variable-not-offered", "subscribing the target variable fails"},
-    {"heartbeat-not-reloaded", "the announced heartbeat file is not read"},
+    {"bus-type-refused", None, "the bus type is answered with the refusing bit"},
+    {"bus-type-never-answered", None, "the bus type gets no answer"},
+    {"mapping-never-answered", None, "the I/O mapping file is not acknowledged"},
+    {"mapping-answered-late", None, "the I/O mapping file is acknowledged at the last moment, after 14.75 s"},
+    {"mapping-rejected", None, "the I/O mapping file is rejected"},
+    {"slave-never-answered", None, "the DeviceNet slave file is not acknowledged"},
+    {"slave-answered-late", None,
+     "the DeviceNet slave file is acknowledged at the last moment, after 5.25 s"},
+    {"restart-ignored", None, "a restart request has no effect"},
+    {"variable-not-offered", Variable, "subscribing a variable fails"},
+    {"heartbeat-not-reloaded", None, "the announced heartbeat file is not read"},
+    {"port-taken", Port, "a server of the robot or of a partner finds its port taken"},
+    {"fins-silent", None, "the FINS server gives no answer"},
+    {"fins-slow", "milliseconds", "the FINS server answers so much later", 1000},
+    {"fins-drops", "answers", "the FINS server closes a connection after so many answers", 1},
+    {"fins-garbage", None, "the FINS server answers with bytes that are no frame"},
+    {"fins-error-code", "code", "the FINS server answers the client's node with this error code", 0x21},
+    {"fins-end-code", "code", "the FINS server answers a read with this end code", 0x1103},
+    {"modbus-silent", None, "the Modbus TCP server gives no answer"},
+    {"modbus-slow", "milliseconds", "the Modbus TCP server answers so much later", 1000},
+    {"modbus-drops", "answers", "the Modbus TCP server closes a connection after so many answers", 1},
+    {"modbus-garbage", None, "the Modbus TCP server answers with bytes that are no frame"},
+    {"modbus-exception", "code", "the Modbus TCP server answers with this exception", 2},
+    {"modbus-wrong-unit", "unit", "the Modbus TCP server answers under this unit id", 99},
 };
 static_assert(std::size(Descriptions) == Faults::FaultCount, "a row a fault");
 
@@ -71,8 +94,8 @@ bool Faults::strikes(Fault fault, const QString& target)
 {
     const auto state = m_states.find(fault);
     // Controller paths ignore case, and no two variables differ only in case.
-    if (state == m_states.end() ||
-        (!state->target.isEmpty() && state->target.compare(target, Qt::CaseInsensitive) != 0))
+    if (state == m_states.end() || (Descriptions[fault].usual < 0 && !state->target.isEmpty() &&
+                                    state->target.compare(target, Qt::CaseInsensitive) != 0))
         return false;
     if (state->spared > 0) {
         --state->spared;
@@ -81,6 +104,19 @@ bool Faults::strikes(Fault fault, const QString& target)
     if (state->times > 0 && --state->times == 0)
         m_states.erase(state);
     return true;
+}
+
+int Faults::numberOf(Fault fault) const
+{
+    bool isNumber = false;
+    const int number = targetOf(fault).toInt(&isNumber, 0); // "0x1103", too
+    return isNumber ? number : Descriptions[fault].usual;
+}
+
+std::optional<int> Faults::strikesWith(Fault fault)
+{
+    const int number = numberOf(fault);
+    return strikes(fault) ? std::optional<int>(number) : std::nullopt;
 }
 
 QString Faults::nameOf(Fault fault)
@@ -93,6 +129,31 @@ QString Faults::meaningOf(Fault fault)
     return fault >= 0 && fault < FaultCount ? QLatin1String(Descriptions[fault].meaning) : QString();
 }
 
+QString Faults::targetMeaningOf(Fault fault)
+{
+    const Description& description = Descriptions[fault];
+    const QString target = QLatin1String(description.target);
+    if (description.usual < 0)
+        return target;
+    const bool isCode = description.usual > 0xff; // as it is published
+    return QStringLiteral("%1 (%2)").arg(
+        target, isCode ? QStringLiteral("0x%1").arg(description.usual, 4, 16, QLatin1Char('0'))
+                       : QString::number(description.usual));
+}
+
+QString Faults::table()
+{
+    QString lines;
+    for (int number = 0; number < FaultCount; ++number) {
+        const auto fault = static_cast<Fault>(number);
+        lines += QStringLiteral("  %1 %2 %3\n")
+                     .arg(nameOf(fault), -24)
+                     .arg(targetMeaningOf(fault), -20)
+                     .arg(meaningOf(fault));
+    }
+    return lines;
+}
+
 bool Faults::setFromText(const QString& text)
 {
     const QString name = text.section(QLatin1Char(':'), 0, 0);
@@ -101,10 +162,15 @@ bool Faults::setFromText(const QString& text)
     bool isNumber = true;
     const int count = times.isEmpty() ? -1 : times.toInt(&isNumber);
     for (int fault = 0; fault < FaultCount; ++fault) {
-        if (name == QLatin1String(Descriptions[fault].name) && isNumber && count >= -1) {
+        const Description& description = Descriptions[fault];
+        if (name != QLatin1String(description.name) || !isNumber || count < -1)
+            continue;
+        bool isTarget = true;
+        if (description.usual >= 0 && !target.isEmpty())
+            isTarget = target.toInt(&isTarget, 0) >= 0 && isTarget;
+        if (isTarget)
             set(static_cast<Fault>(fault), count, target);
-            return true;
-        }
+        return isTarget;
     }
     return false;
 }

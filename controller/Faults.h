@@ -4,6 +4,8 @@
 #include <QMap>
 #include <QString>
 
+#include <optional>
+
 /// What can go wrong at the controller. Tests, the panel and the command line set it.
 class Faults
 {
@@ -26,6 +28,19 @@ public:
         RestartIgnored,
         VariableNotOffered,
         HeartbeatNotReloaded,
+        PortTaken,
+        FinsSilent,
+        FinsSlow,
+        FinsDrops,
+        FinsGarbage,
+        FinsErrorCode,
+        FinsEndCode,
+        ModbusSilent,
+        ModbusSlow,
+        ModbusDrops,
+        ModbusGarbage,
+        ModbusException,
+        ModbusWrongUnit,
         FaultCount
     };
 
@@ -42,10 +57,20 @@ public:
     /// Whether the fault strikes now; counts the occurrence down.
     bool strikes(Fault fault, const QString& target = QString());
 
+    /// The number that the target of the fault says, or the fault's usual one.
+    int numberOf(Fault fault) const;
+    /// That number when the fault strikes now.
+    std::optional<int> strikesWith(Fault fault);
+
     /// Name as `--fault` takes it, "fetch-fails" for FetchFails.
     static QString nameOf(Fault fault);
     /// What it does, as a line of a list.
     static QString meaningOf(Fault fault);
+    /// What the target of the fault is ("path", "milliseconds"), with the usual number; empty when it has
+    /// none.
+    static QString targetMeaningOf(Fault fault);
+    /// All of them, a line a fault, as `--help` tells them.
+    static QString table();
     /// Sets what "name", "name:times" or "name:times:target" says; false when there is no such name, or
     /// `times` is no number.
     bool setFromText(const QString& text);

@@ -4,6 +4,7 @@
 #include "FieldbusManager.h"
 #include "LinkStates.h"
 #include "ModbusSlave.h"
+#include "Partners.h"
 
 #include <utility>
 
@@ -25,6 +26,7 @@ SimulatedController::SimulatedController(const QString& storeDirectory, QObject*
     : ControllerLink(parent)
     , m_parts(storeDirectory)
     , m_behaviours(makeBehaviours(m_parts))
+    , m_partners(std::make_unique<Partners>(*this, m_parts))
 {
     connect(&m_parts.variables, &VariableStore::changed, this, &SimulatedController::markChanged);
     connect(&m_tick, &QTimer::timeout, this, [this] {

@@ -13,6 +13,8 @@
 #include <memory>
 #include <vector>
 
+class Partners;
+
 /// A robot controller that lives in a folder: files, variables, and behaviours that answer what the pendant
 /// writes. Nothing happens inside a call of the pendant but what the call itself asks for; every answer comes
 /// from a timer.
@@ -50,11 +52,17 @@ public:
     void setRestartDuration(int msec) { m_restartDuration = msec; }
     /// 10 makes clock and delays ten times faster; a scale that is not above 0 is ignored.
     void setTimeScale(double scale);
+    /// Real milliseconds that `msec` of the controller take.
+    int realTime(int msec) const { return m_parts.time.real(msec); }
 
     Faults& faults() { return m_parts.faults; }
     Traffic& traffic() { return m_parts.traffic; }
     FileStore& files() { return m_parts.files; }
     VariableStore& variables() { return m_parts.variables; }
+    /// What its links carried.
+    FrameLog& frames() { return m_parts.frames; }
+    /// Whom its links lead to. All are off at the start.
+    Partners& partners() { return *m_partners; }
     /// The roles that run at present.
     const BusRoles& roles() const { return m_parts.roles; }
     /// Switches a role on or off at once and in "fieldbus.xml", as nobody but the panel can; false when the
@@ -90,6 +98,7 @@ private:
 
     ControllerParts m_parts;
     std::vector<std::unique_ptr<Behaviour>> m_behaviours;
+    std::unique_ptr<Partners> m_partners;
     QSet<Element> m_subscribed;
     QVector<Element> m_changed; ///< waits for the next event-loop turn
     QTimer m_tick;

@@ -45,7 +45,7 @@ void Behaviour::dropDelayed()
         delayed->timer.stop();
 }
 
-void Behaviour::later(const QString& key, int msec, std::function<void()> action, Pace pace)
+void Behaviour::later(const QString& key, int msec, std::function<void()> action, std::optional<Pace> pace)
 {
     std::unique_ptr<Delayed>& delayed = m_delayed[key];
     if (!delayed) {
@@ -57,7 +57,7 @@ void Behaviour::later(const QString& key, int msec, std::function<void()> action
                 [entry = delayed.get()] { std::exchange(entry->action, nullptr)(); });
     }
     delayed->action = std::move(action);
-    delayed->timer.start(pace == Pace::Simulated ? m_parts.time.real(msec) : msec);
+    delayed->timer.start(pace.value_or(m_pace) == Pace::Simulated ? m_parts.time.real(msec) : msec);
 }
 
 void Behaviour::drop(const QString& key)

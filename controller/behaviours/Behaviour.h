@@ -21,8 +21,13 @@ class Behaviour : public QObject
     Q_OBJECT
 
 public:
-    explicit Behaviour(ControllerParts& controllerParts)
+    /// Simulated delays follow the time scale; real ones do not. Whoever has a partner outside the
+    /// simulation, at the other end of a socket, lives in real time.
+    enum class Pace { Simulated, Real };
+
+    explicit Behaviour(ControllerParts& controllerParts, Pace usualPace = Pace::Simulated)
         : m_parts(controllerParts)
+        , m_pace(usualPace)
     {
     }
 
@@ -41,9 +46,6 @@ public:
     void dropDelayed();
 
 protected:
-    /// Simulated delays follow the time scale; real ones do not.
-    enum class Pace { Simulated, Real };
-
     ControllerParts& parts() const { return m_parts; }
     /// False until the controller first came up, and from `wentDown()` to `restarted()`.
     bool isControllerUp() const;
@@ -58,8 +60,9 @@ protected:
     void onRequest(const char* variable, int msec, std::function<void()> action,
                    std::optional<Faults::Fault> ignoring = {});
 
-    /// Does `action` once, `msec` from now; a second call with the same key replaces the first.
-    void later(const QString& key, int msec, std::function<void()> action, Pace pace = Pace::Simulated);
+    /// Does `action` once, `msec` from now, at the behaviour's pace unless told otherwise; a second call with
+    /// the same key replaces the first.
+    void later(const QString& key, int msec, std::function<void()> action, std::optional<Pace> pace = {});
     void drop(const QString& key);
 
 private:
@@ -70,6 +73,7 @@ private:
     };
 
     ControllerParts& m_parts;
+    Pace m_pace;
     std::map<QString, std::unique_ptr<Delayed>> m_delayed;
 };
 

@@ -2,8 +2,6 @@
 
 #include "ControllerParts.h"
 
-#include <QSignalBlocker>
-
 namespace {
 
 constexpr auto Enable = "ifins_tcp.enable";
@@ -20,21 +18,21 @@ constexpr int PatienceMs = 3000; // for a connection and for each answer
 constexpr int ReadEveryMs = 500;
 constexpr int TryAgainMs = 5000;
 
-// Of what arrived and was not looked at yet.
-constexpr int ReadBufferSize = 4096;
-
 constexpr quint32 LowestNode = 1;
 constexpr quint32 HighestNode = 254;
 
 } // namespace
 
 FinsClient::FinsClient(ControllerParts& controllerParts)
-    : Behaviour(controllerParts)
+    : Behaviour(controllerParts, Pace::Real)
+    , m_socket(Wire::Fins, &controllerParts.frames)
 {
-    m_socket.setReadBufferSize(ReadBufferSize);
-    connect(&m_socket, &QTcpSocket::connected, this, &FinsClient::greet);
-    connect(&m_socket, &QTcpSocket::readyRead, this, &FinsClient::takeBytes);
-    connect(&m_socket, &QTcpSocket::errorOccurred, this, [this] { fail(m_socket.errorString()); });
+    connect(&m_socket, &FramedSocket::connected, this, &FinsClient::greet);
+    connect(&m_socket, &FramedSocket::arrived, this,
+            [this](const QByteArray& frame) { takeFrame(FinsFrame::of(frame)); });
+    connect(&m_socket, &FramedSocket::nonsense, this,
+            [this] { fail(QStringLiteral("wrong answer: no frame")); });
+    connect(&m_socket, &FramedSocket::lost, this, [this](const QString& why) { fail(why); });
 
     parts().variables.watch(QLatin1String(Enable), [this](int /*element*/, double value) {
         later(QLatin1String(SwitchAction), SwitchMs, [this, value] { switchTo(value != 0.0); });
@@ -43,11 +41,6 @@ FinsClient::FinsClient(ControllerParts& controllerParts)
         if (m_state != State::Off)
             start();
     });
-}
-
-FinsClient::~FinsClient()
-{
-    m_socket.disconnect(this);
 }
 
 void FinsClient::restarted()
@@ -89,21 +82,25 @@ void FinsClient::start()
     }
     enter(State::Connecting);
     later(QLatin1String(PatienceAction), PatienceMs, [this] { fail(QStringLiteral("timed out")); });
-    m_socket.connectToHost(m_settings.server, m_settings.port);
+    m_socket.call(m_settings.server.toString(), m_settings.port);
 }
 
 void FinsClient::close()
 {
     drop(QLatin1String(PatienceAction));
-    const QSignalBlocker blocker(m_socket);
-    m_socket.abort();
-    m_received.clear();
+    m_socket.hangUp();
     m_awaiting = false;
 }
 
 void FinsClient::fail(const QString& complaint, bool tryAgain)
 {
     close();
+    // The same failure at every try is one line of the log.
+    if (m_complaint != complaint)
+        note(QStringLiteral("%1:%2: %3")
+                 .arg(m_settings.server.toString())
+                 .arg(m_settings.port)
+                 .arg(complaint));
     m_complaint = complaint;
     parts().variables.set(QLatin1String(Error), 1.0);
     enter(State::Failed);
@@ -117,28 +114,12 @@ void FinsClient::greet()
     sendAndAwait({FinsFrame::ClientNode, 0, FinsFrame::number(static_cast<quint32>(m_settings.clientNode))});
 }
 
-void FinsClient::takeBytes()
-{
-    m_received += m_socket.readAll();
-    FinsFrame frame;
-    // A frame may end the connection.
-    while (!m_received.isEmpty() && (m_state == State::Greeting || m_state == State::Reading)) {
-        switch (FinsFrame::take(m_received, frame)) {
-        case FinsFrame::Taken::Whole:
-            takeFrame(frame);
-            break;
-        case FinsFrame::Taken::Incomplete:
-            return;
-        case FinsFrame::Taken::Garbage:
-            fail(QStringLiteral("wrong answer: no frame"));
-            return;
-        }
-    }
-}
-
 void FinsClient::takeFrame(const FinsFrame& frame)
 {
-    if (frame.error != 0)
+    // Only looks whether somebody is there.
+    if (frame.command == FinsFrame::Confirmation)
+        return;
+    if (frame.hasError())
         fail(QStringLiteral("error code %1").arg(frame.error));
     else if (!m_awaiting)
         fail(QStringLiteral("wrong answer: nothing was asked"));
@@ -167,6 +148,7 @@ void FinsClient::takeServerNode(const FinsFrame& frame)
                  static_cast<quint16>(m_settings.readAddress)};
     m_wordsRead = 0;
     m_complaint.clear();
+    note(QStringLiteral("%1:%2: connected").arg(m_settings.server.toString()).arg(m_settings.port));
     parts().variables.set(QLatin1String(Error), 0.0);
     enter(State::Reading);
     readNextWord();
@@ -199,11 +181,16 @@ void FinsClient::sendAndAwait(const FinsFrame& frame)
 {
     m_awaiting = true;
     later(QLatin1String(PatienceAction), PatienceMs, [this] { fail(QStringLiteral("timed out")); });
-    m_socket.write(frame.bytes());
+    m_socket.send(frame.bytes());
 }
 
 void FinsClient::enter(State state)
 {
     m_state = state;
     parts().variables.set(QLatin1String(Connected), state == State::Reading ? 1.0 : 0.0);
+}
+
+void FinsClient::note(const QString& text)
+{
+    parts().traffic.addNote(QStringLiteral("FINS client: ") + text);
 }

@@ -3,9 +3,8 @@
 
 #include "Behaviour.h"
 #include "FinsFrame.h"
+#include "FramedSocket.h"
 #include "HostLinkFiles.h"
-
-#include <QTcpSocket>
 
 /// The controller's FINS TCP client. While "ifins_tcp.enable" is set it connects to the server of
 /// "FinsTcpConfig.xml", agrees on the nodes with it, and reads the first DM word again and again.
@@ -28,7 +27,6 @@ public:
     Q_ENUM(State)
 
     explicit FinsClient(ControllerParts& controllerParts);
-    ~FinsClient() override;
 
     State state() const { return m_state; }
     /// Why it failed the last time; empty when it is connected or off.
@@ -46,16 +44,15 @@ private:
     void close();
     void fail(const QString& complaint, bool tryAgain = true);
     void greet();
-    void takeBytes();
     void takeFrame(const FinsFrame& frame);
     void takeServerNode(const FinsFrame& frame);
     void takeWord(const FinsFrame& frame);
     void readNextWord();
     void sendAndAwait(const FinsFrame& frame);
     void enter(State state);
+    void note(const QString& text);
 
-    QTcpSocket m_socket;
-    QByteArray m_received;
+    FramedSocket m_socket;
     FinsClientSettings m_settings;
     FinsWordRead m_request;
     State m_state = State::Off;

@@ -2,6 +2,7 @@
 
 #include "ControllerParts.h"
 #include "ControllerXml.h"
+#include "OverrideFile.h"
 
 #include <algorithm>
 #include <string>
@@ -14,14 +15,15 @@ struct MasterNames
     const char* file;
     const char* root;
     const char* variable; // first part of the names of its variables
+    const char* device;   // in "override.cfg"
 };
 
 // In the order of MasterSlaveStates::Master.
 constexpr std::array<MasterNames, MasterSlaveStates::MasterCount> Names = {{
     {"EtherNetIPMaster", "/application/fidbus/eipMaster/eip_master.xml", "EipMasterCommunication",
-     "ifidbus.eim"},
+     "ifidbus.eim", "EIM_DEVICE"},
     {"ProfinetMaster", "/application/fidbus/pfnMaster/pfn_master.xml", "PfnMasterCommunication",
-     "ifidbus.pnm"},
+     "ifidbus.pnm", "PNM_DEVICE"},
 }};
 
 constexpr MasterSlaveStates::Master Masters[] = {MasterSlaveStates::EtherNetIp, MasterSlaveStates::Profinet};
@@ -92,7 +94,8 @@ void MasterSlaveStates::restarted()
 void MasterSlaveStates::rolesChanged()
 {
     for (const Master master : Masters) {
-        if (m_tables[master].runs != parts().roles.isOn(Names[master].role))
+        const Table& table = m_tables[master];
+        if (table.runs != (table.hasDevice && parts().roles.isOn(Names[master].role)))
             start(master);
     }
 }
@@ -114,8 +117,11 @@ void MasterSlaveStates::readTable(Master master)
     QByteArray bytes;
     parts().files.read(QLatin1String(Names[master].file), bytes);
     const pugi::xml_node group = ControllerXml::load(bytes, Names[master].root, document).child("Group");
+    QByteArray devices;
+    parts().files.read(QStringLiteral("/fa/override.cfg"), devices);
     const int count = group.child("SlaveNum").text().as_int();
     Table& table = m_tables[master];
+    table.hasDevice = isDeviceInUse(devices, Names[master].device);
     table.couplingTimeout = qMax(0, group.child("EnableTimeout").text().as_int());
     table.decouplingTimeout = qMax(0, group.child("DisableTimeout").text().as_int());
     for (int position = 0; position < PositionCount; ++position) {
@@ -134,7 +140,7 @@ void MasterSlaveStates::readTable(Master master)
 void MasterSlaveStates::start(Master master)
 {
     Table& table = m_tables[master];
-    table.runs = parts().roles.isOn(Names[master].role);
+    table.runs = table.hasDevice && parts().roles.isOn(Names[master].role);
     const bool served = std::any_of(table.slaves.begin(), table.slaves.end(),
                                     [](const Slave& slave) { return slave.service != Service::None; });
     parts().variables.set(variable(master, "_configured"), table.runs && served ? 1 : 0);

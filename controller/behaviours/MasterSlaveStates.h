@@ -6,7 +6,8 @@
 #include <array>
 
 /// The slaves of the EtherNet/IP and of the PROFINET master, as "eip_master.xml" and "pfn_master.xml" said
-/// when the controller last came up.
+/// when the controller last came up. None is connected while "override.cfg" has the master's own device
+/// switched off.
 ///
 /// A fixed slave is connected while it is plugged in and its master runs. A dynamic one is coupled when the
 /// master comes up or it is plugged in, and decoupled when it is taken away; both take their time, and have
@@ -58,7 +59,8 @@ private:
         std::array<Slave, PositionCount> slaves;
         int couplingTimeout = 0; ///< milliseconds
         int decouplingTimeout = 0;
-        bool runs = false;
+        bool hasDevice = false; ///< the master's own device is in use
+        bool runs = false;      ///< ... and its role is on
     };
 
     const Slave& slave(Master master, int position) const;

@@ -3,10 +3,6 @@
 #include "ControllerParts.h"
 #include "HostLinkFiles.h"
 
-#include <QTcpSocket>
-
-#include <utility>
-
 namespace {
 
 constexpr auto Listen = "imes.tcp_server_listen";
@@ -22,17 +18,17 @@ constexpr int ReloadMs = 50;
 } // namespace
 
 MesServer::MesServer(ControllerParts& controllerParts)
-    : Behaviour(controllerParts)
+    : Behaviour(controllerParts, Pace::Real)
+    , m_server(controllerParts, Wire::Mes, [](const QByteArray& /*discarded*/) { return QByteArray(); })
 {
-    connect(&m_server, &QTcpServer::newConnection, this, &MesServer::takeClient);
+    m_server.setMostClients(MostClients);
+    connect(&m_server, &FrameServer::clientCountChanged, this, [this] {
+        parts().traffic.addNote(QStringLiteral("MES server: %1 client(s)").arg(clients()));
+        showState();
+    });
     onRequest(
         Listen, ToggleMs, [this] { toggle(); }, Faults::CommandNeverTaken);
     onRequest(UpdateAnnounced, ReloadMs, [this] { reload(); });
-}
-
-MesServer::~MesServer()
-{
-    stop();
 }
 
 void MesServer::restarted()
@@ -45,14 +41,14 @@ void MesServer::restarted()
 
 void MesServer::wentDown()
 {
-    stop();
+    m_server.close();
     showState();
 }
 
 void MesServer::toggle()
 {
     if (m_server.isListening())
-        stop();
+        m_server.close();
     else
         start();
     showState();
@@ -62,7 +58,7 @@ void MesServer::toggle()
 void MesServer::reload()
 {
     if (m_server.isListening()) {
-        stop();
+        m_server.close();
         start();
     }
     ++m_reloads;
@@ -74,44 +70,15 @@ void MesServer::start()
     QByteArray bytes;
     parts().files.read(QLatin1String(SettingsFile), bytes);
     const quint16 port = readMesServer(bytes).port;
-    m_complaint.clear();
     // Port 0 would be any free one.
-    if (port == 0)
-        m_complaint = QStringLiteral("no port");
-    else if (!m_server.listen(QHostAddress::LocalHost, port))
-        m_complaint = m_server.errorString();
-}
-
-void MesServer::stop()
-{
-    m_server.close();
-    for (QTcpSocket* client : std::exchange(m_clients, {})) {
-        client->disconnect(this);
-        delete client;
-    }
-}
-
-void MesServer::takeClient()
-{
-    while (QTcpSocket* const client = m_server.nextPendingConnection()) {
-        if (m_clients.size() >= MostClients) {
-            client->abort();
-            client->deleteLater();
-            continue;
-        }
-        m_clients.append(client);
-        connect(client, &QTcpSocket::readyRead, this, [client] { client->readAll(); });
-        connect(client, &QTcpSocket::disconnected, this, [this, client] {
-            m_clients.removeOne(client);
-            client->deleteLater();
-            showState();
-        });
-    }
-    showState();
+    m_complaint = port == 0 ? QStringLiteral("no port") : m_server.listen(port);
+    parts().traffic.addNote(QStringLiteral("MES server: port %1%2")
+                                .arg(port)
+                                .arg(m_complaint.isEmpty() ? QString() : QStringLiteral(": ") + m_complaint));
 }
 
 void MesServer::showState()
 {
     parts().variables.set(QLatin1String(Active), m_server.isListening() ? 1.0 : 0.0);
-    parts().variables.set(QLatin1String(Connected), m_clients.isEmpty() ? 0.0 : 1.0);
+    parts().variables.set(QLatin1String(Connected), clients() > 0 ? 1.0 : 0.0);
 }

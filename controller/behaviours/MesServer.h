@@ -2,11 +2,7 @@
 #define CONTROLLER_MESSERVER_H
 
 #include "Behaviour.h"
-
-#include <QTcpServer>
-#include <QVector>
-
-class QTcpSocket;
+#include "FrameServer.h"
 
 /// The controller's TCP server for a manufacturing execution system. A request in "imes.tcp_server_listen"
 /// starts it at the port of "TcpServerConfig.xml", or stops it when it runs. It listens on loopback only.
@@ -20,11 +16,10 @@ public:
     static constexpr int MostClients = 8;
 
     explicit MesServer(ControllerParts& controllerParts);
-    ~MesServer() override;
 
     /// The port that it listens on, 0 while it is stopped.
-    quint16 port() const { return m_server.isListening() ? m_server.serverPort() : 0; }
-    int clients() const { return m_clients.size(); }
+    quint16 port() const { return m_server.port(); }
+    int clients() const { return m_server.clientCount(); }
     /// Why it could not be started the last time; empty when it could.
     QString complaint() const { return m_complaint; }
     /// Announced settings that were taken over.
@@ -37,12 +32,9 @@ private:
     void toggle();
     void reload();
     void start();
-    void stop();
-    void takeClient();
     void showState();
 
-    QTcpServer m_server;
-    QVector<QTcpSocket*> m_clients; ///< children of the server
+    FrameServer m_server;
     QString m_complaint;
     int m_reloads = 0;
 };

@@ -1,9 +1,7 @@
 #include "ModbusMaster.h"
 
 #include "ControllerParts.h"
-
-#include <QModbusTcpClient>
-#include <QVariant>
+#include "ModbusFrame.h"
 
 namespace {
 
@@ -21,6 +19,7 @@ constexpr int PauseMs = 1000; // after it gave up, with automatic connection
 const QString Retry = QStringLiteral("retry");
 const QString Patience = QStringLiteral("patience");
 const QString Alive = QStringLiteral("alive");
+const QString Answer = QStringLiteral("answer");
 
 const QString& role()
 {
@@ -28,25 +27,17 @@ const QString& role()
     return name;
 }
 
-// An exception is an answer as well, unless a gateway says that there is nobody behind it.
-bool isAnswer(const QModbusReply& reply)
-{
-    switch (reply.error()) {
-    case QModbusDevice::NoError:
-        return true;
-    case QModbusDevice::ProtocolError:
-        return reply.rawResult().exceptionCode() != QModbusPdu::GatewayPathUnavailable &&
-               reply.rawResult().exceptionCode() != QModbusPdu::GatewayTargetDeviceFailedToRespond;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 ModbusMaster::ModbusMaster(ControllerParts& controllerParts)
-    : Behaviour(controllerParts)
+    : Behaviour(controllerParts, Pace::Real)
+    , m_socket(Wire::Modbus, &controllerParts.frames)
 {
+    connect(&m_socket, &FramedSocket::connected, this, &ModbusMaster::proveUnit);
+    connect(&m_socket, &FramedSocket::arrived, this, &ModbusMaster::takeFrame);
+    connect(&m_socket, &FramedSocket::nonsense, this,
+            [this] { failed(QStringLiteral("wrong answer: no frame")); });
+    connect(&m_socket, &FramedSocket::lost, this, &ModbusMaster::failed);
     parts().links.setPartner(role(), false);
     onCable(role(), [this] { follow(); });
     onRequest(SaveAnnounced, CommandMs, [this] { reload(); });
@@ -57,12 +48,6 @@ ModbusMaster::ModbusMaster(ControllerParts& controllerParts)
     parts().variables.watch(QLatin1String(Automatic), [this](int /*element*/, double /*value*/) {
         later(QLatin1String(Automatic), CommandMs, [this] { follow(); });
     });
-}
-
-// Without a word to the variables: whoever follows them may be gone already.
-ModbusMaster::~ModbusMaster()
-{
-    dropClient();
 }
 
 void ModbusMaster::restarted()
@@ -118,8 +103,8 @@ void ModbusMaster::begin()
         return;
     }
     m_trying = true;
-    later(
-        Patience, m_settings->timeoutMs, [this] { giveUp(); }, Pace::Real);
+    m_complaint = QStringLiteral("no answer in time");
+    later(Patience, m_settings->timeoutMs, [this] { giveUp(); });
     connectToSlave();
 }
 
@@ -130,92 +115,75 @@ void ModbusMaster::connectToSlave()
         note(QStringLiteral("%1 is not on this machine").arg(m_settings->address.toString()));
         return;
     }
-    dropClient();
-    m_client = std::make_unique<QModbusTcpClient>();
-    m_client->setConnectionParameter(QModbusDevice::NetworkAddressParameter, m_settings->address.toString());
-    m_client->setConnectionParameter(QModbusDevice::NetworkPortParameter, m_settings->port);
-    m_client->setTimeout(m_settings->timeoutMs);
-    m_client->setNumberOfRetries(0);
-    connect(m_client.get(), &QModbusDevice::stateChanged, this, [this](QModbusDevice::State state) {
-        if (!m_client)
-            return;
-        if (state == QModbusDevice::ConnectedState)
-            proveUnit();
-        else if (state == QModbusDevice::UnconnectedState)
-            failed();
-    });
-    if (!m_client->connectDevice())
-        failed();
+    m_socket.call(m_settings->address.toString(), m_settings->port);
 }
 
 void ModbusMaster::proveUnit()
 {
-    QModbusReply* const reply =
-        m_client->sendReadRequest({QModbusDataUnit::HoldingRegisters, 0, 1}, m_settings->unit);
-    if (!reply) {
-        failed();
-        return;
-    }
-    connect(reply, &QModbusReply::finished, this, [this, reply] {
-        reply->deleteLater();
-        if (m_client)
-            takeAnswer(*reply);
-    });
+    ++m_transaction;
+    m_awaiting = true;
+    later(Answer, m_settings->timeoutMs, [this] { failed(QStringLiteral("no answer in time")); });
+    m_socket.send(
+        ModbusFrame{m_transaction, 0, static_cast<quint8>(m_settings->unit), ModbusFrame::readRequest(0, 1)}
+            .bytes());
 }
 
-void ModbusMaster::takeAnswer(const QModbusReply& reply)
+// What answers another request, or speaks for another unit, is not what is waited for.
+void ModbusMaster::takeFrame(const QByteArray& bytes)
 {
-    if (!isAnswer(reply)) {
-        failed();
+    const ModbusFrame frame = ModbusFrame::of(bytes);
+    if (!m_awaiting || frame.protocol != 0 || frame.transaction != m_transaction ||
+        frame.unit != m_settings->unit)
+        return;
+    m_awaiting = false;
+    drop(Answer);
+    // An exception is an answer as well, unless a gateway says that there is nobody behind it.
+    const int exception = frame.exception();
+    if (exception == ModbusFrame::GatewayPath || exception == ModbusFrame::GatewayTarget) {
+        failed(QStringLiteral("exception %1").arg(exception));
         return;
     }
     drop(Patience);
     m_trying = false;
     setConnected(true);
     if (m_settings->aliveMs > 0)
-        later(
-            Alive, m_settings->aliveMs, [this] { proveUnit(); }, Pace::Real);
+        later(Alive, m_settings->aliveMs, [this] { proveUnit(); });
 }
 
-// Called while the client is at work, so that it is let go of only later.
-void ModbusMaster::failed()
+void ModbusMaster::failed(const QString& why)
 {
-    drop(Alive);
+    m_complaint = why;
+    m_awaiting = false;
+    m_socket.hangUp();
+    for (const QString& key : {Alive, Answer})
+        drop(key);
     const bool broken = m_connected;
     setConnected(false);
     if (broken)
-        later(
-            Retry, RetryMs, [this] { begin(); }, Pace::Real);
+        later(Retry, RetryMs, [this] { begin(); });
     else if (m_trying)
-        later(
-            Retry, RetryMs, [this] { connectToSlave(); }, Pace::Real);
+        later(Retry, RetryMs, [this] { connectToSlave(); });
 }
 
 void ModbusMaster::giveUp()
 {
     hangUp();
-    note(QStringLiteral("no answer from unit %1 at %2:%3")
+    note(QStringLiteral("no answer from unit %1 at %2:%3 (%4)")
              .arg(m_settings->unit)
              .arg(m_settings->address.toString())
-             .arg(m_settings->port));
-    later(
-        Retry, PauseMs, [this] { follow(); }, Pace::Real);
+             .arg(m_settings->port)
+             .arg(m_complaint));
+    later(Retry, PauseMs, [this] { follow(); });
 }
 
 void ModbusMaster::hangUp()
 {
-    for (const QString& key : {Retry, Patience, Alive})
+    for (const QString& key : {Retry, Patience, Alive, Answer})
         drop(key);
     m_trying = false;
-    dropClient();
+    m_awaiting = false;
+    m_socket.hangUp();
     setConnected(false);
-}
-
-// Not from one of the client's own signals.
-void ModbusMaster::dropClient()
-{
-    // Taken away first: what it says while it goes is not for us.
-    const std::unique_ptr<QModbusTcpClient> gone = std::move(m_client);
 }
 
 void ModbusMaster::setConnected(bool connected)
@@ -223,7 +191,12 @@ void ModbusMaster::setConnected(bool connected)
     if (m_connected == connected)
         return;
     m_connected = connected;
-    note(connected ? QStringLiteral("connected") : QStringLiteral("disconnected"));
+    if (connected)
+        note(QStringLiteral("connected to %1:%2").arg(m_settings->address.toString()).arg(m_settings->port));
+    else
+        note(m_complaint.isEmpty() ? QStringLiteral("disconnected")
+                                   : QStringLiteral("disconnected: ") + m_complaint);
+    m_complaint.clear();
     parts().variables.set(QLatin1String(Connected), connected ? 1.0 : 0.0);
     parts().links.setPartner(role(), connected);
 }

@@ -26,7 +26,7 @@ quint16 addressOf(int number)
 } // namespace
 
 ModbusSlave::ModbusSlave(ControllerParts& controllerParts)
-    : Behaviour(controllerParts)
+    : Behaviour(controllerParts, Pace::Real)
 {
     parts().links.setPartner(role(), false);
     onCable(role(), [this] { follow(); });
@@ -55,7 +55,7 @@ std::optional<quint16> ModbusSlave::registerValue(int number) const
 {
     quint16 value = 0;
     if (!m_server || !isRegister(number) ||
-        !m_server->data(QModbusDataUnit::HoldingRegisters, addressOf(number), &value))
+        !m_server->registers().data(QModbusDataUnit::HoldingRegisters, addressOf(number), &value))
         return {};
     return value;
 }
@@ -63,7 +63,7 @@ std::optional<quint16> ModbusSlave::registerValue(int number) const
 bool ModbusSlave::setRegister(int number, quint16 value)
 {
     return m_server && isRegister(number) &&
-           m_server->setData(QModbusDataUnit::HoldingRegisters, addressOf(number), value);
+           m_server->registers().setData(QModbusDataUnit::HoldingRegisters, addressOf(number), value);
 }
 
 void ModbusSlave::restarted()
@@ -97,10 +97,10 @@ void ModbusSlave::serve()
     QByteArray mapping;
     parts().files.read(QStringLiteral("/application/fidbus/fieldbus_config.xml"), mapping);
     m_server = std::make_unique<RegisterServer>(
-        readRegisterBlocks(mapping, parts().roles.isOn("FreeBus") ? "free" : "fixed"), UnitId);
-    if (!m_server->listen(*m_port)) {
-        const QString complaint =
-            QStringLiteral("Modbus TCP slave: port %1: %2").arg(*m_port).arg(m_server->errorString());
+        parts(), readRegisterBlocks(mapping, parts().roles.isOn("FreeBus") ? "free" : "fixed"), UnitId);
+    const QString why = m_server->listen(*m_port);
+    if (!why.isEmpty()) {
+        const QString complaint = QStringLiteral("Modbus TCP slave: port %1: %2").arg(*m_port).arg(why);
         m_server.reset();
         qWarning().noquote() << complaint;
         parts().traffic.addNote(complaint);
@@ -108,7 +108,7 @@ void ModbusSlave::serve()
     }
     // Whoever was told a port that was picked finds the slave there again.
     m_port = m_server->port();
-    connect(m_server.get(), &RegisterServer::clientCountChanged, this, &ModbusSlave::tellClients);
+    connect(m_server.get(), &FrameServer::clientCountChanged, this, &ModbusSlave::tellClients);
     parts().traffic.addNote(QStringLiteral("Modbus TCP slave: port %1").arg(*m_port));
 }
 

@@ -4,6 +4,7 @@
 
 namespace {
 
+// Of the protocol. The page sets no limits, so that what is beyond them arrives here.
 constexpr int HighestNode = 254;
 constexpr int LastDmWord = 32767;
 

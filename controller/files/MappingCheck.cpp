@@ -4,7 +4,8 @@
 
 namespace {
 
-// The largest quantity of each type that any bus carries, in either mode.
+// The largest quantity of each type that any bus carries, in either mode. Laxer than the page, which knows the limits
+// of each bus, direction and mode.
 constexpr struct
 {
     const char* type;

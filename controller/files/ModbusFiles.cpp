@@ -7,7 +7,9 @@
 
 namespace {
 
+// Laxer than the page of the master, which offers 0 to 125: a device takes what the protocol can say.
 constexpr int HighestUnit = 255;
+// The page's own limits. A file that was written by hand is put within them, not refused.
 constexpr int ShortestTimeoutMs = 100;
 constexpr int LongestTimeoutMs = 10000;
 constexpr int LongestAliveMs = 24 * 3600 * 1000;
@@ -24,16 +26,78 @@ int milliseconds(const QByteArray& seconds, int longest)
     return std::isfinite(value) && value > 0.0 ? static_cast<int>(std::min<double>(value, longest)) : 0;
 }
 
+pugi::xml_node slaveBus(const QByteArray& mappingXml, const char* mode, pugi::xml_document& document)
+{
+    return ControllerXml::load(mappingXml, "FieldbusConfig", document)
+        .find_child_by_attribute("Mode", "name", mode)
+        .find_child_by_attribute("Bus", "name", "ModbusTcpSlave");
+}
+
+struct TypeOfVariable
+{
+    const char* inFile;
+    const char* suffix;
+    int elements;  // of one entry
+    int registers; // of one entry
+};
+
+// As MappedVariable::Type counts.
+constexpr TypeOfVariable Types[] = {{"Bool", "_b", 16, 1}, {"Int", "_i", 1, 1}, {"Float", "_f", 1, 2}};
+
+// The variables of one row of the mapping; what makes no sense has none.
+void appendVariables(const pugi::xml_node& row, const QString& prefix, const pugi::xml_node& texts,
+                     std::vector<MappedVariable>& variables)
+{
+    int type = 0;
+    while (type < 3 && qstrcmp(row.attribute("type").value(), Types[type].inFile) != 0)
+        ++type;
+    const int first = row.attribute("start").as_int() - FirstHoldingRegister;
+    const int last = row.attribute("end").as_int() - FirstHoldingRegister;
+    if (type == 3 || first < 0 || last > LastHoldingRegister - FirstHoldingRegister)
+        return;
+    const TypeOfVariable& kind = Types[type];
+    const QString group = prefix + QLatin1String(kind.suffix);
+    const pugi::xml_node named = texts.find_child_by_attribute("Group", "name", group.toUtf8().constData());
+    int element = 0;
+    for (int at = first; at + kind.registers - 1 <= last; at += kind.registers, element += kind.elements) {
+        const pugi::xml_node text =
+            named.find_child_by_attribute("Variable", "index", QByteArray::number(element).constData());
+        const QString range = kind.elements == 1
+                                  ? QString::number(element)
+                                  : QStringLiteral("%1..%2").arg(element).arg(element + kind.elements - 1);
+        variables.push_back({at, static_cast<MappedVariable::Type>(type),
+                             QStringLiteral("%1[%2] %3")
+                                 .arg(group, range, QString::fromUtf8(text.attribute("text").value()))
+                                 .trimmed()});
+    }
+}
+
 } // namespace
+
+std::vector<MappedVariable> readMappedVariables(const QByteArray& mappingXml, const QByteArray& textsXml,
+                                                const char* mode)
+{
+    std::vector<MappedVariable> variables;
+    pugi::xml_document mapping;
+    pugi::xml_document textDocument;
+    const pugi::xml_node texts = ControllerXml::load(textsXml, "UserDescription", textDocument);
+    for (const pugi::xml_node& area : slaveBus(mappingXml, mode, mapping).children("Area")) {
+        const QString direction = QString::fromUtf8(area.attribute("direction").value());
+        for (const pugi::xml_node& row : area.children()) {
+            const bool isSystem = qstrcmp(row.name(), "System") == 0;
+            appendVariables(row,
+                            (isSystem ? QStringLiteral("mtcp_sys_") : QStringLiteral("mtcp_")) + direction,
+                            texts, variables);
+        }
+    }
+    return variables;
+}
 
 std::vector<RegisterBlock> readRegisterBlocks(const QByteArray& mappingXml, const char* mode)
 {
     std::vector<RegisterBlock> blocks;
     pugi::xml_document document;
-    const pugi::xml_node bus = ControllerXml::load(mappingXml, "FieldbusConfig", document)
-                                   .find_child_by_attribute("Mode", "name", mode)
-                                   .find_child_by_attribute("Bus", "name", "ModbusTcpSlave");
-    for (const pugi::xml_node& area : bus.children("Area")) {
+    for (const pugi::xml_node& area : slaveBus(mappingXml, mode, document).children("Area")) {
         const long long first = area.attribute("start").as_llong();
         const long long last = area.attribute("end").as_llong();
         // What the robot only sets ("wo") is not a client's to write.

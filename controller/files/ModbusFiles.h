@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QHostAddress>
+#include <QString>
 
 #include <optional>
 #include <vector>
@@ -22,6 +23,19 @@ struct RegisterBlock
 /// The blocks that "fieldbus_config.xml" maps in the mode ("free" or "fixed"); what cannot be read, and what
 /// lies outside the holding registers, is none.
 std::vector<RegisterBlock> readRegisterBlocks(const QByteArray& mappingXml, const char* mode);
+
+/// A variable of the robot that the Modbus TCP slave maps; 16 Bools share a register, and are one entry.
+struct MappedVariable
+{
+    enum Type { Bool, Int, Float };
+    int address; ///< of its first register, on the wire
+    Type type;
+    QString name; ///< "mtcp_ro_i[3]", with the operator's text behind it when there is one
+};
+
+/// The variables in the blocks of `readRegisterBlocks`, with the texts of "user_description.xml".
+std::vector<MappedVariable> readMappedVariables(const QByteArray& mappingXml, const QByteArray& textsXml,
+                                                const char* mode);
 
 /// The one slave that the Modbus TCP master talks to.
 struct MasterSettings

@@ -3,9 +3,11 @@
 #include "DeviceNetTab.h"
 #include "DeviceTab.h"
 #include "FaultTab.h"
+#include "FrameTab.h"
 #include "HostLinkTab.h"
 #include "LinkTab.h"
 #include "LogTab.h"
+#include "PartnerTab.h"
 #include "RobotTab.h"
 #include "SlaveTab.h"
 #include "VariableTab.h"
@@ -31,6 +33,8 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, const FinsPage
     addTab(new RobotTab(controller), QStringLiteral("robotTab"), tr("Robot"));
     addTab(new LinkTab(controller), QStringLiteral("linkTab"), tr("Links"));
     addTab(new HostLinkTab(controller, finsPage), QStringLiteral("hostLinkTab"), tr("Host links"));
+    addTab(new PartnerTab(controller), QStringLiteral("partnerTab"), tr("Partners"));
+    addTab(new FrameTab(controller), QStringLiteral("frameTab"), tr("Frames"));
     addTab(new SlaveTab(controller), QStringLiteral("slaveTab"), tr("Slaves"));
     addTab(new DeviceNetTab(controller), QStringLiteral("deviceNetTab"), tr("DeviceNet"));
     addTab(new DeviceTab(controller), QStringLiteral("deviceTab"), tr("Devices"));

@@ -54,6 +54,8 @@ std::vector<Row> rows(const QStringList& faultNames)
              "Let the controller fail: a name, how often (default: always) and what is hit. Names: %1.")
              .arg(faultNames.join(QStringLiteral(", "))),
          "NAME[:N[:TARGET]]"},
+        {"scenario",
+         Options::tr("Play a file of times and actions; docs/simulated-controller.md tells them."), "FILE"},
         {"user-level", Options::tr("User level at the start, 0 to %1.").arg(LogInDialog::HighestLevel), "N"},
         {"time-scale", Options::tr("How much faster than real time the pendant and the controller wait."),
          "X"},
@@ -137,8 +139,11 @@ void Options::takePaths(const QCommandLineParser& parser)
     {
         const char* name;
         QString& path;
-    } paths[] = {
-        {"tour", tourDirectory}, {"controller", controllerStore}, {"workdir", workDirectory}, {"usb", usb}};
+    } paths[] = {{"tour", tourDirectory},
+                 {"controller", controllerStore},
+                 {"workdir", workDirectory},
+                 {"usb", usb},
+                 {"scenario", scenario}};
     for (const auto& row : paths)
         row.path = absolute(parser.value(QLatin1String(row.name)));
     for (const QString& file : parser.values(QStringLiteral("application")))

@@ -21,6 +21,7 @@ public:
     QString workDirectory;    ///< empty: below the user's data folder; for the tour, a scratch folder
     QStringList applications; ///< descriptions or libraries, beside those that are installed
     QString usb;              ///< empty: no drive
+    QString scenario;         ///< empty: none is played
     QStringList faults;       ///< as `Faults::setFromText` takes them
     std::optional<int> userLevel;
     std::optional<double> timeScale;

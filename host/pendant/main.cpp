@@ -4,8 +4,10 @@
 #include "Faults.h"
 #include "ModbusSlave.h"
 #include "Options.h"
+#include "Partners.h"
 #include "PendantApplication.h"
 #include "PendantWindow.h"
+#include "Scenario.h"
 #include "Shortcut.h"
 #include "SimulatedController.h"
 #include "TimeScale.h"
@@ -16,6 +18,7 @@
 #include "WorkDirectory.h"
 
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -34,12 +37,24 @@ public:
     Connection& operator=(const Connection&) = delete;
 };
 
-QStringList faultNames()
+/// Says what is wrong with the file; empty when it was taken.
+QString load(Scenario& scenario, const QString& path)
 {
-    QStringList names;
-    for (int fault = 0; fault < Faults::FaultCount; ++fault)
-        names.append(Faults::nameOf(static_cast<Faults::Fault>(fault)));
-    return names;
+    QFile file(path);
+    if (path.isEmpty())
+        return {};
+    const QString wrong = file.open(QIODevice::ReadOnly) ? scenario.load(file.readAll()) : file.errorString();
+    return wrong.isEmpty() ? wrong : QStringLiteral("%1: %2").arg(path, wrong);
+}
+
+bool switchPartners(Partners& partners, bool on)
+{
+    // Several tours may be on the way at a time.
+    if (on)
+        partners.useFreePorts();
+    else
+        partners.stopAll();
+    return !on || partners.startAll();
 }
 
 int refuse(const QString& problem)
@@ -54,6 +69,7 @@ TourGuide::Fetches takeFetches(Traffic& traffic)
     traffic.clear();
     return fetches;
 }
+
 /// Empty when the controller and what is around the pendant are as the options want them.
 QString setUp(SimulatedController& controller, const Options& options)
 {
@@ -84,7 +100,7 @@ InstalledApplications installedApplications(const Options& options)
 }
 
 /// The pendant and the controller's panel, until the window is closed or the tour is over.
-int runWith(SimulatedController& controller, const Options& options)
+int runWith(SimulatedController& controller, Scenario& scenario, const Options& options)
 {
     const Connection connection(controller);
     PendantWindow window(installedApplications(options));
@@ -98,11 +114,13 @@ int runWith(SimulatedController& controller, const Options& options)
         panel.move(window.frameGeometry().topRight() + QPoint(16, 0));
         panel.show();
     }
+    scenario.start();
     if (!options.tour)
         return PendantApplication::exec();
     return makeTour({window, controller, &panel, controller.modbusPort(),
                      [&controller](bool on) { controller.setServoOn(on); },
-                     [&controller] { return takeFetches(controller.traffic()); }},
+                     [&controller] { return takeFetches(controller.traffic()); },
+                     [&controller](bool on) { return switchPartners(controller.partners(), on); }},
                     options.tourDirectory);
 }
 } // namespace
@@ -112,11 +130,11 @@ int main(int argc, char* argv[])
     PendantApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("pendant"));
 
-    const Options options = Options::parse(QCoreApplication::arguments(), faultNames());
+    const Options options = Options::parse(QCoreApplication::arguments(), {Options::tr("see the end")});
     if (!options.problem.isEmpty())
         return refuse(options.problem);
     if (options.help) {
-        QTextStream(stdout) << options.helpText;
+        QTextStream(stdout) << options.helpText << '\n' << Options::tr("Faults:") << '\n' << Faults::table();
         return 0;
     }
 
@@ -130,6 +148,9 @@ int main(int argc, char* argv[])
 
     SimulatedController controller(options.controllerStore.isEmpty() ? work.controllerStore()
                                                                      : options.controllerStore);
-    const QString problem = setUp(controller, options);
-    return problem.isEmpty() ? runWith(controller, options) : refuse(problem);
+    QString problem = setUp(controller, options);
+    Scenario scenario(controller, [](int level) { UserSession::instance().setUserLevel(level); });
+    if (problem.isEmpty())
+        problem = load(scenario, options.scenario);
+    return problem.isEmpty() ? runWith(controller, scenario, options) : refuse(problem);
 }

@@ -15,13 +15,14 @@ struct MasterUnderTest
     const char* file;
     const char* root;
     QString variable;
+    QByteArray device;
 };
 
 const MasterUnderTest Masters[] = {
     {MasterSlaveStates::EtherNetIp, "EtherNetIPMaster", "/application/fidbus/eipMaster/eip_master.xml",
-     "EipMasterCommunication", "ifidbus.eim"},
+     "EipMasterCommunication", "ifidbus.eim", "EIM_DEVICE"},
     {MasterSlaveStates::Profinet, "ProfinetMaster", "/application/fidbus/pfnMaster/pfn_master.xml",
-     "PfnMasterCommunication", "ifidbus.pnm"},
+     "PfnMasterCommunication", "ifidbus.pnm", "PNM_DEVICE"},
 };
 
 constexpr int Position = 4;
@@ -67,6 +68,7 @@ void TestMasterSlaveStates::states_data()
     add("dynamic, at the last moment", "dynamic", "5", 1200, 600, {true, false, true}, {1, 1, 0});
     add("dynamic, too slow", "dynamic", "5", 1199, 599, {true}, {0, 2, 0});
     add("file cut short: no position served", "cut", "9", 5000, 5000, {true}, {0, 0, 0});
+    add("its device is switched off", "fixed, off", "9", 0, 0, {true}, {0, 0, 0});
 }
 
 void TestMasterSlaveStates::states()
@@ -92,6 +94,8 @@ void TestMasterSlaveStates::states()
         QVERIFY(controller.setRoleOn(master.role, true));
         const QByteArray whole = table(master, service == "cut" ? "fixed" : service, count, enable, disable);
         QVERIFY(controller.storeFile(master.file, service == "cut" ? whole.left(whole.size() / 2) : whole));
+        const QByteArray device = QByteArray("ECAT_SLAVE_OFF 2 3002;") + master.device + "\r\n";
+        QVERIFY(controller.storeFile("/fa/override.cfg", service.contains("off") ? device : ";" + device));
         QVERIFY(slaves.setSlaveConnected(master.master, Position, plugged.constFirst()));
         // What was sent counts from the next restart on.
         QCOMPARE(shown(), QVector<int>({0, 0, 0}));

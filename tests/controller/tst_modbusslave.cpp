@@ -3,6 +3,8 @@
 
 #include <QLabel>
 #include <QModbusTcpClient>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -76,6 +78,7 @@ private slots:
     void servesTheMappedRegisters();
     void mappingsThatMapNothing_data();
     void mappingsThatMapNothing();
+    void framesOnTheWire();
     void modeAndRestartChangeTheRegisters();
     void heartbeatLightFollowsTheClient();
     void linkNeedsClientRoleAndCable();
@@ -144,6 +147,65 @@ void TestModbusSlave::mappingsThatMapNothing()
     QVERIFY(client.isConnected());
     QCOMPARE(client.read(40001), QString("exception"));
     QCOMPARE(client.write(40001, {1}), QString("exception"));
+}
+
+// Requests and answers spelled out in hexadecimal. The next row is answered on the same connection unless the
+// one before closes it.
+void TestModbusSlave::framesOnTheWire()
+{
+    const struct
+    {
+        const char* name;
+        const char* request;
+        const char* answer; // "": none
+        bool closes;
+    } rows[] = {
+        {"its unit", "0001 0000 0006 01 03 0064 0001", "0001 0000 0005 01 03 02 0000", false},
+        {"unit 0", "0002 0000 0006 00 03 0064 0001", "0002 0000 0005 00 03 02 0000", false},
+        {"unit 255", "0003 0000 0006 ff 03 0064 0001", "0003 0000 0005 ff 03 02 0000", false},
+        {"another unit", "0004 0000 0006 02 03 0064 0001", "", false},
+        {"another protocol id", "0005 0001 0006 01 03 0064 0001", "", false},
+        {"write of what the robot sets", "0006 0000 0006 01 06 0000 0001", "0006 0000 0003 01 86 02", false},
+        {"several of them", "0007 0000 0009 01 10 0000 0001 02 0001", "0007 0000 0003 01 90 02", false},
+        {"write of what the robot gets", "0008 0000 0006 01 06 0064 0007", "0008 0000 0006 01 06 0064 0007",
+         false},
+        {"between the blocks", "0009 0000 0006 01 03 0061 0001", "0009 0000 0003 01 83 02", false},
+        {"a function that is none", "000a 0000 0002 01 f0", "000a 0000 0003 01 f0 01", false},
+        {"two in one piece", "000b 0000 0006 01 03 0064 0001 000c 0000 0006 01 03 0064 0001",
+         "000b 0000 0005 01 03 02 0007 000c 0000 0005 01 03 02 0007", false},
+        {"no length", "000d 0000 0000 01 03", "", true},
+        {"another protocol", "474554202f20485454502f312e310d0a", "", true},
+    };
+    const QTemporaryDir folder;
+    SimulatedController controller(folder.path());
+    controller.setModbusPort(0);
+    QTcpSocket client;
+    for (const auto& row : rows) {
+        if (client.state() != QTcpSocket::ConnectedState)
+            client.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(controller.modbusPort()));
+        QTRY_COMPARE(client.state(), QTcpSocket::ConnectedState);
+        client.write(QByteArray::fromHex(row.request));
+        const QByteArray answer = QByteArray::fromHex(row.answer);
+        if (row.closes)
+            QTRY_VERIFY2(client.state() == QTcpSocket::UnconnectedState, row.name);
+        else if (answer.isEmpty())
+            QTest::qWait(50);
+        else
+            QTRY_VERIFY2(client.bytesAvailable() >= answer.size(), row.name);
+        QVERIFY2(client.readAll() == answer, row.name);
+    }
+
+    // A master that others have written.
+    const QString mbpoll = QStandardPaths::findExecutable(QStringLiteral("mbpoll"));
+    if (mbpoll.isEmpty())
+        QSKIP("mbpoll is not installed");
+    QVERIFY(controller.behaviour<ModbusSlave>().setRegister(40101, 4711));
+    QProcess poll;
+    poll.start(mbpoll, {"-m", "tcp", "-a", "1", "-r", "101", "-1", "-p",
+                        QString::number(controller.modbusPort()), "127.0.0.1"});
+    QTRY_COMPARE(poll.state(), QProcess::NotRunning);
+    const QByteArray told = poll.readAllStandardOutput();
+    QVERIFY2(told.contains("4711"), told.constData());
 }
 
 void TestModbusSlave::modeAndRestartChangeTheRegisters()

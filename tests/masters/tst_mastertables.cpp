@@ -284,6 +284,8 @@ private slots:
     {
         // Coupling takes longer than the operator is going to allow.
         QVERIFY(put(twin().file, tableFile(twin(), "0", "9000", "9000", 0, 0)));
+        QVERIFY(put("/fa/override.cfg",
+                    ";ECAT_SLAVE_OFF 2 3001;EIM_DEVICE\n;ECAT_SLAVE_OFF 2 3002;PNM_DEVICE\n"));
         QVERIFY(controller().setRoleOn(twin().role, true));
         QVERIFY(show());
         auto& states = controller().behaviour<MasterSlaveStates>();

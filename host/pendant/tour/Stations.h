@@ -31,6 +31,8 @@ bool usb(TourGuide& guide);
 // HostLinkStations.cpp
 bool mes(TourGuide& guide);
 bool fins(TourGuide& guide);
+/// Every link with its partner, and every light green.
+bool partners(TourGuide& guide);
 
 // MappingStations.cpp
 bool mapping(TourGuide& guide);

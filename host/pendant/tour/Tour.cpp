@@ -24,6 +24,7 @@ constexpr Station AllStations[] = {
     {"mes", Stations::mes},
     {"fins", Stations::fins},
     {"modbus-master", Stations::modbusMaster},
+    {"partners", Stations::partners},
     {"mapping", Stations::mapping},
     {"devicenet-slave", Stations::deviceNetSlave},
     {"devicenet-master", Stations::deviceNetMaster},

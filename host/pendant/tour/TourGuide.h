@@ -36,6 +36,9 @@ public:
         int modbusPort; ///< of a Modbus slave on this machine, whose unit id is 1
         std::function<void(bool on)> setServo;
         std::function<Fetches()> takeFetches;
+        /// Switches the machines at the other ends of the controller's links on or off; false when one did
+        /// not come up.
+        std::function<bool(bool on)> switchPartners;
     };
 
     TourGuide(Subject subject, const QString& directory);

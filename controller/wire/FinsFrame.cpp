@@ -1,5 +1,7 @@
 #include "FinsFrame.h"
 
+#include "Wire.h"
+
 #include <QtEndian>
 
 namespace {
@@ -21,6 +23,13 @@ constexpr quint8 IsResponse = 0x40;
 constexpr quint8 Gateways = 2;
 
 constexpr char MemoryAreaRead[] = {0x01, 0x01};
+constexpr char MemoryAreaWrite[] = {0x01, 0x02};
+constexpr int ParametersOffset = MessageHeaderSize + static_cast<int>(sizeof MemoryAreaRead);
+constexpr int ParametersSize = 6; // area, address of the first word, bit, count
+constexpr int MostWords = 999;
+constexpr int UndefinedCommand = 0x0401;
+constexpr int WrongArea = 0x1101;
+constexpr int WrongLength = 0x1001;
 constexpr quint8 DmWords = 0x82;
 constexpr int EndCodeOffset = MessageHeaderSize + static_cast<int>(sizeof MemoryAreaRead);
 constexpr int WordOffset = EndCodeOffset + 2;
@@ -65,22 +74,22 @@ QByteArray FinsFrame::bytes() const
            number(command) + number(error) + data;
 }
 
-FinsFrame::Taken FinsFrame::take(QByteArray& received, FinsFrame& frame)
+int FinsFrame::sizeOf(const QByteArray& received)
 {
     if (!received.startsWith(QByteArray::fromRawData(Magic, qMin(MagicSize, received.size()))))
-        return Taken::Garbage;
+        return Wire::Garbage;
     if (received.size() < CommandOffset)
-        return Taken::Incomplete;
+        return Wire::Incomplete;
     const quint32 length = numberAt(received, LengthOffset);
     if (length < LeastLength || length > LeastLength + MostData)
-        return Taken::Garbage;
+        return Wire::Garbage;
     const int size = CommandOffset + static_cast<int>(length);
-    if (received.size() < size)
-        return Taken::Incomplete;
-    frame = {numberAt(received, CommandOffset), numberAt(received, ErrorOffset),
-             received.mid(HeaderSize, size - HeaderSize)};
-    received.remove(0, size);
-    return Taken::Whole;
+    return received.size() < size ? Wire::Incomplete : size;
+}
+
+FinsFrame FinsFrame::of(const QByteArray& whole)
+{
+    return {numberAt(whole, CommandOffset), numberAt(whole, ErrorOffset), whole.mid(HeaderSize)};
 }
 
 QByteArray FinsWordRead::request() const
@@ -107,4 +116,50 @@ std::optional<FinsWordRead::Response> FinsWordRead::response(const QByteArray& d
     if (data.size() != ResponseSize)
         return std::nullopt;
     return Response{0, wordAt(data, WordOffset)};
+}
+
+QByteArray finsResponse(const QByteArray& data, int endCode, const std::function<quint16(quint16)>& read,
+                        const std::function<void(quint16, quint16)>& write)
+{
+    if (data.size() < ParametersOffset || (byteAt(data, 0) & IsResponse) != 0)
+        return {};
+    const QByteArray code = data.mid(MessageHeaderSize, sizeof MemoryAreaRead);
+    const bool reads = code == QByteArray(MemoryAreaRead, sizeof MemoryAreaRead);
+    const bool hasParameters = data.size() >= ParametersOffset + ParametersSize;
+    const int address = hasParameters ? wordAt(data, ParametersOffset + 1) : 0;
+    const int count = hasParameters ? wordAt(data, ParametersOffset + 4) : 0;
+    const int expected = ParametersOffset + ParametersSize + (reads ? 0 : 2 * count);
+    if (endCode == 0) {
+        if (!reads && code != QByteArray(MemoryAreaWrite, sizeof MemoryAreaWrite))
+            endCode = UndefinedCommand;
+        else if (!hasParameters || count > MostWords || data.size() != expected)
+            endCode = WrongLength;
+        else if (byteAt(data, ParametersOffset) != DmWords)
+            endCode = WrongArea;
+    }
+    // Back to where it came from, under the same number.
+    const quint8 header[MessageHeaderSize] = {IsCommand | IsResponse,
+                                              0,
+                                              Gateways,
+                                              byteAt(data, 6),
+                                              byteAt(data, 7),
+                                              byteAt(data, 8),
+                                              byteAt(data, 3),
+                                              byteAt(data, 4),
+                                              byteAt(data, 5),
+                                              byteAt(data, 9)};
+    QByteArray response = raw(header) + code;
+    const auto append = [&response](int word) {
+        response += static_cast<char>(word >> 8);
+        response += static_cast<char>(word & 0xff);
+    };
+    append(endCode);
+    for (int i = 0; endCode == 0 && i < count; ++i) {
+        const auto at = static_cast<quint16>(address + i);
+        if (reads)
+            append(read(at));
+        else
+            write(at, wordAt(data, ParametersOffset + ParametersSize + 2 * i));
+    }
+    return response;
 }

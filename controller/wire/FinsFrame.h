@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 
+#include <functional>
 #include <optional>
 
 /// Frames of FINS over TCP: "FINS", length of what follows it, command, error code (four bytes each, the
@@ -10,9 +11,11 @@
 struct FinsFrame
 {
     enum Command : quint32 {
-        ClientNode = 0, ///< client to server: 4 bytes with its node, 0 asks for one
-        ServerNode = 1, ///< the answer: 4 bytes with the client's node, 4 with the server's
-        Message = 2     ///< a FINS command or its response
+        ClientNode = 0,  ///< client to server: 4 bytes with its node, 0 asks for one
+        ServerNode = 1,  ///< the answer: 4 bytes with the client's node, 4 with the server's
+        Message = 2,     ///< a FINS command or its response
+        Refusal = 3,     ///< a message could not be passed on; the error code says why
+        Confirmation = 6 ///< looks whether the connection stands; is thrown away
     };
 
     /// Data beyond that no frame of this protocol carries.
@@ -24,16 +27,24 @@ struct FinsFrame
 
     QByteArray bytes() const;
 
-    enum class Taken { Whole, Incomplete, Garbage };
-    /// Takes the first frame off `received`, which stays as it is unless the frame is whole. Garbage: no
-    /// frame begins like this, whatever may follow.
-    static Taken take(QByteArray& received, FinsFrame& frame);
+    /// As `Wire::sizeOf`.
+    static int sizeOf(const QByteArray& received);
+    /// `whole` is one frame by `sizeOf`.
+    static FinsFrame of(const QByteArray& whole);
+    /// Whether the error code means anything in this kind of frame.
+    bool hasError() const { return error != 0 && command != Message && command != Confirmation; }
 
     /// Four bytes, the highest first.
     static QByteArray number(quint32 value);
     /// The number at `offset`, which must lie four bytes before the end.
     static quint32 numberAt(const QByteArray& bytes, int offset);
 };
+
+/// What a PLC makes of a FINS command: the response to `data`, whose DM words are read by `read` and written
+/// by `write`. What is no command on DM words gets an end code, and so does every other while `endCode` is
+/// not 0. Empty when `data` is no command at all.
+QByteArray finsResponse(const QByteArray& data, int endCode, const std::function<quint16(quint16)>& read,
+                        const std::function<void(quint16, quint16)>& write);
 
 /// A request for one DM word and the response to it.
 struct FinsWordRead

@@ -1,0 +1,10 @@
+#ifndef CONTROLLER_OVERRIDEFILE_H
+#define CONTROLLER_OVERRIDEFILE_H
+
+#include <QByteArray>
+
+/// Whether "override.cfg" has the device called `name` in use: a directive that would switch it off is there,
+/// behind a semicolon, and none that does.
+bool isDeviceInUse(const QByteArray& overrideCfg, const QByteArray& name);
+
+#endif
