@@ -345,7 +345,8 @@ private slots:
         model = modelWith(Bus::MtcpSlave, block(40101), {}, {}, false);
         const MappingModel::Entry emptied = model.enterQuantity(0, MappedInt, 0);
         QVERIFY(!emptied.refusal && !emptied.movedSlaveBlock);
-        QCOMPARE(addresses(model.recordOf(Bus::MtcpSlave).readOnly), QString("none none none = 40101-40100"));
+        QCOMPARE(addresses(areaOf(model.recordOf(Bus::MtcpSlave), Direction::ReadOnly)),
+                 QString("none none none = 40101-40100"));
     }
 
     // Read only 40001-40010, write only 40021-40030.
@@ -447,7 +448,6 @@ private slots:
     void rows()
     {
         const auto [number, freeMode, cells] = ::Rows<int, bool, QStringList>::current();
-        const SubTable& table = tableOf(number);
         MappingArea area = blockWith({32, 3, 0}, Layout::SlaveRegisters, 40001);
         area.system[MappedBool] = {64, 7, 14};
         area.system[MappedFloat] = {1, NoAddress, NoAddress};

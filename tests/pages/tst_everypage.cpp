@@ -499,8 +499,13 @@ private slots:
             const bool isDropped = row.answer == MsgBox::Second && page().noDropsEdits;
             const QStringList shown = entries();
             for (int i = 0; i < changed.size(); ++i) {
+                const QString& expected = isDropped ? before[i] : changed[i];
                 if (changed[i] != before[i])
-                    QCOMPARE(shown[i], isDropped ? before[i] : changed[i]);
+                    QVERIFY2(shown[i] == expected,
+                             qPrintable(QStringLiteral("entry %1, answer %2: %3 instead of %4")
+                                            .arg(i)
+                                            .arg(row.answer)
+                                            .arg(shown[i], expected)));
             }
             if (row.set)
                 (controller().*row.set)(!row.value);
