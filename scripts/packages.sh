@@ -40,3 +40,43 @@ quietly() {
     ((status == 0)) || cat "$log" >&2
     return "$status"
 }
+
+# with_progress WHAT LOG COMMAND...: the same for a build of CMake and Ninja, which takes minutes the first time:
+# says how far it is and how long it took.
+with_progress() {
+    local what=$1 log=$2 status=0 builder said=-30
+    shift
+    if ((${verbose:-0})); then
+        "${@:2}"
+        return
+    fi
+    SECONDS=0
+    "${@:2}" >"$log" 2>&1 &
+    builder=$!
+    while kill -0 "$builder" 2>/dev/null; do
+        sleep 0.5
+        if [[ -t 2 ]]; then
+            printf '\r%s: %s, %d s ' "$what" "$(steps_done "$log")" "$SECONDS" >&2
+        elif ((SECONDS >= 3 && SECONDS - said >= 30)); then
+            said=$SECONDS
+            echo "$what: $(steps_done "$log"), $SECONDS s" >&2
+        fi
+    done
+    wait "$builder" || status=$?
+    [[ ! -t 2 ]] || printf '\r\033[K' >&2
+    if ((status)); then
+        cat "$log" >&2
+    elif ((SECONDS >= 5)); then
+        echo "$what: done in $SECONDS s" >&2
+    fi
+    return "$status"
+}
+
+# steps_done LOG: the last "[12/345]" that Ninja wrote there, in words.
+steps_done() {
+    local last
+    last=$(grep -oE '^\[[0-9]+/[0-9]+\]' "$1" 2>/dev/null | tail -n 1)
+    [[ -z $last ]] && echo "starting" && return
+    last=${last//[\[\]]/}
+    echo "step ${last%/*} of ${last#*/}"
+}

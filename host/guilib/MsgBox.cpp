@@ -9,12 +9,11 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include <algorithm>
 #include <array>
 
 namespace {
-constexpr int NarrowestText = 360;
-constexpr int WidestText = 620;
+constexpr int TextWidth = 620;
+constexpr int LeastTextHeight = 96;
 constexpr int IconSize = 64;
 constexpr int Margin = 24;
 constexpr int Gap = 16;
@@ -30,6 +29,16 @@ constexpr std::array<Captions, 4> AllCaptions = {
      {QT_TRANSLATE_NOOP("MsgBox", "OK"), nullptr},
      {QT_TRANSLATE_NOOP("MsgBox", "OK"), QT_TRANSLATE_NOOP("MsgBox", "Cancel")},
      {QT_TRANSLATE_NOOP("MsgBox", "Yes"), QT_TRANSLATE_NOOP("MsgBox", "No")}}};
+
+// Set by an application on a question whose consequence is not to be met by a hand that only goes on
+// pressing, as a restart: its confirming button lies at the other end of the box.
+constexpr auto GraveProperty = "grave";
+
+void moveAside(QPushButton* button, QHBoxLayout* row)
+{
+    row->removeWidget(button);
+    row->insertWidget(0, button);
+}
 
 QString iconOf(int kind)
 {
@@ -51,7 +60,7 @@ MsgBox::MsgBox(int kind, const QString& text, QWidget* parent, Buttons buttons)
     , m_buttons(buttons)
 {
     setProperty("kind", kind);
-    new TouchFrame(this);
+    new TouchFrame(this, buttons == NoButton ? TouchFrame::Place::Centre : TouchFrame::Place::Question);
 
     auto* icon = new QLabel(this);
     icon->setObjectName(QStringLiteral("label_icon"));
@@ -63,9 +72,8 @@ MsgBox::MsgBox(int kind, const QString& text, QWidget* parent, Buttons buttons)
     // Texts come with line ends of their own and may quote file contents: never rich text.
     words->setTextFormat(Qt::PlainText);
     words->setWordWrap(true);
-    words->ensurePolished();
-    const int wanted = words->fontMetrics().size(Qt::TextExpandTabs, text).width() + 4;
-    words->setFixedWidth(std::clamp(wanted, NarrowestText, WidestText));
+    words->setFixedWidth(TextWidth);
+    words->setMinimumHeight(LeastTextHeight);
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
@@ -79,6 +87,7 @@ MsgBox::MsgBox(int kind, const QString& text, QWidget* parent, Buttons buttons)
     if (!captions.confirm)
         return;
     auto* row = new QHBoxLayout;
+    row->setObjectName(QStringLiteral("buttonRow"));
     layout->addLayout(row, 1, 0, 1, 2);
     row->setSpacing(Gap);
     row->addStretch(1);
@@ -109,8 +118,11 @@ void MsgBox::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (event->spontaneous())
         return;
-    if (auto* confirm = findChild<QPushButton*>(QStringLiteral("confirmButton")))
+    if (auto* confirm = findChild<QPushButton*>(QStringLiteral("confirmButton"))) {
         confirm->setFocus();
+        if (property(GraveProperty).toBool())
+            moveAside(confirm, findChild<QHBoxLayout*>(QStringLiteral("buttonRow")));
+    }
     MsgBoxScript::boxShown(this, m_buttons);
 }
 

@@ -2,33 +2,38 @@
 #define HOST_TOUCHFRAME_H
 
 #include <QObject>
-#include <QPointer>
+#include <QRect>
 
 class QDialog;
-class QWidget;
 
-/// What all dialogs of the pendant have in common: no frame of a window manager, the host's look, a place
-/// in the middle of the window they belong to, and a shade over that window while they are shown.
+/// What all dialogs of the host have in common: no frame of a window manager, the host's look, and a place on
+/// the window they belong to.
 class TouchFrame : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Where a dialog comes to lie when it is shown.
+    enum class Place {
+        Centre,
+        Question ///< its lower edge stays at one height, so that the buttons of all boxes lie in one place
+    };
+
     /// Becomes a child of `dialog`.
-    explicit TouchFrame(QDialog* dialog);
-    ~TouchFrame() override;
+    explicit TouchFrame(QDialog* dialog, Place place = Place::Centre);
+
+    /// Places the dialog beside `area` of the screen, so that it stays in sight; an empty one does not count.
+    void keepInSight(const QRect& area) { m_inSight = area; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// The window that a dialog of `parent` belongs to: the one of `parent`, else the active one; may be
-    /// null.
-    static QWidget* windowOf(const QWidget* parent);
-
 private:
-    void cover();
+    QRect room() const;
+    QPoint placeIn(const QRect& room) const;
 
     QDialog* m_dialog;
-    QPointer<QWidget> m_shade;
+    Place m_place;
+    QRect m_inSight;
 };
 
 #endif

@@ -5,6 +5,7 @@
 #include "CurrentLink.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -38,6 +39,12 @@ HomeScreen::HomeScreen(const std::vector<ApplicationInfo>& applications, QWidget
     layout->addLayout(tiles);
     layout->addWidget(m_notice);
     layout->addStretch(1);
+    auto* restart = new QPushButton(tr("\u21BB  Close and reopen the pendant"), this);
+    restart->setObjectName(QStringLiteral("restartButton"));
+    restart->setMinimumSize(400, 64);
+    restart->setFocusPolicy(Qt::NoFocus);
+    connect(restart, &QPushButton::clicked, this, &HomeScreen::restartPressed);
+    layout->addWidget(restart, 0, Qt::AlignRight);
 
     if (ControllerLink* link = currentLink())
         connect(link, &ControllerLink::stateChanged, this, &HomeScreen::refresh);

@@ -28,6 +28,8 @@ public:
 
 signals:
     void tilePressed(const QString& className);
+    /// The pendant is to be closed and reopened.
+    void restartPressed();
 
 private:
     struct Tile

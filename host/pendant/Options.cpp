@@ -1,11 +1,14 @@
 #include "Options.h"
 
 #include "LogInDialog.h"
+#include "PendantWindow.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -62,6 +65,9 @@ std::vector<Row> rows(const QStringList& faultNames)
         {"mtcp-port",
          Options::tr("TCP port of the controller's Modbus slave (default: 1502, any free one for the tour)."),
          "N"},
+        {"scale", Options::tr("How large the pendant is drawn, 1 to 4 (default: 1)."), "X"},
+        {"size", Options::tr("Size of the screen that the pendant fills, for example 800x600."), "WxH"},
+        {"verbose", Options::tr("Write debug lines, with times."), nullptr},
         {"help", Options::tr("Tell all options."), nullptr},
     };
 }
@@ -92,6 +98,16 @@ QString takeNumber(const QCommandLineParser& parser, const char* name, Number mi
     number = static_cast<Number>(value);
     return {};
 }
+
+QString takeSize(const QCommandLineParser& parser, QSize& size)
+{
+    if (!parser.isSet(QStringLiteral("size")))
+        return {};
+    const QRegularExpression form(QStringLiteral("^([1-9][0-9]{2,3})x([1-9][0-9]{2,3})$"));
+    const QRegularExpressionMatch match = form.match(parser.value(QStringLiteral("size")));
+    size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    return match.hasMatch() ? QString() : Options::tr("--size takes a width and a height, as 800x600.");
+}
 } // namespace
 
 Options Options::parse(const QStringList& arguments, const QStringList& faultNames)
@@ -102,13 +118,13 @@ Options Options::parse(const QStringList& arguments, const QStringList& faultNam
 
     Options options;
     const bool understood = parser.parse(withTourDirectory(arguments));
-    options.helpText = parser.helpText();
+    if (QCoreApplication::instance())
+        options.helpText = parser.helpText();
+    options.take(parser);
     if (!understood)
         options.problem = parser.errorText();
     else if (!parser.positionalArguments().isEmpty())
         options.problem = tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst());
-    else
-        options.take(parser);
     return options;
 }
 
@@ -118,19 +134,32 @@ void Options::take(const QCommandLineParser& parser)
     {
         const char* name;
         bool& on;
-    } switches[] = {{"help", help}, {"tour", tour}, {"panel", panel}};
+    } switches[] = {{"help", help}, {"tour", tour}, {"panel", panel}, {"verbose", verbose}};
     for (const auto& row : switches)
         row.on = parser.isSet(QLatin1String(row.name));
     faults = parser.values(QStringLiteral("fault"));
     takePaths(parser);
 
-    const QString problems[] = {takeNumber(parser, "user-level", 0, LogInDialog::HighestLevel, userLevel),
+    const bool isDrive = usb.isEmpty() || QFileInfo(usb).isDir();
+    const QString problems[] = {isDrive ? QString() : tr("--usb takes a folder, and %1 is none.").arg(usb),
+                                takeNumber(parser, "user-level", 0, LogInDialog::HighestLevel, userLevel),
                                 takeNumber(parser, "mtcp-port", 1, 65535, mtcpPort),
-                                takeNumber(parser, "time-scale", 0.001, 1000.0, timeScale)};
+                                takeNumber(parser, "time-scale", 0.001, 1000.0, timeScale),
+                                takeNumber(parser, "scale", 1.0, 4.0, scale),
+                                takeSize(parser, size)};
     for (const QString& found : problems) {
         if (!found.isEmpty())
             problem = found;
     }
+}
+
+double Options::drawingScale() const
+{
+    const QSize drawn = PendantWindow::screenSize();
+    const double fitting =
+        std::min(double(size.width()) / drawn.width(), double(size.height()) / drawn.height());
+    // Qt does not paint whole what is drawn smaller than 1.
+    return scale ? *scale : std::max(1.0, fitting);
 }
 
 void Options::takePaths(const QCommandLineParser& parser)

@@ -2,6 +2,7 @@
 #define PENDANT_OPTIONS_H
 
 #include <QCoreApplication>
+#include <QSize>
 #include <QStringList>
 
 #include <optional>
@@ -26,13 +27,19 @@ public:
     std::optional<int> userLevel;
     std::optional<double> timeScale;
     std::optional<int> mtcpPort; ///< none: the controller's own choice
+    std::optional<double> scale; ///< how large the pendant is drawn
+    QSize size;                  ///< of the screen that the pendant fills; empty: as large as it is drawn
+    bool verbose = false;
 
     bool help = false;
     QString helpText;
     QString problem; ///< empty when the command line makes sense
 
-    /// `faultNames` are told by the help.
+    /// `faultNames` are told by the help, which there is with an application object only.
     static Options parse(const QStringList& arguments, const QStringList& faultNames);
+    /// How large the pendant has to be drawn; 1 when nothing is said of it. It has to be known before there
+    /// is an application object.
+    double drawingScale() const;
 
 private:
     void take(const QCommandLineParser& parser);

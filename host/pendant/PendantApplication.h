@@ -12,7 +12,7 @@ class PendantApplication : public QApplication
     Q_OBJECT
 
 public:
-    using QApplication::QApplication;
+    PendantApplication(int& argc, char** argv);
 
     bool notify(QObject* receiver, QEvent* event) override;
 

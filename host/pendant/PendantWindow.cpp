@@ -13,11 +13,11 @@
 #include "UserSession.h"
 #include "ZelFunctions.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QPointer>
 #include <QStackedWidget>
 #include <QTimer>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -37,13 +37,18 @@ PendantWindow::PendantWindow(const InstalledApplications& applications, QWidget*
     setObjectName(QStringLiteral("pendantWindow"));
     setWindowTitle(tr("Pendant"));
     ZelSetUIStyleSheet(this, QStringLiteral("host"));
-    setFixedSize(Width, StatusBar::Height + PageHeight);
+    setMinimumSize(screenSize());
+    resize(screenSize());
 
-    auto* layout = new QVBoxLayout(this);
+    // On a larger screen what applications are drawn for stays in the middle.
+    auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_statusBar);
-    layout->addWidget(m_pages);
+    layout->setRowStretch(0, 1);
+    layout->addWidget(m_statusBar, 1, 0, Qt::AlignHCenter);
+    layout->addWidget(m_pages, 2, 0, Qt::AlignHCenter);
+    layout->setRowStretch(3, 1);
+    m_statusBar->setFixedWidth(Width);
     m_pages->setFixedSize(Width, PageHeight);
     m_restarting->setObjectName(QStringLiteral("restartNotice"));
     m_restarting->setAlignment(Qt::AlignCenter);
@@ -51,6 +56,7 @@ PendantWindow::PendantWindow(const InstalledApplications& applications, QWidget*
     m_pages->addWidget(m_restarting);
 
     connect(m_home, &HomeScreen::tilePressed, this, &PendantWindow::openApplication);
+    connect(m_home, &HomeScreen::restartPressed, &PendantPower::instance(), &PendantPower::requestRestart);
     connect(m_statusBar, &StatusBar::logInRequested, this, &PendantWindow::logIn);
     connect(&PendantPower::instance(), &PendantPower::restartRequested, this, &PendantWindow::restart);
 
@@ -67,6 +73,11 @@ PendantWindow::PendantWindow(const InstalledApplications& applications, QWidget*
         application->startResident();
     }
     m_home->setNotice(problems.join(QLatin1Char('\n')));
+}
+
+QSize PendantWindow::screenSize()
+{
+    return {Width, StatusBar::Height + PageHeight};
 }
 
 PendantWindow::~PendantWindow()

@@ -21,6 +21,7 @@ class PendantWindow : public QWidget
 public:
     static constexpr int Width = 1024;
     static constexpr int PageHeight = 680; ///< what applications are drawn for
+    static QSize screenSize();             ///< of the status bar and a page
 
     /// The pendant is connected to its controller before. Every application's library is loaded now.
     explicit PendantWindow(const InstalledApplications& applications, QWidget* parent = nullptr);

@@ -1,5 +1,6 @@
 #include "WorkDirectory.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -8,11 +9,20 @@ namespace {
 // Deeper folders are made by the applications, one level each.
 constexpr const char* Folders[] = {"bin", "Application/fieldbusSetting", "Application/Setup",
                                    "Application/fidbus/im-export"};
+
+QString ownRoot(const QString& controller)
+{
+    QString root = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    if (!controller.isEmpty()) {
+        const QByteArray hash = QCryptographicHash::hash(controller.toUtf8(), QCryptographicHash::Sha1);
+        root += QLatin1Char('-') + QString::fromLatin1(hash.toHex().left(8));
+    }
+    return root;
+}
 } // namespace
 
-WorkDirectory::WorkDirectory(const QString& root)
-    : m_root(QDir(root.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) : root)
-                 .absolutePath())
+WorkDirectory::WorkDirectory(const QString& root, const QString& controller)
+    : m_root(QDir(root.isEmpty() ? ownRoot(controller) : root).absolutePath())
 {
 }
 

@@ -11,8 +11,9 @@ class WorkDirectory
     Q_DECLARE_TR_FUNCTIONS(WorkDirectory)
 
 public:
-    /// Without a `root`: below the user's data folder.
-    explicit WorkDirectory(const QString& root = QString());
+    /// Without a `root`: below the user's data folder, another one for each `controller` that is named, so
+    /// that two pendants with two controllers do not share it.
+    explicit WorkDirectory(const QString& root = QString(), const QString& controller = QString());
 
     /// Makes what is missing and changes into bin/; false leaves the reason in `error()`.
     bool enter();

@@ -2,14 +2,18 @@
 #include "ControllerPanel.h"
 #include "CurrentLink.h"
 #include "Faults.h"
+#include "FolderLock.h"
+#include "HomeScreen.h"
 #include "ModbusSlave.h"
 #include "Options.h"
 #include "Partners.h"
 #include "PendantApplication.h"
 #include "PendantWindow.h"
 #include "Scenario.h"
+#include "Screen.h"
 #include "Shortcut.h"
 #include "SimulatedController.h"
+#include "SmallScreen.h"
 #include "TimeScale.h"
 #include "Tour.h"
 #include "Traffic.h"
@@ -19,9 +23,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHostAddress>
+#include <QLoggingCategory>
+#include <QScreen>
+#include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTextStream>
 
+#include <memory>
 #include <optional>
 
 namespace {
@@ -88,6 +97,26 @@ QString setUp(SimulatedController& controller, const Options& options)
     return {};
 }
 
+/// Debug lines are for those who ask for them.
+void setUpLog(bool verbose)
+{
+    QLoggingCategory::setFilterRules(verbose ? QStringLiteral("*.debug=true\nqt.*.debug=false")
+                                             : QStringLiteral("*.debug=false"));
+    if (verbose)
+        qSetMessagePattern(QStringLiteral("%{time hh:mm:ss.zzz} %{category}: %{message}"));
+}
+
+/// What is to be told on the home screen about a port that another program has; empty when it is free.
+QString takenPortNotice(int port)
+{
+    QTcpServer probe;
+    if (port == 0 || probe.listen(QHostAddress::LocalHost, static_cast<quint16>(port)))
+        return {};
+    return Options::tr("Port %1 of this machine is taken, so the controller's Modbus TCP slave cannot be "
+                       "reached. Another port is given with --mtcp-port.")
+        .arg(port);
+}
+
 /// Those beside the program, and what the options add.
 InstalledApplications installedApplications(const Options& options)
 {
@@ -99,6 +128,24 @@ InstalledApplications installedApplications(const Options& options)
     return installed;
 }
 
+/// Shows the pendant, through a window onto it where the screen is too small; null where it is not.
+std::unique_ptr<SmallScreen> show(PendantWindow& window, const Options& options)
+{
+    std::unique_ptr<SmallScreen> screen;
+    const QSize room = options.size.isEmpty() ? QGuiApplication::primaryScreen()->availableSize()
+                                              : options.size / options.drawingScale();
+    // The tour's pictures show the whole pendant.
+    if (!options.tour && SmallScreen::isNeeded(room)) {
+        screen = std::make_unique<SmallScreen>(window);
+        screen->resize(room);
+        screen->show();
+    } else if (!options.size.isEmpty()) {
+        window.resize(room);
+    }
+    window.show();
+    return screen;
+}
+
 /// The pendant and the controller's panel, until the window is closed or the tour is over.
 int runWith(SimulatedController& controller, Scenario& scenario, const Options& options)
 {
@@ -108,8 +155,12 @@ int runWith(SimulatedController& controller, Scenario& scenario, const Options& 
     ControllerPanel panel(controller,
                           {[finsPage] { return finsPage.isAtHand(); }, [finsPage] { finsPage.show(); }});
     // After the panel, whose log tells when the port is taken. Several tours may be on the way at a time.
-    controller.setModbusPort(options.mtcpPort.value_or(options.tour ? 0 : ModbusSlave::DefaultPort));
-    window.show();
+    const int port = options.mtcpPort.value_or(options.tour ? 0 : ModbusSlave::DefaultPort);
+    const QString notice = takenPortNotice(port);
+    if (!notice.isEmpty())
+        window.home().setNotice(notice);
+    controller.setModbusPort(port);
+    const std::unique_ptr<SmallScreen> smallScreen = show(window, options);
     if (options.panel) {
         panel.move(window.frameGeometry().topRight() + QPoint(16, 0));
         panel.show();
@@ -127,10 +178,15 @@ int runWith(SimulatedController& controller, Scenario& scenario, const Options& 
 
 int main(int argc, char* argv[])
 {
+    const Screen screen(argc, argv);
+    const QString noScreen = screen.prepare(Options::parse(screen.arguments(), {}));
+    if (!noScreen.isEmpty())
+        return refuse(noScreen);
     PendantApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("pendant"));
-
+    // Without those that Qt takes for itself.
     const Options options = Options::parse(QCoreApplication::arguments(), {Options::tr("see the end")});
+    QCoreApplication::setApplicationName(QStringLiteral("pendant"));
+    setUpLog(options.verbose);
     if (!options.problem.isEmpty())
         return refuse(options.problem);
     if (options.help) {
@@ -142,12 +198,16 @@ int main(int argc, char* argv[])
     std::optional<QTemporaryDir> scratch;
     if (options.tour && options.workDirectory.isEmpty())
         scratch.emplace();
-    WorkDirectory work(scratch ? scratch->path() : options.workDirectory);
+    WorkDirectory work(scratch ? scratch->path() : options.workDirectory, options.controllerStore);
     if (!work.enter())
         return refuse(work.error());
 
-    SimulatedController controller(options.controllerStore.isEmpty() ? work.controllerStore()
-                                                                     : options.controllerStore);
+    const QString store =
+        options.controllerStore.isEmpty() ? work.controllerStore() : options.controllerStore;
+    FolderLock lock;
+    if (!lock.take(work.root()) || !lock.take(store))
+        return refuse(lock.problem());
+    SimulatedController controller(store);
     QString problem = setUp(controller, options);
     Scenario scenario(controller, [](int level) { UserSession::instance().setUserLevel(level); });
     if (problem.isEmpty())

@@ -1,5 +1,6 @@
 #include "NumericKeyboard.h"
 
+#include "DialogShade.h"
 #include "NumericKeyboardScript.h"
 #include "TouchFrame.h"
 #include "ZelFunctions.h"
@@ -74,24 +75,23 @@ char keyOf(const QKeyEvent* event)
 }
 } // namespace
 
-NumericKeyboard::NumericKeyboard(NumericEntry entry, const QString& caption, const QString& unit,
-                                 QWidget* parent)
+NumericKeyboard::NumericKeyboard(NumericEntry entry, const FieldHints& hints, QWidget* parent)
     : QDialog(parent)
     , m_entry(std::move(entry))
-    , m_caption(caption)
-    , m_unit(unit)
+    , m_hints(hints)
     , m_display(label("label_entry", QString()))
     , m_hint(label("label_hint", QString()))
 {
-    new TouchFrame(this);
+    auto* frame = new TouchFrame(this);
+    frame->keepInSight(hints.area);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Margin, Margin, Margin, Margin);
     layout->setSpacing(Gap);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
-    if (!caption.isEmpty()) {
-        QLabel* title = label("label_caption", caption);
+    if (!caption().isEmpty()) {
+        QLabel* title = label("label_caption", caption());
         title->setWordWrap(true);
         layout->addWidget(title);
     }
@@ -120,8 +120,8 @@ QLayout* NumericKeyboard::entryLine()
     auto* line = new QHBoxLayout;
     line->setSpacing(Gap);
     line->addWidget(m_display, 1);
-    if (!m_unit.isEmpty())
-        line->addWidget(label("label_unit", m_unit));
+    if (!unit().isEmpty())
+        line->addWidget(label("label_unit", unit()));
     return line;
 }
 
@@ -142,10 +142,14 @@ QLayout* NumericKeyboard::closingKeys()
         QString text;
         const char* name;
         bool primary;
+        bool offered;
         void (NumericKeyboard::*act)();
-    } keys[] = {{tr("Cancel"), "key_cancel", false, &NumericKeyboard::reject},
-                {tr("OK"), "key_ok", true, &NumericKeyboard::accept}};
+    } keys[] = {{tr("Cancel"), "key_cancel", false, true, &NumericKeyboard::reject},
+                {tr("Next field"), "key_next", false, m_hints.hasNext, &NumericKeyboard::acceptAndGoOn},
+                {tr("OK"), "key_ok", true, true, &NumericKeyboard::accept}};
     for (const auto& key : keys) {
+        if (!key.offered)
+            continue;
         auto* button = new QPushButton(key.text, this);
         button->setObjectName(QLatin1String(key.name));
         button->setProperty("primary", key.primary);
@@ -189,20 +193,20 @@ void NumericKeyboard::addKeys(QGridLayout* grid)
     }
 }
 
-std::optional<NumericEntry> NumericKeyboard::ask(QObject* owner, const NumericEntry& entry,
-                                                 const QString& caption, const QString& unit)
+std::optional<NumericKeyboard::Answer> NumericKeyboard::ask(QObject* owner, const NumericEntry& entry,
+                                                            const FieldHints& hints)
 {
-    QWidget* window = TouchFrame::windowOf(qobject_cast<QWidget*>(owner));
+    QWidget* window = DialogShade::windowOf(qobject_cast<QWidget*>(owner));
     const QPointer<QObject> alive(owner);
-    const QPointer<NumericKeyboard> keyboard(new NumericKeyboard(entry, caption, unit, window));
+    const QPointer<NumericKeyboard> keyboard(new NumericKeyboard(entry, hints, window));
     if (owner)
         connect(owner, &QObject::destroyed, keyboard.data(), &QDialog::reject);
     const bool confirmed = keyboard->exec() == Accepted;
     if (!keyboard)
         return {};
-    std::optional<NumericEntry> answer;
+    std::optional<Answer> answer;
     if (confirmed && alive)
-        answer = keyboard->entry();
+        answer = {keyboard->entry(), keyboard->m_goesOn};
     delete keyboard.data();
     return answer;
 }
@@ -219,6 +223,21 @@ void NumericKeyboard::accept()
         QDialog::accept();
     else
         refresh();
+}
+
+void NumericKeyboard::acceptAndGoOn()
+{
+    m_goesOn = true;
+    accept();
+    m_goesOn = m_refusal.isEmpty();
+}
+
+QString NumericKeyboard::hintText() const
+{
+    if (!m_refusal.isEmpty())
+        return m_refusal;
+    const QString range = m_entry.rangeText();
+    return m_hints.step > 0.0 ? tr("%1, in steps of %2").arg(range).arg(m_hints.step) : range;
 }
 
 void NumericKeyboard::showEvent(QShowEvent* event)
@@ -255,7 +274,7 @@ void NumericKeyboard::refresh()
     m_display->setText(m_entry.text());
     setLook(m_display, "marked", m_entry.isMarked());
     setLook(m_display, "refused", !m_refusal.isEmpty());
-    m_hint->setText(m_refusal.isEmpty() ? m_entry.rangeText() : m_refusal);
+    m_hint->setText(hintText());
     setLook(m_hint, "refused", !m_refusal.isEmpty());
 }
 
@@ -270,12 +289,14 @@ void ZelExecNumericKeyboard(double value, double minimum, double maximum, const 
     // The keyboard outlives nothing of the caller: what is needed afterwards is kept here.
     const QPointer<QObject> alive(receiver);
     const QByteArray signature = slot ? QMetaObject::normalizedSignature(slot + 1) : QByteArray();
-    const std::optional<NumericEntry> answer = NumericKeyboard::ask(receiver, entry, toolTip, QString());
+    FieldHints hints = FieldHints::of(receiver);
+    hints.caption = toolTip;
+    const std::optional<NumericKeyboard::Answer> answer = NumericKeyboard::ask(receiver, entry, hints);
     if (!answer || !alive)
         return;
     const int index = alive->metaObject()->indexOfMethod(signature);
     const bool called = index >= 0 && alive->metaObject()->method(index).invoke(
-                                          alive, Qt::DirectConnection, Q_ARG(double, answer->value()));
+                                          alive, Qt::DirectConnection, Q_ARG(double, answer->entry.value()));
     if (!called)
         qWarning("ZelExecNumericKeyboard: no slot %s", signature.constData());
 }

@@ -1,6 +1,7 @@
 #ifndef HOST_NUMERICKEYBOARD_H
 #define HOST_NUMERICKEYBOARD_H
 
+#include "FieldHints.h"
 #include "NumericEntry.h"
 
 #include <QDialog>
@@ -19,17 +20,21 @@ class NumericKeyboard : public QDialog
     Q_OBJECT
 
 public:
-    /// `caption` says what is entered, `unit` what it is counted in; both may be empty.
-    NumericKeyboard(NumericEntry entry, const QString& caption, const QString& unit, QWidget* parent);
+    NumericKeyboard(NumericEntry entry, const FieldHints& hints, QWidget* parent);
 
+    /// What the keyboard was confirmed with.
+    struct Answer
+    {
+        NumericEntry entry;
+        bool goOn; ///< to the next field
+    };
     /// Opens the keyboard for `owner`. Nothing when it was cancelled, or when `owner` or the window behind
     /// died meanwhile.
-    static std::optional<NumericEntry> ask(QObject* owner, const NumericEntry& entry, const QString& caption,
-                                           const QString& unit);
+    static std::optional<Answer> ask(QObject* owner, const NumericEntry& entry, const FieldHints& hints);
 
     const NumericEntry& entry() const { return m_entry; }
-    QString caption() const { return m_caption; }
-    QString unit() const { return m_unit; }
+    QString caption() const { return m_hints.caption; }
+    QString unit() const { return m_hints.unit; }
     /// Why the last confirmation was refused; empty when it was not.
     QString refusal() const { return m_refusal; }
     /// The button of a key; null when it is not offered.
@@ -47,12 +52,14 @@ private:
     void prepareHint();
     void addKeys(QGridLayout* grid);
     QLayout* closingKeys();
+    void acceptAndGoOn();
+    QString hintText() const;
     void press(char key);
     void refresh();
 
     NumericEntry m_entry;
-    QString m_caption;
-    QString m_unit;
+    FieldHints m_hints;
+    bool m_goesOn = false;
     QString m_refusal;
     QLabel* m_display;
     QLabel* m_hint;

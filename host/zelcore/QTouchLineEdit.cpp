@@ -2,16 +2,15 @@
 
 #include "NumericKeyboard.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
 
+#include <cstdlib>
 #include <limits>
 
 namespace {
-// What an application may say of a field beyond the contract. A host without it ignores the property.
-constexpr auto UnitProperty = "unit";
-
 NumericEntry::Kind kindOf(int cast)
 {
     switch (cast) {
@@ -24,6 +23,41 @@ NumericEntry::Kind kindOf(int cast)
     default:
         return NumericEntry::Kind::Decimal;
     }
+}
+
+bool canBeEntered(const QTouchLineEdit& edit)
+{
+    if (!edit.isVisible() || !edit.isEnabled() || edit.isReadOnly() ||
+        edit.cast() == QTouchLineEdit::CastText)
+        return false;
+    for (const QWidget* above = &edit; above; above = above->parentWidget()) {
+        if (above->testAttribute(Qt::WA_TransparentForMouseEvents))
+            return false;
+    }
+    return true;
+}
+
+// Fields are read like text: line by line, and those whose middles are about as high make a line.
+bool isBefore(const QPoint& one, const QPoint& other)
+{
+    constexpr int LineHeight = 24;
+    return std::abs(one.y() - other.y()) < LineHeight ? one.x() < other.x() : one.y() < other.y();
+}
+
+// The field after `edit` on its page, null when it is the last one.
+QTouchLineEdit* nextField(const QTouchLineEdit& edit)
+{
+    QWidget* const window = edit.window();
+    const auto place = [window](const QTouchLineEdit& field) {
+        return field.mapTo(window, field.rect().center());
+    };
+    QTouchLineEdit* next = nullptr;
+    for (QTouchLineEdit* field : window->findChildren<QTouchLineEdit*>()) {
+        if (field != &edit && canBeEntered(*field) && isBefore(place(edit), place(*field)) &&
+            (!next || isBefore(place(*field), place(*next))))
+            next = field;
+    }
+    return next;
 }
 } // namespace
 
@@ -92,12 +126,23 @@ void QTouchLineEdit::openKeyboard()
         entry.setRange(m_minimum, m_maximum);
     entry.setText(text());
 
+    FieldHints hints = FieldHints::of(this);
+    hints.hasNext = nextField(*this) != nullptr;
     const QPointer<QTouchLineEdit> alive(this);
-    const std::optional<NumericEntry> answer =
-        NumericKeyboard::ask(this, entry, toolTip(), property(UnitProperty).toString());
+    const std::optional<NumericKeyboard::Answer> answer = NumericKeyboard::ask(this, entry, hints);
     if (!answer || !alive)
         return;
-    const QString text = answer->result();
+    const QString text = answer->entry.result();
     setText(text);
     emit valueSetted(text);
+    // Who hears of the value may show a message, lock fields or delete them.
+    QTouchLineEdit* const next = alive && answer->goOn ? nextField(*this) : nullptr;
+    if (next)
+        QMetaObject::invokeMethod(
+            next,
+            [next] {
+                if (canBeEntered(*next) && !QApplication::activeModalWidget())
+                    next->openKeyboard();
+            },
+            Qt::QueuedConnection);
 }

@@ -1,0 +1,54 @@
+#include "Screen.h"
+
+#include "Options.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLibraryInfo>
+
+namespace {
+constexpr auto Platform = "QT_QPA_PLATFORM";
+constexpr auto ScaleFactor = "QT_SCALE_FACTOR";
+
+bool hasWaylandPlugin()
+{
+    const QDir plugins(QLibraryInfo::location(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+    return !plugins.entryList({QStringLiteral("libqwayland-*")}, QDir::Files).isEmpty();
+}
+
+// Without a name the compositor listens on its first socket.
+bool hasWaylandSocket()
+{
+    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/wayland-0"));
+}
+} // namespace
+
+Screen::Screen(int argc, char** argv)
+{
+    for (int i = 0; i < argc; ++i)
+        m_arguments.append(QString::fromLocal8Bit(argv[i]));
+}
+
+QString Screen::prepare(const Options& options) const
+{
+    // Qt does not paint whole what is drawn smaller than 1.
+    if (options.drawingScale() != 1.0 || qgetenv(ScaleFactor).toDouble() < 1.0)
+        qputenv(ScaleFactor, QByteArray::number(options.drawingScale()));
+
+    if (!qEnvironmentVariableIsEmpty(Platform) || m_arguments.contains(QLatin1String("-platform")) ||
+        m_arguments.contains(QLatin1String("--platform")))
+        return {};
+    if (options.tour || options.help || !options.problem.isEmpty()) {
+        qputenv(Platform, "offscreen");
+        return {};
+    }
+    if (!qEnvironmentVariableIsEmpty("DISPLAY"))
+        return {};
+    if (!hasWaylandSocket())
+        return tr("There is no display. --tour needs none.");
+    if (!hasWaylandPlugin())
+        return tr("The display is Wayland's, and Qt's part for it is missing (package qtwayland5).");
+    qputenv(Platform, "wayland");
+    return {};
+}
