@@ -1,5 +1,6 @@
 #include "FileLocations.h"
 
+#include "KnownFiles.h"
 #include "ZelFunctions.h"
 
 #include <QStringList>
@@ -44,53 +45,6 @@ constexpr ConfigRow ConfigRows[] = {
 constexpr auto ConfigCount = static_cast<std::size_t>(ConfigFile::Count);
 static_assert(std::size(ConfigRows) == ConfigCount, "a row a file");
 
-struct TransferRow
-{
-    const char* label;
-    const char* folder;
-    const char* name;
-    const char* xmlRoot = nullptr;
-};
-
-constexpr TransferRow TransferRows[] = {
-    {"heartbeat.xml", "", "heartbeat.xml", "Fidbus"},
-    {"field cfg", "", "fieldbus_config.xml", "FieldbusConfig"},
-    {"field xml", "", "fieldbus.xml", "Fieldbus"},
-    {"func Mapp", "", "signal_mapping.cfg"},
-    {"user Desc", "", "user_description.xml", "UserDescription"},
-    {"group Io", "", "user_groupio.cfg"},
-    {"devicenet slave", "devicenet", "devicenetSlave.xml", "devicenet"},
-    {"eip master", "eipMaster", "eip_master.xml", "EipMasterCommunication"},
-    {"pfn master", "pfnMaster", "pfn_master.xml", "PfnMasterCommunication"},
-    {"fixed Desc", "fixed", "description_fixed.xml", "Description"},
-    {"fixed Dns", "fixed", "dns_fixed.cfg"},
-    {"fixed Field", "fixed", "fieldbus_fixed.xml", "Fieldbus"},
-    {"fixed Func", "fixed", "signal_mapping_fixed.cfg"},
-    {"fixed Mtcp", "fixed", "modbus_fixed.cfg"},
-    {"fixed Pfb", "fixed", "pfb_fixed.cfg"},
-    {"fixed Dns0", "fixed", "dns0_fixed.cfg"},
-    {"free Desc", "free", "description_free.xml", "Description"},
-    {"free Dns", "free", "dns_free.cfg"},
-    {"free Field", "free", "fieldbus_free.xml", "Fieldbus"},
-    {"free Func", "free", "signal_mapping_free.cfg"},
-    {"free Mtcp", "free", "modbus_free.cfg"},
-    {"free Pfb", "free", "pfb_free.cfg"},
-    {"free Dns0", "free", "dns0_free.cfg"},
-    {"rs232 config", "rs232", "rs232FileConfig.xml", "Rs232Config"},
-    {"ecat file", "SlaveConfig/EtherCAT", "ABXS_ECT_V_3_28.xml", "EtherCATInfo"},
-    {"eip file", "SlaveConfig/EthernetIP", "kliklus_urmc_v2.eds"},
-    {"pfn file", "SlaveConfig/Profinet", "GSDML-V2.33-Kliklus-RP2-20200520.xml", "ISO15745Profile"},
-    {"dns slaveconfig", "SlaveConfig/Devicenet", "rbxm5034.eds"},
-    {"fa mtcp", "fa", "modbus.cfg"},
-    {"fa fbSlave.cfgx", "fa", "fbslave.cfgx", "FbSlave"},
-    {"fa dns-1", "fa", "dns-1.cfg"},
-    {"fa dns0", "fa", "dns0.cfg"},
-    {"fa pfb", "fa", "pfb.cfg"},
-    {"fa dnmst0", "fa", "dnmst0.cfg"},
-    {"pfs_desc", "", "pfs_description.xml", "ProfiSafe"},
-    {"mtcp_master.xml", "mtcpMaster", "mtcp_master.xml", "MtcpMasterCommunication"},
-};
-
 QString localised(const QString& path)
 {
     return ZelGetLocalizedFileName(path, 1);
@@ -111,14 +65,14 @@ std::array<FileLocation, ConfigCount> configLocations()
 std::vector<TransferFile> transferFiles()
 {
     std::vector<TransferFile> files;
-    for (const TransferRow& row : TransferRows) {
-        const QString folder = QLatin1String(row.folder);
-        const QString name = QLatin1String(row.name);
-        const QString path = folder.isEmpty() ? name : folder + QLatin1Char('/') + name;
-        // The fieldbus directory of the drivers stands beside the application's.
-        const bool isDriverFile = folder == QLatin1String("fa");
-        files.push_back({row.label, path, QLatin1String(isDriverFile ? "/" : "/application/fidbus/") + path,
-                         stagingFolder(folder) + QLatin1Char('/') + name, row.xmlRoot});
+    for (const KnownFile& file : KnownFiles::all()) {
+        if (!file.isExported())
+            continue;
+        const QString path = QLatin1String(file.name);
+        const QString folder = path.section(QLatin1Char('/'), 0, -2);
+        const QString name = path.section(QLatin1Char('/'), -1);
+        files.push_back({file.label, path, QLatin1String(file.controller),
+                         stagingFolder(folder) + QLatin1Char('/') + name, file.root});
     }
     return files;
 }

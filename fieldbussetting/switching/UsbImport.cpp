@@ -68,13 +68,13 @@ bool UsbImport::prepare(const QString& drive, const ExportFolder& folder, Import
     PageBase::Busy busy(m_page);
     TransferProgress progress(*m_page, tr("Importing..."), 2 * static_cast<int>(importSet().size()));
     TransferResult result = copyFromDrive(drive, folder.path, progress, entries);
+    if (result.isDone())
+        result = transfer.fetchPresent(progress);
     QStringList faults;
     if (result.isDone()) {
         faults = judgeImport(entries);
         if (faults.isEmpty() && !planRoles(entries, m_host.roleConditions(), roles))
             faults << tr("Its bus switches cannot be read.");
-        if (faults.isEmpty())
-            result = transfer.fetchPresent(progress);
     }
     if (!progress.isWanted())
         return false;

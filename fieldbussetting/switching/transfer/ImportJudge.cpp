@@ -1,9 +1,9 @@
 #include "ImportJudge.h"
 
+#include "FileCheck.h"
 #include "WholeFile.h"
 
 #include <QCoreApplication>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -14,32 +14,17 @@ struct ImportJudge
     Q_DECLARE_TR_FUNCTIONS(ImportJudge)
 
 public:
-    static QString faultOfXml(const QByteArray& content, const QString& root)
+    static QString faultOf(const ImportEntry& entry)
     {
-        QXmlStreamReader reader(content);
-        QString found;
-        while (!reader.atEnd()) {
-            if (reader.readNext() == QXmlStreamReader::StartElement && found.isNull())
-                found = reader.name().toString();
-        }
-        if (reader.hasError())
-            return tr("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString());
-        return found == root ? QString() : tr(R"(begins with "%1" instead of "%2")").arg(found, root);
-    }
-
-    static QString faultOfText(const QByteArray& content)
-    {
-        return content.contains('\0') ? tr("is no text") : QString();
-    }
-
-    static QString faultOf(const ImportFile& file)
-    {
+        const KnownFile* known = KnownFiles::named(entry.file->name);
         QByteArray content;
-        if (!WholeFile::read(file.staged(), content))
+        QByteArray present;
+        if (!known || !WholeFile::read(entry.file->staged(), content))
             return tr("cannot be read");
-        if (content.trimmed().isEmpty())
-            return tr("is empty");
-        return file.root ? faultOfXml(content, QLatin1String(file.root)) : faultOfText(content);
+        const bool hasPresent =
+            entry.state == ImportEntry::Different && WholeFile::read(entry.file->present(), present);
+        const auto fault = FileCheck::faultOf(*known, content, hasPresent ? &present : nullptr);
+        return fault ? fault->text.filled(tr(fault->text.text)) : QString();
     }
 };
 
@@ -52,7 +37,7 @@ QStringList judgeImport(const std::vector<ImportEntry>& entries)
         return {ImportJudge::tr("It holds no file of a bus configuration.")};
     QStringList faults;
     for (const ImportEntry& entry : entries) {
-        const QString fault = entry.isBrought() ? ImportJudge::faultOf(*entry.file) : QString();
+        const QString fault = entry.isSent() ? ImportJudge::faultOf(entry) : QString();
         if (!fault.isEmpty())
             faults << ImportJudge::tr("%1: %2").arg(entry.file->name, fault);
     }

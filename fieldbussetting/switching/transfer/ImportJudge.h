@@ -5,9 +5,10 @@
 
 #include <QStringList>
 
-/// What is wrong with the files that an import has copied, a line a fault for the operator; empty when they
-/// may be sent. XML files are well-formed and have the root that is expected under their name; text files
-/// have content. A file that is missing is no fault, but a folder without any is.
+/// What is wrong with the files that an import would send, a line a fault for the operator; empty when they
+/// may be sent. The controller's present files have been fetched: what it has already is not looked at, and a
+/// file that differs is held against the controller's own (`FileCheck`). A file that is missing is no fault,
+/// but a folder without any is.
 QStringList judgeImport(const std::vector<ImportEntry>& entries);
 
 #endif
