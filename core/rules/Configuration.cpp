@@ -13,11 +13,11 @@ File examined(const KnownFile& known, std::optional<QByteArray> bytes)
     if (!bytes)
         return file;
     file.bytes = std::move(*bytes);
-    file.fault = FileCheck::faultOf(known, file.bytes);
-    if (!file.fault)
+    file.report = FileCheck::examine(known, file.bytes);
+    if (!file.report.fault)
         file.state = State::Read;
     else
-        file.state = file.fault->kind == FileCheck::Fault::Empty ? State::Empty : State::Unreadable;
+        file.state = file.report.fault->kind == FileCheck::Fault::Empty ? State::Empty : State::Unreadable;
     return file;
 }
 
@@ -37,10 +37,8 @@ struct Reader
 constexpr Reader Readers[] = {
     {FileId::RoleList,
      [](const QByteArray& bytes, Configuration& to) { return RoleListFile::read(bytes, to.listed); }},
-    {FileId::BusSwitch,
-     [](const QByteArray& bytes, Configuration& to) {
-         return BusSwitchFile::read(bytes, to.switches, true);
-     }},
+    {FileId::BusSwitch, [](const QByteArray& bytes,
+                           Configuration& to) { return BusSwitchFile::read(bytes, to.switches, true); }},
     {FileId::Mapping,
      [](const QByteArray& bytes, Configuration& to) { return MappingFile::read(bytes, to.mapping); }},
     {FileId::Heartbeat,
@@ -96,7 +94,7 @@ Configuration Configuration::from(const Source& source)
         if (file.state != State::Read || reader.read(file.bytes, configuration))
             continue;
         file.state = State::Unreadable;
-        file.fault = FileCheck::refusedByReader();
+        file.report.fault = FileCheck::refusedByReader(reader.file);
     }
     for (const ListedRole& role : configuration.listed) {
         if (const RoleInfo* known = RoleTable::named(role.name))

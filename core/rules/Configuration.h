@@ -41,7 +41,7 @@ struct Configuration
     {
         State state = State::Missing;
         QByteArray bytes;
-        std::optional<FileCheck::Fault> fault; ///< of one that is neither missing nor read
+        FileCheck::Report report;
     };
 
     /// The bytes of a file of `KnownFiles`, nothing for one that is not there.

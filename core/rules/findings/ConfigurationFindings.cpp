@@ -6,7 +6,6 @@ Findings findingsOf(const Configuration& configuration, const RunningState* runn
 {
     FindingList found(configuration);
     Rules::files(configuration, found);
-    Rules::unknownElements(configuration, found);
     Rules::roles(configuration, found, running && running->profisafePresent);
     for (const auto rule :
          {Rules::devices, Rules::network, Rules::hostLinks, Rules::scanList, Rules::deviceNetSlave,

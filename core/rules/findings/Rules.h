@@ -9,7 +9,6 @@
 namespace Rules {
 
 void files(const Configuration& configuration, FindingList& found);
-void unknownElements(const Configuration& configuration, FindingList& found);
 void roles(const Configuration& configuration, FindingList& found, bool profisafePresent);
 void devices(const Configuration& configuration, FindingList& found);
 void network(const Configuration& configuration, FindingList& found);

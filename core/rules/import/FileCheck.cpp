@@ -1,8 +1,10 @@
 #include "FileCheck.h"
 
 #include "AsciiText.h"
+#include "FileNeeds.h"
 #include "MappingFile.h"
-#include "TextTemplate.h"
+
+#include <QSet>
 
 #include <pugixml.hpp>
 
@@ -27,43 +29,6 @@ constexpr const char* HasTooMuch =
 constexpr const char* CannotBeRead = QT_TRANSLATE_NOOP("ImportJudge", "cannot be read");
 constexpr const char* HasOddNumbers =
     QT_TRANSLATE_NOOP("ImportJudge", "holds a quantity or an address that is no number in its range");
-
-// What a file must hold to be the one of its name: elements below the root, or keywords in its lines.
-struct Needs
-{
-    FileId file;
-    std::array<const char*, 3> names;
-};
-constexpr Needs Required[] = {
-    {FileId::Heartbeat, {"Mtcp"}},
-    {FileId::Mapping, {"Mode"}},
-    {FileId::RoleList, {"Bus"}},
-    {FileId::DeviceNetSlave, {"Dns"}},
-    {FileId::EipMaster, {"Group"}},
-    {FileId::PfnMaster, {"Group"}},
-    {FileId::MtcpMaster, {"Group"}},
-    {FileId::SlaveModule, {"Endian"}},
-    {FileId::MesServer, {"Port"}},
-    {FileId::FinsClient, {"ServerIP"}},
-    {FileId::NetworkPorts, {"Port"}},
-    {FileId::ProfisafeDescription, {}},
-    {FileId::BusSwitch, {}},
-    {FileId::PfbSlave, {"PROFIBUS_ADDRESS", "DISABLE_COM_ALARM", "RUN_ALWAYS"}},
-    {FileId::PfbFree, {"RUN_ALWAYS"}},
-    {FileId::PfbFixed, {"RUN_ALWAYS"}},
-    {FileId::EipSlave, {"IPADDR", "NETMASK", "RUN_ALWAYS"}},
-    {FileId::EipSlaveFree, {"RUN_ALWAYS"}},
-    {FileId::EipSlaveFixed, {"RUN_ALWAYS"}},
-    {FileId::DeviceNetMaster, {"WS_ID", "BAUDRATE", "PACHET_RATIO"}},
-};
-
-// Null for a file that nothing here reads.
-const Needs* needsOf(FileId file)
-{
-    const auto found = std::find_if(std::begin(Required), std::end(Required),
-                                    [file](const Needs& needs) { return needs.file == file; });
-    return found == std::end(Required) ? nullptr : found;
-}
 
 Fault fault(Fault::Kind kind, const char* text, const QStringList& arguments = {})
 {
@@ -120,32 +85,68 @@ std::optional<Fault> faultOfProlog(const QByteArray& content, const Xml& xml)
     return {};
 }
 
-struct Counter : pugi::xml_tree_walker
+struct Walk : pugi::xml_tree_walker
 {
+    explicit Walk(const std::vector<const char*>* known)
+        : vocabulary(known)
+    {
+    }
     bool for_each(pugi::xml_node& node) override
     {
-        elements += node.type() == pugi::node_element ? 1 : 0;
         longest = std::max(longest, qstrlen(node.value()));
         for (const pugi::xml_attribute attribute : node.attributes())
             longest = std::max(longest, qstrlen(attribute.value()));
-        return elements <= MostElements && longest <= uint(MostText);
+        if (node.type() == pugi::node_element) {
+            ++elements;
+            if (vocabulary && depth() > 0)
+                lookUp(node.name());
+        }
+        return !isTooMuch();
     }
+    bool isTooMuch() const { return elements > MostElements || longest > uint(MostText); }
+
+    void lookUp(const char* name)
+    {
+        constexpr std::size_t Enough = 5; // for a person
+        const auto& known = *vocabulary;
+        if (unknown.size() < Enough &&
+            std::none_of(known.begin(), known.end(),
+                         [name](const char* element) { return qstrcmp(element, name) == 0; }) &&
+            std::find(unknown.begin(), unknown.end(), name) == unknown.end())
+            unknown.emplace_back(name);
+    }
+
+    const std::vector<const char*>* vocabulary;
+    std::vector<QByteArray> unknown;
     int elements = 0;
     uint longest = 0;
 };
 
-bool holdsTooMuch(FileId file, Xml& xml)
+// False when it holds more than it may.
+bool walk(FileId file, Xml& xml, Report& report)
 {
-    Counter counter;
-    if (!xml.document.traverse(counter))
-        return true;
-    const auto children = xml.root.children();
-    return file == FileId::RoleList && std::distance(children.begin(), children.end()) > MostRoles;
+    Walk walker(FileNeeds::elementsOf(file));
+    xml.document.traverse(walker);
+    report.unknownElements = std::move(walker.unknown);
+    if (walker.isTooMuch() || file != FileId::RoleList)
+        return !walker.isTooMuch();
+    QSet<QString> seen;
+    int count = 0;
+    for (const pugi::xml_node entry : xml.root.children("Bus")) {
+        if (++count > MostRoles)
+            return false;
+        const QString name = QString::fromUtf8(entry.attribute("name").value());
+        if (seen.contains(name) && !report.doubledRoles.contains(name))
+            report.doubledRoles << name;
+        seen.insert(name);
+    }
+    return true;
 }
 
-std::optional<Fault> faultOfXml(const KnownFile& file, const QByteArray& content, const QByteArray* present)
+std::optional<Fault> faultOfXml(const KnownFile& file, const QByteArray& content, const QByteArray* present,
+                                Report& report)
 {
-    const Needs* needs = needsOf(file.id);
+    const FileNeeds::Names* needs = FileNeeds::namesOf(file.id);
     std::optional<Xml> own;
     if (present && !isBlank(*present)) {
         own.emplace(*present);
@@ -157,19 +158,16 @@ std::optional<Fault> faultOfXml(const KnownFile& file, const QByteArray& content
     Xml xml(content);
     if (const auto found = faultOfProlog(content, xml))
         return found;
-    if (holdsTooMuch(file.id, xml))
+    if (!walk(file.id, xml, report))
         return fault(Fault::TooMany, HasTooMuch);
     const char* root = own ? own->root.name() : needs ? file.root : nullptr;
     if (root && qstrcmp(root, xml.root.name()) != 0)
         return fault(Fault::WrongRoot, OtherRoot,
                      {QString::fromUtf8(xml.root.name()), QString::fromUtf8(root)});
-    for (const char* name : needs ? needs->names : std::array<const char*, 3>()) {
+    for (const char* name : needs ? *needs : FileNeeds::Names()) {
         if (name && !xml.root.child(name) && (!own || own->root.child(name)))
             return fault(Fault::Incomplete, Lacks, {QLatin1String(name)});
     }
-    MappingConfig mapping;
-    if (file.id == FileId::Mapping && !MappingFile::read(content, mapping))
-        return fault(Fault::Incomplete, HasOddNumbers);
     return {};
 }
 
@@ -183,10 +181,10 @@ std::optional<Fault> faultOfText(const KnownFile& file, const QByteArray& conten
 {
     if (content.contains('\0') && !(present && present->contains('\0')))
         return fault(Fault::NotText, IsNoText);
-    const Needs* needs = needsOf(file.id);
+    const FileNeeds::Names* needs = FileNeeds::namesOf(file.id);
     if (!needs)
         return {};
-    for (const char* name : needs->names) {
+    for (const char* name : *needs) {
         if (name && !content.contains(name) && (!present || isBlank(*present) || present->contains(name)))
             return fault(Fault::Incomplete, Lacks, {QLatin1String(name)});
     }
@@ -195,12 +193,9 @@ std::optional<Fault> faultOfText(const KnownFile& file, const QByteArray& conten
     return {};
 }
 
-} // namespace
-
-std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content, const QByteArray* present)
+std::optional<Fault> check(const KnownFile& file, const QByteArray& content, const QByteArray* present,
+                           Report& report)
 {
-    if (present && *present == content)
-        return {};
     if (content.size() > KnownFiles::MostBytes)
         return fault(Fault::TooLarge, IsTooLarge);
     // The groups of a robot without any are an empty file.
@@ -209,12 +204,35 @@ std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content, c
             return {};
         return fault(Fault::Empty, IsEmpty);
     }
-    return file.root ? faultOfXml(file, content, present) : faultOfText(file, content, present);
+    return file.root ? faultOfXml(file, content, present, report) : faultOfText(file, content, present);
 }
 
-Fault refusedByReader()
+} // namespace
+
+std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content, const QByteArray* present)
 {
-    return fault(Fault::Incomplete, CannotBeRead);
+    if (present && *present == content)
+        return {};
+    Report report;
+    if (const auto found = check(file, content, present, report))
+        return found;
+    MappingConfig mapping;
+    if (file.id == FileId::Mapping && !MappingFile::read(content, mapping) &&
+        !(present && !MappingFile::read(*present, mapping)))
+        return refusedByReader(file.id);
+    return {};
+}
+
+Report examine(const KnownFile& file, const QByteArray& content)
+{
+    Report report;
+    report.fault = check(file, content, nullptr, report);
+    return report;
+}
+
+Fault refusedByReader(FileId file)
+{
+    return fault(Fault::Incomplete, file == FileId::Mapping ? HasOddNumbers : CannotBeRead);
 }
 
 int lineAt(const QByteArray& content, qint64 offset)

@@ -7,6 +7,7 @@
 #include <QByteArray>
 
 #include <optional>
+#include <vector>
 
 /// Whether bytes are the file that their name says, as its own reader would take it.
 namespace FileCheck {
@@ -39,8 +40,18 @@ constexpr int MostText = 1024 * 1024;
 std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content,
                              const QByteArray* present = nullptr);
 
+/// What a file holds besides, found in the same pass.
+struct Report
+{
+    std::optional<Fault> fault;
+    std::vector<QByteArray> unknownElements; ///< names that no reader here knows, the first few
+    QStringList doubledRoles;                ///< of fieldbus.xml, each once
+};
+/// As `faultOf`, without a controller's file, and without asking the file's own reader.
+Report examine(const KnownFile& file, const QByteArray& content);
+
 /// Of a file that its reader refuses for another reason.
-Fault refusedByReader();
+Fault refusedByReader(FileId file);
 
 /// The line of a byte, 1 the first.
 int lineAt(const QByteArray& content, qint64 offset);
