@@ -1,6 +1,5 @@
 #include "PageRegistry.h"
 
-#include "BusRoles.h"
 #include "BusSettingWidget.h"
 #include "ConfigWidget.h"
 #include "DeviceNetMasterSetting.h"
@@ -17,6 +16,7 @@
 #include "Pfb_PfnSettingWidget.h"
 #include "PfnMasterSetting.h"
 #include "ProfiSAFESlaveWidget.h"
+#include "RoleTable.h"
 
 namespace PageRegistry {
 

@@ -1,6 +1,6 @@
 #include "BusSwitchFile.h"
 
-#include "BusRoles.h"
+#include "RoleTable.h"
 #include "XmlFile.h"
 
 #include <QStringList>

@@ -1,7 +1,6 @@
 #ifndef CONFIGURATION_H
 #define CONFIGURATION_H
 
-#include "BusRoles.h"
 #include "BusSwitchFile.h"
 #include "DeviceNetMasterFile.h"
 #include "DeviceNetSlaveFile.h"
@@ -19,6 +18,7 @@
 #include "PortAddressFile.h"
 #include "ProfisafeFile.h"
 #include "RoleListFile.h"
+#include "RoleTable.h"
 
 #include <QByteArray>
 

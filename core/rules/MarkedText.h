@@ -3,8 +3,8 @@
 
 #include <QStringList>
 
-/// A text that is marked for translation, and what is filled into its places %1, %2, ... Who shows it knows the
-/// translation context and the language; a rule knows neither.
+/// A text that is marked for translation, and what is filled into its places %1, %2, ... Who shows it knows
+/// the translation context and the language; a rule knows neither.
 struct MarkedText
 {
     const char* text = "";

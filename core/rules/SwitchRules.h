@@ -1,7 +1,7 @@
 #ifndef SWITCHRULES_H
 #define SWITCHRULES_H
 
-#include "BusRoles.h"
+#include "RoleTable.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "DeviceNetMasterSetting.h"
 
 #include "BusFileDataManager.h"
-#include "BusRoles.h"
+#include "RoleTable.h"
 #include "QTouchLineEdit.h"
 #include "ZelFunctions.h"
 #include "ui_DeviceNetMasterSetting.h"

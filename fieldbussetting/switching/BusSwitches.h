@@ -1,7 +1,7 @@
 #ifndef BUSSWITCHES_H
 #define BUSSWITCHES_H
 
-#include "BusRoles.h"
+#include "RoleTable.h"
 #include "zelCustomRvar.h"
 
 #include <array>

@@ -1,10 +1,10 @@
 #ifndef FINDING_H
 #define FINDING_H
 
-#include "BusRoles.h"
 #include "FindingCodes.h"
 #include "KnownFiles.h"
 #include "MarkedText.h"
+#include "RoleTable.h"
 
 #include <optional>
 #include <vector>

@@ -1,7 +1,7 @@
 #ifndef RUNNINGSTATE_H
 #define RUNNINGSTATE_H
 
-#include "BusRoles.h"
+#include "RoleTable.h"
 
 #include <QHash>
 #include <QString>

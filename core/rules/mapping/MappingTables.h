@@ -1,7 +1,7 @@
 #ifndef MAPPINGTABLES_H
 #define MAPPINGTABLES_H
 
-#include "BusRoles.h"
+#include "RoleTable.h"
 #include "MappingFile.h"
 #include "MarkedText.h"
 

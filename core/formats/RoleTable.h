@@ -1,5 +1,5 @@
-#ifndef BUSROLES_H
-#define BUSROLES_H
+#ifndef ROLETABLE_H
+#define ROLETABLE_H
 
 #include "BusSwitchFile.h"
 

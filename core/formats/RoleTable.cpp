@@ -1,4 +1,4 @@
-#include "BusRoles.h"
+#include "RoleTable.h"
 
 namespace RoleTable {
 
