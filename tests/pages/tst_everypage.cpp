@@ -374,7 +374,12 @@ public:
     QStringList entries() const
     {
         QStringList texts;
-        for (const QWidget* widget : find(m_page->widget)->findChildren<QWidget*>()) {
+        QList<QWidget*> widgets = find(m_page->widget)->findChildren<QWidget*>();
+        // One that comes to the front changes its place among them.
+        std::stable_sort(widgets.begin(), widgets.end(), [](const QWidget* a, const QWidget* b) {
+            return a->objectName() < b->objectName();
+        });
+        for (const QWidget* widget : widgets) {
             if (const auto* table = qobject_cast<const QTableWidget*>(widget)) {
                 for (int cell = 0; cell < table->rowCount() * table->columnCount(); ++cell) {
                     const auto* item = table->item(cell / table->columnCount(), cell % table->columnCount());
