@@ -171,10 +171,20 @@ std::optional<Fault> faultOfXml(const KnownFile& file, const QByteArray& content
     return {};
 }
 
-// Each device of a scan list has an input block and an output block.
+// Each device of a scan list has a comment, an input block, an output block and a line that closes it.
 bool isCut(const QByteArray& content)
 {
-    return content.count("\nBLOCK_TO_RBX") != content.count("\nBLOCK_FROM_RBX");
+    const int input = content.lastIndexOf("\nBLOCK_TO_RBX");
+    const int output = content.lastIndexOf("\nBLOCK_FROM_RBX");
+    if (content.count("\nBLOCK_TO_RBX") != content.count("\nBLOCK_FROM_RBX") ||
+        content.lastIndexOf("\n;   Device ") > input)
+        return true;
+    if (output >= 0 && content.indexOf("\n;=====", output) < 0)
+        return true;
+    // In the line that opens the next device.
+    const QByteArray first = content.mid(content.indexOf("\n;=====") + 1);
+    const QByteArray last = content.mid(content.lastIndexOf('\n') + 1);
+    return last.startsWith(";=====") && !first.startsWith(last + '\n') && !first.startsWith(last + '\r');
 }
 
 std::optional<Fault> faultOfText(const KnownFile& file, const QByteArray& content, const QByteArray* present)
