@@ -140,7 +140,7 @@ public:
     {
     }
 
-    bool operator()(std::string_view line, std::string_view /*end*/)
+    bool operator()(std::string_view line)
     {
         m_isBelowHeader = m_isBelowHeader || TextTemplate::contains(line, Marker);
         // Blocks in a header are the controller's prose: they come through a write as they are, and must not
@@ -151,93 +151,103 @@ public:
                 return begin(line.substr(macId + MacIdKeyword.size()));
         }
         const AsciiText::Words words = lineWords(line);
-        if (m_device)
+        if (m_device) {
             readDeviceLine(words, *m_device);
-        else
+            m_hasOutputs = m_hasOutputs || words[0] == Directions[1].blockKeyword;
+        } else {
             readField(settingOf(words), words, m_record);
-        return true;
-    }
+            return true;
+        }
 
-private:
-    bool begin(std::string_view macId)
+        /// The last device has its outputs, which stand at the end of its block.
+        bool isWhole() const
+        {
+            return !m_device || m_hasOutputs;
+        }
+
+    private:
+        bool begin(std::string_view macId)
+        {
+            if (m_record.count == Master::MaxDevices)
+                return false;
+            m_hasOutputs = false;
+            m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
+            AsciiText::readNumber(AsciiText::firstWord(macId, AsciiText::Between::WhiteSpace),
+                                  m_device->MAC_ID);
+            return true;
+        }
+
+        Master& m_record;
+        Device* m_device = nullptr;
+        bool m_isBelowHeader = false;
+        bool m_hasOutputs = false;
+    };
+
+    // Without marker and setting it may be any file, or noise: a write would keep that as the header.
+    bool isScanList(const QByteArray& content)
     {
-        if (m_record.count == Master::MaxDevices)
-            return false;
-        m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
-        AsciiText::readNumber(AsciiText::firstWord(macId, AsciiText::Between::WhiteSpace), m_device->MAC_ID);
-        return true;
+        bool found = false;
+        TextTemplate::forEachLine(content, [&found](std::string_view line, std::string_view /*end*/) {
+            found = TextTemplate::contains(line, Marker) || settingOf(lineWords(line));
+            return !found;
+        });
+        return found;
     }
 
-    Master& m_record;
-    Device* m_device = nullptr;
-    bool m_isBelowHeader = false;
-};
-
-// Without marker and setting it may be any file, or noise: a write would keep that as the header.
-bool isScanList(const QByteArray& content)
-{
-    bool found = false;
-    TextTemplate::forEachLine(content, [&found](std::string_view line, std::string_view /*end*/) {
-        found = TextTemplate::contains(line, Marker) || settingOf(lineWords(line));
-        return !found;
-    });
-    return found;
-}
-
-QByteArray rewrittenHeader(const QByteArray& content, const Master& record)
-{
-    QByteArray header;
-    TextTemplate::forEachLine(content, [&](std::string_view line, std::string_view end) {
-        if (TextTemplate::contains(line, Marker))
-            return false;
-        if (const Field<Master>* setting = settingOf(lineWords(line)))
-            header.append(written(*setting, record));
-        else
-            TextTemplate::keep(line, header);
-        return TextTemplate::keep(end, header);
-    });
-    return header;
-}
-
-QByteArray lineEndOf(const QByteArray& header)
-{
-    const int feed = header.indexOf('\n');
-    return feed > 0 && header.at(feed - 1) == '\r' ? QByteArray("\r\n") : QByteArray("\n");
-}
-
-QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
-{
-    QByteArray out = Rule + lineEnd + DevicePrefix.data() + QByteArray::number(number) + MacIdKeyword.data() +
-                     ' ' + QByteArray::number(device.MAC_ID) + lineEnd;
-    for (const Direction& direction : Directions) {
-        const int first = device.*direction.firstRegister;
-        const int count = Master::registerCount(device.*direction.bytes);
-        out += direction.heading + lineEnd + AsciiText::raw(direction.blockKeyword);
-        for (const int value : {first, count, device.*direction.bytes})
-            out += ' ' + QByteArray::number(value);
-        out += lineEnd;
-        for (const Field<Device>* field = direction.fieldsBegin; field != direction.fieldsEnd; ++field)
-            out += written(*field, device) + lineEnd;
-        if (count == 0)
-            continue;
-        out += direction.registersLine + QByteArray::number(first);
-        for (int next = first + 1; next < first + count; ++next)
-            out += ' ' + QByteArray::number(next);
-        out += lineEnd;
+    QByteArray rewrittenHeader(const QByteArray& content, const Master& record)
+    {
+        QByteArray header;
+        TextTemplate::forEachLine(content, [&](std::string_view line, std::string_view end) {
+            if (TextTemplate::contains(line, Marker))
+                return false;
+            if (const Field<Master>* setting = settingOf(lineWords(line)))
+                header.append(written(*setting, record));
+            else
+                TextTemplate::keep(line, header);
+            return TextTemplate::keep(end, header);
+        });
+        return header;
     }
-    return out + Rule + lineEnd;
-}
 
-QByteArray blocks(const Master& record, const QByteArray& header)
-{
-    const QByteArray lineEnd = lineEndOf(header);
-    QByteArray out;
-    if (record.count > 0 && !header.endsWith('\n'))
-        out += lineEnd;
-    for (int i = 0; i < record.count; ++i)
-        out += block(record.devices[static_cast<std::size_t>(i)], i + 1, lineEnd);
-    return out;
-}
+    QByteArray lineEndOf(const QByteArray& header)
+    {
+        const int feed = header.indexOf('\n');
+        return feed > 0 && header.at(feed - 1) == '\r' ? QByteArray("\r\n") : QByteArray("\n");
+    }
+
+    QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
+    {
+        QByteArray out = Rule + lineEnd + DevicePrefix.data() + QByteArray::number(number) +
+                         MacIdKeyword.data() + ' ' + QByteArray::number(device.MAC_ID) + lineEnd;
+        for (const Direction& direction : Directions) {
+            const int first = device.*direction.firstRegister;
+            const int count = Master::registerCount(device.*direction.bytes);
+            out += direction.heading + lineEnd + AsciiText::raw(direction.blockKeyword);
+            for (const int value : {first, count, device.*direction.bytes})
+                out += ' ' + QByteArray::number(value);
+            out += lineEnd;
+            for (const Field<Device>* field = direction.fieldsBegin; field != direction.fieldsEnd; ++field)
+                out += written(*field, device) + lineEnd;
+            if (count == 0)
+                continue;
+            out += direction.registersLine + QByteArray::number(first);
+            for (int next = first + 1; next < first + count; ++next)
+                out += ' ' + QByteArray::number(next);
+            out += lineEnd;
+        }
+        return out + Rule + lineEnd;
+    }
+
+    QByteArray blocks(const Master& record, const QByteArray& header)
+    {
+        const QByteArray lineEnd = lineEndOf(header);
+        QByteArray out;
+        if (record.count > 0 && !header.endsWith('\n'))
+            out += lineEnd;
+        for (int i = 0; i < record.count; ++i)
+            out += block(record.devices[static_cast<std::size_t>(i)], i + 1, lineEnd);
+        return out;
+    }
 
 } // namespace
 
@@ -257,13 +267,17 @@ void DeviceNetMasterConfig::layOutRegisters()
 }
 
 // A keyword that the file lacks leaves its setting as it was; the devices are always those of the file.
-bool DeviceNetMasterFile::read(const QByteArray& content, DeviceNetMasterConfig& record)
+bool DeviceNetMasterFile::read(const QByteArray& content, DeviceNetMasterConfig& record, bool* recognised)
 {
     if (!isScanList(content))
         return false;
     record.count = 0;
     record.devices = {};
-    TextTemplate::forEachLine(content, Reader(record));
+    Reader reader(record);
+    TextTemplate::forEachLine(content,
+                              [&reader](std::string_view line, std::string_view) { return reader(line); });
+    if (recognised)
+        *recognised = reader.isWhole();
     return true;
 }
 
