@@ -156,98 +156,95 @@ public:
             m_hasOutputs = m_hasOutputs || words[0] == Directions[1].blockKeyword;
         } else {
             readField(settingOf(words), words, m_record);
-            return true;
         }
-
-        /// The last device has its outputs, which stand at the end of its block.
-        bool isWhole() const
-        {
-            return !m_device || m_hasOutputs;
-        }
-
-    private:
-        bool begin(std::string_view macId)
-        {
-            if (m_record.count == Master::MaxDevices)
-                return false;
-            m_hasOutputs = false;
-            m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
-            AsciiText::readNumber(AsciiText::firstWord(macId, AsciiText::Between::WhiteSpace),
-                                  m_device->MAC_ID);
-            return true;
-        }
-
-        Master& m_record;
-        Device* m_device = nullptr;
-        bool m_isBelowHeader = false;
-        bool m_hasOutputs = false;
-    };
-
-    // Without marker and setting it may be any file, or noise: a write would keep that as the header.
-    bool isScanList(const QByteArray& content)
-    {
-        bool found = false;
-        TextTemplate::forEachLine(content, [&found](std::string_view line, std::string_view /*end*/) {
-            found = TextTemplate::contains(line, Marker) || settingOf(lineWords(line));
-            return !found;
-        });
-        return found;
+        return true;
     }
 
-    QByteArray rewrittenHeader(const QByteArray& content, const Master& record)
+    /// The last device has its outputs, which stand at the end of its block.
+    bool isWhole() const { return !m_device || m_hasOutputs; }
+
+private:
+    bool begin(std::string_view macId)
     {
-        QByteArray header;
-        TextTemplate::forEachLine(content, [&](std::string_view line, std::string_view end) {
-            if (TextTemplate::contains(line, Marker))
-                return false;
-            if (const Field<Master>* setting = settingOf(lineWords(line)))
-                header.append(written(*setting, record));
-            else
-                TextTemplate::keep(line, header);
-            return TextTemplate::keep(end, header);
-        });
-        return header;
+        if (m_record.count == Master::MaxDevices)
+            return false;
+        m_hasOutputs = false;
+        m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
+        AsciiText::readNumber(AsciiText::firstWord(macId, AsciiText::Between::WhiteSpace), m_device->MAC_ID);
+        return true;
     }
 
-    QByteArray lineEndOf(const QByteArray& header)
-    {
-        const int feed = header.indexOf('\n');
-        return feed > 0 && header.at(feed - 1) == '\r' ? QByteArray("\r\n") : QByteArray("\n");
-    }
+    Master& m_record;
+    Device* m_device = nullptr;
+    bool m_isBelowHeader = false;
+    bool m_hasOutputs = false;
+};
 
-    QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
-    {
-        QByteArray out = Rule + lineEnd + DevicePrefix.data() + QByteArray::number(number) +
-                         MacIdKeyword.data() + ' ' + QByteArray::number(device.MAC_ID) + lineEnd;
-        for (const Direction& direction : Directions) {
-            const int first = device.*direction.firstRegister;
-            const int count = Master::registerCount(device.*direction.bytes);
-            out += direction.heading + lineEnd + AsciiText::raw(direction.blockKeyword);
-            for (const int value : {first, count, device.*direction.bytes})
-                out += ' ' + QByteArray::number(value);
-            out += lineEnd;
-            for (const Field<Device>* field = direction.fieldsBegin; field != direction.fieldsEnd; ++field)
-                out += written(*field, device) + lineEnd;
-            if (count == 0)
-                continue;
-            out += direction.registersLine + QByteArray::number(first);
-            for (int next = first + 1; next < first + count; ++next)
-                out += ' ' + QByteArray::number(next);
-            out += lineEnd;
-        }
-        return out + Rule + lineEnd;
-    }
+// Without marker and setting it may be any file, or noise: a write would keep that as the header.
+bool isScanList(const QByteArray& content)
+{
+    bool found = false;
+    TextTemplate::forEachLine(content, [&found](std::string_view line, std::string_view /*end*/) {
+        found = TextTemplate::contains(line, Marker) || settingOf(lineWords(line));
+        return !found;
+    });
+    return found;
+}
 
-    QByteArray blocks(const Master& record, const QByteArray& header)
-    {
-        const QByteArray lineEnd = lineEndOf(header);
-        QByteArray out;
-        if (record.count > 0 && !header.endsWith('\n'))
-            out += lineEnd;
-        for (int i = 0; i < record.count; ++i)
-            out += block(record.devices[static_cast<std::size_t>(i)], i + 1, lineEnd);
-        return out;
+QByteArray rewrittenHeader(const QByteArray& content, const Master& record)
+{
+    QByteArray header;
+    TextTemplate::forEachLine(content, [&](std::string_view line, std::string_view end) {
+        if (TextTemplate::contains(line, Marker))
+            return false;
+        if (const Field<Master>* setting = settingOf(lineWords(line)))
+            header.append(written(*setting, record));
+        else
+            TextTemplate::keep(line, header);
+        return TextTemplate::keep(end, header);
+    });
+    return header;
+}
+
+QByteArray lineEndOf(const QByteArray& header)
+{
+    const int feed = header.indexOf('\n');
+    return feed > 0 && header.at(feed - 1) == '\r' ? QByteArray("\r\n") : QByteArray("\n");
+}
+
+QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
+{
+    QByteArray out = Rule + lineEnd + DevicePrefix.data() + QByteArray::number(number) + MacIdKeyword.data() +
+                     ' ' + QByteArray::number(device.MAC_ID) + lineEnd;
+    for (const Direction& direction : Directions) {
+        const int first = device.*direction.firstRegister;
+        const int count = Master::registerCount(device.*direction.bytes);
+        out += direction.heading + lineEnd + AsciiText::raw(direction.blockKeyword);
+        for (const int value : {first, count, device.*direction.bytes})
+            out += ' ' + QByteArray::number(value);
+        out += lineEnd;
+        for (const Field<Device>* field = direction.fieldsBegin; field != direction.fieldsEnd; ++field)
+            out += written(*field, device) + lineEnd;
+        if (count == 0)
+            continue;
+        out += direction.registersLine + QByteArray::number(first);
+        for (int next = first + 1; next < first + count; ++next)
+            out += ' ' + QByteArray::number(next);
+        out += lineEnd;
     }
+    return out + Rule + lineEnd;
+}
+
+QByteArray blocks(const Master& record, const QByteArray& header)
+{
+    const QByteArray lineEnd = lineEndOf(header);
+    QByteArray out;
+    if (record.count > 0 && !header.endsWith('\n'))
+        out += lineEnd;
+    for (int i = 0; i < record.count; ++i)
+        out += block(record.devices[static_cast<std::size_t>(i)], i + 1, lineEnd);
+    return out;
+}
 
 } // namespace
 
