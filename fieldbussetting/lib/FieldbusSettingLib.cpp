@@ -98,6 +98,9 @@ bool FieldbusSettingLib::checkFilePath(QString filePath)
 
 bool FieldbusSettingLib::deleteDir(const QString& dirPath, const QString& keepName)
 {
+    // What a link points to lies outside of what is to be deleted, here as further down.
+    if (QFileInfo(dirPath).isSymLink())
+        return false;
     QDir directory(dirPath);
     if (!directory.exists())
         return true;

@@ -27,8 +27,8 @@ public:
     void layOut(QGridLayout* layout) const;
 
     QComboBox* combo(Switch which) const { return m_combos[which]; }
-    /// Whether the role is wanted. A switch that cannot be used, because too little is known, keeps its role as
-    /// it is, whatever it shows.
+    /// Whether the role is wanted. A switch that cannot be used, because too little is known, keeps its role
+    /// as it is, whatever it shows.
     bool isOn(Switch which) const;
     bool runs(Switch which) const { return m_running[which]; }
     bool differs(Switch which) const { return isOn(which) != runs(which); }

@@ -50,7 +50,7 @@ struct ImportEntry
     const ImportFile* file = nullptr;
     State state = Missing;
     Reason reason = NotThere;
-    QByteArray sentHash; ///< of a new file that is in the journal: SHA-1 of what was sent, in hex
+    QByteArray sentHash; ///< SHA-1 of what is to be sent, or was, in hex
 
     bool isBrought() const { return state != Missing; }
     bool isSent() const { return state == Different || state == New; }
