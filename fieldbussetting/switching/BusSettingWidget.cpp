@@ -27,6 +27,9 @@ BusSettingWidget::BusSettingWidget()
 {
     ui->setupUi(this);
     m_board.layOut(ui->switchLayout);
+    for (int i = 0; i < Count; ++i)
+        connect(m_board.combo(static_cast<Switch>(i)), QOverload<int>::of(&QComboBox::currentIndexChanged),
+                this, &BusSettingWidget::showDifferences);
     applyStyle();
 
     setIsFieldXml(true);
@@ -58,7 +61,14 @@ Outcome BusSettingWidget::reload()
         return read;
     m_overrideRead = read == Outcome::Done;
     m_board.showRunning(m_overrideRead);
+    showDifferences();
     return read;
+}
+
+void BusSettingWidget::showDifferences()
+{
+    const int differences = m_board.markDifferences();
+    ui->saveBusBt->setText(differences == 0 ? tr("Save") : tr("Save (%1)").arg(differences));
 }
 
 void BusSettingWidget::slotCheckFBSEcat()
@@ -216,6 +226,7 @@ void BusSettingWidget::refreshStatus()
     if (canHaveProfinetSlave() && !m_pfnSlaveManaged) {
         m_pfnSlaveManaged = true;
         m_board.showProfinetSlave();
+        showDifferences();
         lib()->set_ifidbus_pfn_state(m_board.runs(PfnSlave));
     }
     if (m_save.isWaiting())
