@@ -589,7 +589,7 @@ void TestUsbImport::notPutBackIsToldAndKept()
             pendant.declined << text;
     };
     pendant.runImport();
-    const QString left = "These files could not be put back:\nheartbeat.xml\nfixed/dns_fixed.cfg\nfa/pfb.cfg";
+    const QString left = "These files could not be put back:\nheartbeat.xml\nfixed/dns_fixed.cfg";
     // No restart is offered for a mixture.
     QCOMPARE(
         pendant.told(),

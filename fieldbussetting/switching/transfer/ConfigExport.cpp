@@ -23,7 +23,7 @@ constexpr int FetchTries = 3; // each of them ten attempts of the library
 constexpr unsigned BetweenTriesMs = 100;
 
 // The name of a folder changes with the second.
-constexpr int NameTries = 8;
+constexpr int NameTries = 16;
 constexpr unsigned BetweenNamesMs = 250;
 
 // Of the export folder, in the order in which they are made and filled.
