@@ -45,8 +45,7 @@ BusSettingWidget::~BusSettingWidget()
 
 void BusSettingWidget::slotGetFileToUi()
 {
-    Busy busy(this);
-    if (reload() == Outcome::Gone)
+    if (reloadBlocked() == Outcome::Gone)
         return;
     m_moduleCheck.start([] { return lib()->get_ifidbus_anybus_fm() != 0; },
                         [this](Poll::Answer) { checkAnybus(m_board.combo(EtherCatSlave)->currentIndex()); });
@@ -173,8 +172,21 @@ void BusSettingWidget::showWarnings()
 
 void BusSettingWidget::on_saveBusBt_clicked()
 {
-    if (m_transfer.isSaveAllowed() && checkServoOff())
+    if (!m_transfer.isSaveAllowed() || !checkServoOff())
+        return;
+    // What was not known yet is looked at before it is saved; what cannot be known keeps its role.
+    const Outcome read = m_overrideRead ? Outcome::Failed : reloadBlocked();
+    if (read == Outcome::Done)
+        tell(MsgBox::Information,
+             translated(QT_TRANSLATE_NOOP("PageBase", "Loaded now. Look at the settings, then save.")));
+    else if (read == Outcome::Failed)
         m_save.begin();
+}
+
+Outcome BusSettingWidget::reloadBlocked()
+{
+    const Busy busy(this);
+    return reload();
 }
 
 void BusSettingWidget::slotSaveAndReboot()

@@ -68,6 +68,7 @@ private:
     RoleConditions roleConditions() const override;
     void holdSave() override;
 
+    Outcome reloadBlocked();
     /// Which switches differ from what runs, and how many.
     void showDifferences();
     void openDeviceNet(Switch which, Switch other, int index, const char* warning);
