@@ -526,6 +526,7 @@ private slots:
         row("X11", "", QByteArray(":0"), QByteArray(), true);
         row("the tour needs none", "--tour", QByteArray(), QByteArray("offscreen"), true);
         row("neither does help", "--help", QByteArray(), QByteArray("offscreen"), true);
+        row("nor the version", "--version", QByteArray(), QByteArray("offscreen"), true);
         row("Qt was told", "-platform minimal", QByteArray(), QByteArray(), true);
     }
 
