@@ -442,6 +442,7 @@ private slots:
         row("--mtcp-port 65536", "1 to 65535");
         row("--mtcp-port 1502", "", [](const Options& o) { return o.mtcpPort == 1502; });
         row("--time-scale nan", "--time-scale");
+        row("--time-scale 0", "--time-scale");
         row("--time-scale 10", "", [](const Options& o) { return o.timeScale == 10.0; });
         row("--scale 0.75", "1 to 4");
         row("--scale 1.5", "", [](const Options& o) { return o.drawingScale() == 1.5 && o.size.isEmpty(); });
