@@ -3,7 +3,7 @@
 
 # What building and running the pendant takes.
 pendant_packages=(build-essential cmake ninja-build ccache qtbase5-dev libqt5serialbus5-dev libpugixml-dev
-                  fonts-dejavu-core)
+                  libcli11-dev fonts-dejavu-core)
 
 # need_packages PACKAGE...: installs those that are missing. Asks nothing of apt when all are there.
 need_packages() {

@@ -2,7 +2,7 @@
 
 #include "ControllerParts.h"
 #include "ControllerXml.h"
-#include "DevicesInUse.h"
+#include "OverrideFile.h"
 
 #include <algorithm>
 #include <string>

@@ -18,9 +18,9 @@ constexpr XmlRecord::Field<FinsClientConfig> Fields[] = {
 
 } // namespace
 
-bool FinsClientFile::read(const QByteArray& content, FinsClientConfig& record, bool* recognised)
+bool FinsClientFile::read(const QByteArray& content, FinsClientConfig& record)
 {
-    return XmlRecord::read(content, Place, Fields, record, recognised);
+    return XmlRecord::read(content, Place, Fields, record);
 }
 
 QByteArray FinsClientFile::written(const FinsClientConfig& record)

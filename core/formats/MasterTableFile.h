@@ -58,8 +58,7 @@ constexpr const char* Profinet = "PfnMasterCommunication";
 namespace MasterTableFile {
 
 /// False, and the record as it was, when `content` is no XML; `root` as in MasterTableRoot.
-/// `recognised`: whether any of its elements is there.
-bool read(const QByteArray& content, const char* root, MasterSlaveTable& record, bool* recognised = nullptr);
+bool read(const QByteArray& content, const char* root, MasterSlaveTable& record);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const char* root, const MasterSlaveTable& record);

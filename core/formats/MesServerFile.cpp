@@ -16,9 +16,9 @@ constexpr XmlRecord::Field<MesServerConfig> Fields[] = {
 
 } // namespace
 
-bool MesServerFile::read(const QByteArray& content, MesServerConfig& record, bool* recognised)
+bool MesServerFile::read(const QByteArray& content, MesServerConfig& record)
 {
-    return XmlRecord::read(content, Place, Fields, record, recognised);
+    return XmlRecord::read(content, Place, Fields, record);
 }
 
 QByteArray MesServerFile::written(const MesServerConfig& record)

@@ -15,9 +15,9 @@ constexpr XmlRecord::Field<MtcpMasterConfig> Fields[] = {
 
 } // namespace
 
-bool MtcpMasterFile::read(const QByteArray& content, MtcpMasterConfig& record, bool* recognised)
+bool MtcpMasterFile::read(const QByteArray& content, MtcpMasterConfig& record)
 {
-    return XmlRecord::read(content, Place, Fields, record, recognised);
+    return XmlRecord::read(content, Place, Fields, record);
 }
 
 QByteArray MtcpMasterFile::written(const MtcpMasterConfig& record)

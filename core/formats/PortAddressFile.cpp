@@ -25,9 +25,14 @@ bool PortAddressFile::read(const QByteArray& bytes, std::vector<PortAddress>& po
     return true;
 }
 
+const char* PortAddressFile::nameOf(int index)
+{
+    return index == 0 ? "ETH2" : "ETH3";
+}
+
 const PortAddress* PortAddressFile::portOf(const std::vector<PortAddress>& ports, int index)
 {
-    const QLatin1String name(index == 0 ? "ETH2" : "ETH3");
+    const QLatin1String name(nameOf(index));
     const auto found = std::find_if(ports.begin(), ports.end(),
                                     [name](const PortAddress& port) { return port.name == name; });
     return found == ports.end() ? nullptr : &*found;

@@ -21,8 +21,10 @@ namespace PortAddressFile {
 /// (and `ports` untouched) when the bytes are not well-formed or have another root.
 bool read(const QByteArray& bytes, std::vector<PortAddress>& ports);
 
-/// The port that the files of the host links count as `index`: 0 is ETH2, everything else ETH3. Null when the
-/// controller does not have it.
+/// Name of the port that the files of the host links count as `index`: 0 is ETH2, everything else ETH3.
+const char* nameOf(int index);
+
+/// That port; null when the controller does not have it.
 const PortAddress* portOf(const std::vector<PortAddress>& ports, int index);
 
 } // namespace PortAddressFile

@@ -57,13 +57,11 @@ private:
 
 } // namespace
 
-bool SlaveTextFile::readEndian(std::string_view line, QString& endian)
+void SlaveTextFile::readEndian(std::string_view line, QString& endian)
 {
     const auto* name = std::find(EndianNames.begin(), EndianNames.end(), line);
-    if (name == EndianNames.end())
-        return false;
-    endian = QLatin1String(*name);
-    return true;
+    if (name != EndianNames.end())
+        endian = QLatin1String(*name);
 }
 
 QByteArray SlaveTextFile::rewritten(const QByteArray& content, const QString& endian,

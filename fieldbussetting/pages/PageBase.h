@@ -133,8 +133,7 @@ private:
     class Presence;
 
     Outcome failed(const TransferTexts& texts, const char* text, const QString& file);
-    /// A `grave` question's "yes" is kept from under a hand that only goes on pressing, where the host can.
-    Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons, bool grave = false);
+    Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons);
 
     const char* m_className;
     QPointer<QWidget> m_maker;

@@ -27,9 +27,6 @@ BusSettingWidget::BusSettingWidget()
 {
     ui->setupUi(this);
     m_board.layOut(ui->switchLayout);
-    for (int i = 0; i < Count; ++i)
-        connect(m_board.combo(static_cast<Switch>(i)), QOverload<int>::of(&QComboBox::currentIndexChanged),
-                this, &BusSettingWidget::showDifferences);
     applyStyle();
 
     setIsFieldXml(true);
@@ -45,7 +42,8 @@ BusSettingWidget::~BusSettingWidget()
 
 void BusSettingWidget::slotGetFileToUi()
 {
-    if (reloadBlocked() == Outcome::Gone)
+    Busy busy(this);
+    if (reload() == Outcome::Gone)
         return;
     m_moduleCheck.start([] { return lib()->get_ifidbus_anybus_fm() != 0; },
                         [this](Poll::Answer) { checkAnybus(m_board.combo(EtherCatSlave)->currentIndex()); });
@@ -60,14 +58,7 @@ Outcome BusSettingWidget::reload()
         return read;
     m_overrideRead = read == Outcome::Done;
     m_board.showRunning(m_overrideRead);
-    showDifferences();
     return read;
-}
-
-void BusSettingWidget::showDifferences()
-{
-    const int differences = m_board.markDifferences();
-    ui->saveBusBt->setText(differences == 0 ? tr("Save") : tr("Save (%1)").arg(differences));
 }
 
 void BusSettingWidget::slotCheckFBSEcat()
@@ -172,21 +163,8 @@ void BusSettingWidget::showWarnings()
 
 void BusSettingWidget::on_saveBusBt_clicked()
 {
-    if (!m_transfer.isSaveAllowed() || !checkServoOff())
-        return;
-    // What was not known yet is looked at before it is saved; what cannot be known keeps its role.
-    const Outcome read = m_overrideRead ? Outcome::Failed : reloadBlocked();
-    if (read == Outcome::Done)
-        tell(MsgBox::Information,
-             translated(QT_TRANSLATE_NOOP("PageBase", "Loaded now. Look at the settings, then save.")));
-    else if (read == Outcome::Failed)
+    if (m_transfer.isSaveAllowed() && checkServoOff())
         m_save.begin();
-}
-
-Outcome BusSettingWidget::reloadBlocked()
-{
-    const Busy busy(this);
-    return reload();
 }
 
 void BusSettingWidget::slotSaveAndReboot()
@@ -238,7 +216,6 @@ void BusSettingWidget::refreshStatus()
     if (canHaveProfinetSlave() && !m_pfnSlaveManaged) {
         m_pfnSlaveManaged = true;
         m_board.showProfinetSlave();
-        showDifferences();
         lib()->set_ifidbus_pfn_state(m_board.runs(PfnSlave));
     }
     if (m_save.isWaiting())

@@ -32,7 +32,6 @@ public:
     bool verbose = false;
 
     bool help = false;
-    bool version = false;
     QString helpText;
     QString problem; ///< empty when the command line makes sense
 
@@ -41,8 +40,6 @@ public:
     /// How large the pendant has to be drawn; 1 when nothing is said of it. It has to be known before there
     /// is an application object.
     double drawingScale() const;
-    /// Name and version of the program.
-    static QString versionText();
 
 private:
     void take(const QCommandLineParser& parser);

@@ -1,4 +1,4 @@
-#include "DevicesInUse.h"
+#include "OverrideFile.h"
 
 bool isDeviceInUse(const QByteArray& overrideCfg, const QByteArray& name)
 {
