@@ -5,9 +5,11 @@
 #include "FieldbusModule.h"
 #include "FileLocations.h"
 #include "Logging.h"
+#include "MsgBox.h"
 #include "PageBase.h"
 #include "ProgressBarWidget.h"
 #include "SysSettingApi.h"
+#include "UnfinishedImport.h"
 #include "ZelFunctions.h"
 #include "ui_FbMainWidget.h"
 
@@ -51,6 +53,7 @@ FbMainWidget::FbMainWidget()
     , m_menuButtons(new QButtonGroup(this))
     , m_progressBar(std::make_unique<ProgressBarWidget>(nullptr))
 {
+    UnfinishedImport::clearLeftOvers();
     ui->setupUi(this);
     ZelSetUIStyleSheet(this, QLatin1String("fieldbussetting/FbMainWidget"));
 
@@ -153,6 +156,22 @@ void FbMainWidget::countNotification()
         m_progressBar->close();
     if (isHidden())
         show();
+    showUnfinishedImport();
+    if (UnfinishedImport::exists())
+        QTimer::singleShot(0, this, &FbMainWidget::tellUnfinishedImport);
+}
+
+void FbMainWidget::showUnfinishedImport()
+{
+    if (ui->label_unfinishedImport->isHidden() == UnfinishedImport::exists())
+        ui->label_unfinishedImport->setVisible(UnfinishedImport::exists());
+}
+
+void FbMainWidget::tellUnfinishedImport()
+{
+    const QPointer<MsgBox> box(new MsgBox(MsgBox::Warning, ui->label_unfinishedImport->text(), this));
+    box->exec(); // the application may be closed meanwhile, and the box with it
+    delete box.data();
 }
 
 void FbMainWidget::slotMenuBtnsClicked(int id)
@@ -230,6 +249,7 @@ void FbMainWidget::idle()
         if (!self) // a page's idle work may wait, and the application may be closed meanwhile
             return;
     }
+    showUnfinishedImport();
     SysSettingApi::getInstance()->sysSettingLibIdle();
     if (ui->exitBtn->isEnabled() != ExitPermission::isGiven())
         ui->exitBtn->setEnabled(ExitPermission::isGiven());

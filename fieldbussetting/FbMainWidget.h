@@ -49,6 +49,9 @@ private:
     void buildMenu();
     void showButtonsOf(const QStringList& busNames);
     void countNotification();
+    /// The band over the pages follows whether an import is to be settled.
+    void showUnfinishedImport();
+    void tellUnfinishedImport();
     /// The page of `id`, created when it is wanted for the first time; null when there is none.
     PageBase* pageOf(int id);
     void showPage(int id);

@@ -2,7 +2,7 @@
 
 #include "ControllerParts.h"
 #include "ControllerXml.h"
-#include "OverrideFile.h"
+#include "DevicesInUse.h"
 
 #include <algorithm>
 #include <string>

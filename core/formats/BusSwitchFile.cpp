@@ -35,15 +35,17 @@ struct QuoteEscaper : pugi::xml_tree_walker
 
 } // namespace
 
-bool BusSwitchFile::read(const QByteArray& content, BusSwitchSet& switches, bool isImport)
+bool BusSwitchFile::read(const QByteArray& content, BusSwitchSet& switches, bool isImport, bool* recognised)
 {
     pugi::xml_document document;
     if (!XmlFile::load(content, document))
         return false;
     clearAllButProfinetMaster(switches);
+    bool anyRole = false;
     QStringList enabledNames;
     for (const pugi::xml_node entry : document.child(RootElement).children()) {
         const QString name = QString::fromUtf8(entry.attribute("name").value());
+        anyRole = anyRole || !name.isEmpty();
         if (entry.child("enable").text().as_int() == 1)
             enabledNames.append(name);
         if (isImport &&
@@ -54,6 +56,8 @@ bool BusSwitchFile::read(const QByteArray& content, BusSwitchSet& switches, bool
         if (role.switchFlag && enabledNames.contains(QLatin1String(role.name), role.spelling))
             switches.*role.switchFlag = true;
     }
+    if (recognised)
+        *recognised = anyRole;
     return true;
 }
 

@@ -27,8 +27,8 @@ struct BusSwitchSet
 namespace BusSwitchFile {
 
 /// False, and the flags as they were, when `content` is no XML. `isImport`: also whether the Modbus TCP
-/// master is listed at all.
-bool read(const QByteArray& content, BusSwitchSet& switches, bool isImport);
+/// master is listed at all. `recognised`: whether any role is listed.
+bool read(const QByteArray& content, BusSwitchSet& switches, bool isImport, bool* recognised = nullptr);
 
 /// The file with the PROFINET slave role switched off; empty when `content` is no XML.
 QByteArray rewritten(const QByteArray& content);

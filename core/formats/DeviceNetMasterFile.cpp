@@ -140,7 +140,7 @@ public:
     {
     }
 
-    bool operator()(std::string_view line, std::string_view /*end*/)
+    bool operator()(std::string_view line)
     {
         m_isBelowHeader = m_isBelowHeader || TextTemplate::contains(line, Marker);
         // Blocks in a header are the controller's prose: they come through a write as they are, and must not
@@ -151,18 +151,24 @@ public:
                 return begin(line.substr(macId + MacIdKeyword.size()));
         }
         const AsciiText::Words words = lineWords(line);
-        if (m_device)
+        if (m_device) {
             readDeviceLine(words, *m_device);
-        else
+            m_hasOutputs = m_hasOutputs || words[0] == Directions[1].blockKeyword;
+        } else {
             readField(settingOf(words), words, m_record);
+        }
         return true;
     }
+
+    /// The last device has its outputs, which stand at the end of its block.
+    bool isWhole() const { return !m_device || m_hasOutputs; }
 
 private:
     bool begin(std::string_view macId)
     {
         if (m_record.count == Master::MaxDevices)
             return false;
+        m_hasOutputs = false;
         m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
         AsciiText::readNumber(AsciiText::firstWord(macId, AsciiText::Between::WhiteSpace), m_device->MAC_ID);
         return true;
@@ -171,6 +177,7 @@ private:
     Master& m_record;
     Device* m_device = nullptr;
     bool m_isBelowHeader = false;
+    bool m_hasOutputs = false;
 };
 
 // Without marker and setting it may be any file, or noise: a write would keep that as the header.
@@ -257,13 +264,17 @@ void DeviceNetMasterConfig::layOutRegisters()
 }
 
 // A keyword that the file lacks leaves its setting as it was; the devices are always those of the file.
-bool DeviceNetMasterFile::read(const QByteArray& content, DeviceNetMasterConfig& record)
+bool DeviceNetMasterFile::read(const QByteArray& content, DeviceNetMasterConfig& record, bool* recognised)
 {
     if (!isScanList(content))
         return false;
     record.count = 0;
     record.devices = {};
-    TextTemplate::forEachLine(content, Reader(record));
+    Reader reader(record);
+    TextTemplate::forEachLine(content,
+                              [&reader](std::string_view line, std::string_view) { return reader(line); });
+    if (recognised)
+        *recognised = reader.isWhole();
     return true;
 }
 

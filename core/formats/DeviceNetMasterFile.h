@@ -51,8 +51,9 @@ struct DeviceNetMasterConfig
 
 namespace DeviceNetMasterFile {
 
-/// False, and the record as it was, when `content` is no scan list.
-bool read(const QByteArray& content, DeviceNetMasterConfig& record);
+/// False, and the record as it was, when `content` is no scan list. `recognised`: the last device has both
+/// its blocks, as every file has that was not cut short within a device.
+bool read(const QByteArray& content, DeviceNetMasterConfig& record, bool* recognised = nullptr);
 
 /// The file with the record's settings in its header and the record's devices, each with the registers that
 /// `layOutRegisters` gives it. Empty without a header: that is the controller's and cannot be made here.

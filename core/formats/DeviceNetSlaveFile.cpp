@@ -13,9 +13,9 @@ constexpr XmlRecord::Field<DeviceNetSlaveConfig> Fields[] = {
 
 } // namespace
 
-bool DeviceNetSlaveFile::read(const QByteArray& content, DeviceNetSlaveConfig& record)
+bool DeviceNetSlaveFile::read(const QByteArray& content, DeviceNetSlaveConfig& record, bool* recognised)
 {
-    return XmlRecord::read(content, Place, Fields, record);
+    return XmlRecord::read(content, Place, Fields, record, recognised);
 }
 
 QByteArray DeviceNetSlaveFile::written(const DeviceNetSlaveConfig& record)

@@ -13,8 +13,9 @@ struct DeviceNetSlaveConfig
 
 namespace DeviceNetSlaveFile {
 
-/// False, and the record as it was, when `content` is no XML.
-bool read(const QByteArray& content, DeviceNetSlaveConfig& record);
+/// False, and the record as it was, when `content` is no XML. `recognised`: whether any of its elements is
+/// there.
+bool read(const QByteArray& content, DeviceNetSlaveConfig& record, bool* recognised = nullptr);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const DeviceNetSlaveConfig& record);

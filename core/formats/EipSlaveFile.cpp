@@ -26,19 +26,24 @@ QString valueOf(std::string_view line, const char* keyword)
 
 } // namespace
 
-bool EipSlaveFile::read(const QByteArray& content, EipSlaveConfig& record)
+bool EipSlaveFile::read(const QByteArray& content, EipSlaveConfig& record, bool* recognised)
 {
     if (content.isEmpty())
         return false;
-    TextTemplate::forEachLine(content, [&record](std::string_view whole, std::string_view) {
+    bool anyKeyword = false;
+    TextTemplate::forEachLine(content, [&](std::string_view whole, std::string_view) {
         const std::string_view line = AsciiText::trimmed(whole);
-        SlaveTextFile::readEndian(line, record.EipEndian);
+        anyKeyword = SlaveTextFile::readEndian(line, record.EipEndian) || anyKeyword;
         for (const Field& field : Fields) {
-            if (TextTemplate::contains(line, field.keyword))
+            if (TextTemplate::contains(line, field.keyword)) {
                 record.*field.value = valueOf(line, field.keyword);
+                anyKeyword = true;
+            }
         }
         return true;
     });
+    if (recognised)
+        *recognised = anyKeyword;
     return true;
 }
 

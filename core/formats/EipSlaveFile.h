@@ -15,7 +15,8 @@ struct EipSlaveConfig
 namespace EipSlaveFile {
 
 /// False when `content` is empty. A line that the file lacks leaves its field as it was.
-bool read(const QByteArray& content, EipSlaveConfig& record);
+/// `recognised`: whether any of its keywords is there.
+bool read(const QByteArray& content, EipSlaveConfig& record, bool* recognised = nullptr);
 
 /// The file with the record's address, mask and byte order. The free and the fixed variant get the byte order
 /// alone: SlaveTextFile::rewritten.

@@ -18,9 +18,9 @@ constexpr XmlRecord::Field<FinsClientConfig> Fields[] = {
 
 } // namespace
 
-bool FinsClientFile::read(const QByteArray& content, FinsClientConfig& record)
+bool FinsClientFile::read(const QByteArray& content, FinsClientConfig& record, bool* recognised)
 {
-    return XmlRecord::read(content, Place, Fields, record);
+    return XmlRecord::read(content, Place, Fields, record, recognised);
 }
 
 QByteArray FinsClientFile::written(const FinsClientConfig& record)

@@ -19,8 +19,9 @@ struct FinsClientConfig
 
 namespace FinsClientFile {
 
-/// False, and the record as it was, when `content` is no XML.
-bool read(const QByteArray& content, FinsClientConfig& record);
+/// False, and the record as it was, when `content` is no XML. `recognised`: whether any of its elements is
+/// there.
+bool read(const QByteArray& content, FinsClientConfig& record, bool* recognised = nullptr);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const FinsClientConfig& record);

@@ -35,7 +35,7 @@ QString HeartbeatConfig::timeoutText(double seconds)
 }
 
 // Unlike the other readers this one forgets the previous values even when there is nothing to read.
-bool HeartbeatFile::read(const QByteArray& content, HeartbeatConfig& record)
+bool HeartbeatFile::read(const QByteArray& content, HeartbeatConfig& record, bool* recognised)
 {
     record = HeartbeatConfig();
     pugi::xml_document document;
@@ -43,11 +43,15 @@ bool HeartbeatFile::read(const QByteArray& content, HeartbeatConfig& record)
         return false;
     const XmlFile::PointDecimals pointDecimals;
     const pugi::xml_node root = document.child("Fidbus");
+    bool anyBus = false;
     for (const HeartbeatConfig::Field& field : HeartbeatConfig::fields()) {
         const pugi::xml_node bus = root.child(field.bus);
+        anyBus = anyBus || bus;
         record.*field.nodSwitch = bus.child(field.switchElement).text().as_bool();
         record.*field.timeout = bus.child(field.timeoutElement).text().as_double();
     }
+    if (recognised)
+        *recognised = anyBus;
     return true;
 }
 

@@ -54,7 +54,8 @@ struct HeartbeatConfig
 namespace HeartbeatFile {
 
 /// False when `content` is no XML; the record is then as after construction, not as it was.
-bool read(const QByteArray& content, HeartbeatConfig& record);
+/// `recognised`: whether any of its elements is there.
+bool read(const QByteArray& content, HeartbeatConfig& record, bool* recognised = nullptr);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const HeartbeatConfig& record);

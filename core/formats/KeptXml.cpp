@@ -1,11 +1,10 @@
 #include "KeptXml.h"
 
+#include "KnownFiles.h"
+
 namespace KeptXml {
 
 namespace {
-
-// A configuration has a few kilobytes. Something much larger is no configuration.
-constexpr int MostBytes = 4 * 1024 * 1024;
 
 class ByteWriter : public pugi::xml_writer
 {
@@ -22,7 +21,7 @@ public:
 pugi::xml_node load(const QByteArray& bytes, const char* root, pugi::xml_document& document)
 {
     // The parser takes a NUL for the end of the text, and what follows would be lost with the next write.
-    if (bytes.size() > MostBytes || bytes.contains('\0'))
+    if (bytes.size() > KnownFiles::MostBytes || bytes.contains('\0'))
         return {};
     // As UTF-8 whatever the bytes are: a comment in another encoding comes through as it is.
     if (!document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()), pugi::parse_full,

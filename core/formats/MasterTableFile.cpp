@@ -46,13 +46,16 @@ const std::array<Position, MasterSlaveTable::PositionCount>& MasterSlaveTable::p
 
 #undef SLAVE_POSITION
 
-bool MasterTableFile::read(const QByteArray& content, const char* root, MasterSlaveTable& record)
+bool MasterTableFile::read(const QByteArray& content, const char* root, MasterSlaveTable& record,
+                           bool* recognised)
 {
     pugi::xml_document document;
     if (!XmlFile::load(content, document))
         return false;
     const pugi::xml_node group = document.child(root).child(GroupElement);
     XmlRecord::read(group, Texts, record);
+    if (recognised)
+        *recognised = !group.empty();
     for (const FlagGroup& flags : FlagGroups) {
         const pugi::xml_node node = group.child(flags.element);
         for (const Position& position : MasterSlaveTable::positions())

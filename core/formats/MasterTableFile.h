@@ -58,7 +58,8 @@ constexpr const char* Profinet = "PfnMasterCommunication";
 namespace MasterTableFile {
 
 /// False, and the record as it was, when `content` is no XML; `root` as in MasterTableRoot.
-bool read(const QByteArray& content, const char* root, MasterSlaveTable& record);
+/// `recognised`: whether any of its elements is there.
+bool read(const QByteArray& content, const char* root, MasterSlaveTable& record, bool* recognised = nullptr);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const char* root, const MasterSlaveTable& record);

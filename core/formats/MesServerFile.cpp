@@ -16,9 +16,9 @@ constexpr XmlRecord::Field<MesServerConfig> Fields[] = {
 
 } // namespace
 
-bool MesServerFile::read(const QByteArray& content, MesServerConfig& record)
+bool MesServerFile::read(const QByteArray& content, MesServerConfig& record, bool* recognised)
 {
-    return XmlRecord::read(content, Place, Fields, record);
+    return XmlRecord::read(content, Place, Fields, record, recognised);
 }
 
 QByteArray MesServerFile::written(const MesServerConfig& record)

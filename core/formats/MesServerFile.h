@@ -16,8 +16,9 @@ struct MesServerConfig
 
 namespace MesServerFile {
 
-/// False, and the record as it was, when `content` is no XML.
-bool read(const QByteArray& content, MesServerConfig& record);
+/// False, and the record as it was, when `content` is no XML. `recognised`: whether any of its elements is
+/// there.
+bool read(const QByteArray& content, MesServerConfig& record, bool* recognised = nullptr);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const MesServerConfig& record);

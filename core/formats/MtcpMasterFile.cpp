@@ -15,9 +15,9 @@ constexpr XmlRecord::Field<MtcpMasterConfig> Fields[] = {
 
 } // namespace
 
-bool MtcpMasterFile::read(const QByteArray& content, MtcpMasterConfig& record)
+bool MtcpMasterFile::read(const QByteArray& content, MtcpMasterConfig& record, bool* recognised)
 {
-    return XmlRecord::read(content, Place, Fields, record);
+    return XmlRecord::read(content, Place, Fields, record, recognised);
 }
 
 QByteArray MtcpMasterFile::written(const MtcpMasterConfig& record)

@@ -19,8 +19,9 @@ struct MtcpMasterConfig
 
 namespace MtcpMasterFile {
 
-/// False, and the record as it was, when `content` is no XML.
-bool read(const QByteArray& content, MtcpMasterConfig& record);
+/// False, and the record as it was, when `content` is no XML. `recognised`: whether any of its elements is
+/// there.
+bool read(const QByteArray& content, MtcpMasterConfig& record, bool* recognised = nullptr);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const MtcpMasterConfig& record);

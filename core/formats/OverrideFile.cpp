@@ -16,8 +16,20 @@ using TextTemplate::containsIgnoringCase;
 
 namespace {
 
+constexpr std::string_view Directive = "ecat_slave";
 constexpr std::string_view MasterSlot = " 2 ";
-constexpr std::string_view SlaveSlot = " 1 ";
+
+// How the two kinds of devices are told in a line, and what stands before the name in a written one.
+struct SlotText
+{
+    std::string_view slot;
+    const char* beforeName;
+};
+
+constexpr SlotText textOf(OverrideSlot slot)
+{
+    return slot == OverrideSlot::Masters ? SlotText{MasterSlot, ";"} : SlotText{" 1 ", " ;"};
+}
 
 bool isCommentedDirective(std::string_view word)
 {
@@ -54,7 +66,7 @@ bool hasSlot(std::string_view line, std::string_view slot)
 
 bool isSelected(std::string_view line, std::string_view slot)
 {
-    return hasSlot(line, slot) && containsIgnoringCase(line, "ecat_slave");
+    return hasSlot(line, slot) && containsIgnoringCase(line, Directive);
 }
 
 void setName(OverrideEntry& entry, std::string_view text)
@@ -110,18 +122,23 @@ void readEntry(OverrideEntry& entry, std::string_view line)
 }
 
 // Starts from the family's record, so that a line that cannot be understood leaves its entry as it was.
-// `look` sees every line for as long as it answers true.
+// `look` sees every line.
 template <typename Look>
-OverrideRecord readEntries(const QByteArray& content, OverrideRecord record, std::string_view slot, Look look)
+void readEntries(const QByteArray& content, OverrideRecord& record, std::string_view slot, Look look)
 {
     record.count = 0;
+    QByteArray lines;
     TextTemplate::forEachLine(content, [&](std::string_view line, std::string_view) {
-        const bool isLooking = look(line);
-        if (record.count < OverrideRecord::MaxEntries && isSelected(line, slot))
+        look(line);
+        if (!isSelected(line, slot))
+            return true;
+        if (record.count < OverrideRecord::MaxEntries)
             readEntry(record.entries[static_cast<std::size_t>(record.count++)], line);
-        return isLooking || record.count < OverrideRecord::MaxEntries;
+        TextTemplate::keep(line, lines);
+        lines.append('\n');
+        return true;
     });
-    return record;
+    record.knownLines = {lines};
 }
 
 // Puts the activation that the entry says on a line, and leaves every other byte of it.
@@ -149,22 +166,21 @@ void appendEntry(const OverrideEntry& entry, const char* beforeName, QByteArray&
 class RecordWriter
 {
 public:
-    RecordWriter(const OverrideRecord& record, std::string_view slot, const char* beforeName)
+    RecordWriter(const OverrideRecord& record, SlotText text)
         : m_record(record)
-        , m_slot(slot)
-        , m_beforeName(beforeName)
+        , m_text(text)
     {
     }
 
     bool operator()(std::string_view line, QByteArray& out)
     {
-        if (!isSelected(line, m_slot) || m_next >= m_record.count)
+        if (!isSelected(line, m_text.slot) || m_next >= m_record.count)
             return TextTemplate::keep(line, out);
         const OverrideEntry& entry = m_record.entries[static_cast<std::size_t>(m_next++)];
         if (!isDirective(firstWord(line, Between::Blanks)))
             return TextTemplate::keep(line, out);
         if (entry.understood)
-            appendEntry(entry, m_beforeName, out);
+            appendEntry(entry, m_text.beforeName, out);
         else
             appendActivated(line, entry.off, out);
         return true;
@@ -172,18 +188,17 @@ public:
 
 private:
     const OverrideRecord& m_record;
-    std::string_view m_slot;
-    const char* m_beforeName;
+    SlotText m_text;
     int m_next = 0;
 };
 
 bool switchOn(std::string_view line, QByteArray& out)
 {
-    if (!isSelected(line, MasterSlot) || !isSwitchLine(line) ||
-        contains(firstWord(line, Between::Blanks), ";"))
-        return TextTemplate::keep(line, out);
-    appendActivated(line, true, out);
-    return true;
+    // In front of the line, also of one that begins with blanks. Prose stays prose.
+    if (isSelected(line, MasterSlot) && isSwitchLine(line) &&
+        !contains(firstWord(line, Between::Blanks), ";"))
+        out.append(';');
+    return TextTemplate::keep(line, out);
 }
 
 bool switchOff(std::string_view line, QByteArray& out)
@@ -212,40 +227,53 @@ const OverrideEntry* OverrideRecord::anybus() const
     return found == entries.end() ? nullptr : found;
 }
 
-void OverrideFile::readMasters(const QByteArray& content, OverrideRecord& record)
+void OverrideFile::read(const QByteArray& content, OverrideSlot slot, OverrideRecord& record)
 {
-    record = readEntries(content, record, MasterSlot, [](std::string_view) { return false; });
+    readEntries(content, record, textOf(slot).slot, [](std::string_view) {});
 }
 
-void OverrideFile::readSlaves(const QByteArray& content, OverrideRecord& record, MasterDevicesInUse& devices)
+void OverrideFile::read(const QByteArray& content, OverrideRecord& record, MasterDevicesInUse& devices)
 {
     devices = MasterDevicesInUse();
-    record = readEntries(content, record, SlaveSlot, [&devices](std::string_view line) {
+    readEntries(content, record, textOf(OverrideSlot::SlaveModule).slot, [&devices](std::string_view line) {
         if (hasSlot(line, MasterSlot) && containsIgnoringCase(line, ";ecat_slave")) {
             devices.EIM_DEVICE |= containsIgnoringCase(line, "eim_device");
             devices.PNM_DEVICE |= containsIgnoringCase(line, "pnm_device");
         }
-        return true;
     });
 }
 
-QByteArray OverrideFile::mastersRewritten(const QByteArray& content, const OverrideRecord& record,
-                                          OverrideMode mode)
+bool OverrideFile::isRecognised(const QByteArray& content)
 {
-    switch (mode) {
-    case OverrideMode::SwitchOn:
-        return edited(content, switchOn);
-    case OverrideMode::SwitchOff:
-        return edited(content, switchOff);
-    case OverrideMode::WriteRecord:
-        break;
-    }
-    return edited(content, RecordWriter(record, MasterSlot, ";"));
+    return containsIgnoringCase({content.constData(), static_cast<std::size_t>(content.size())}, Directive);
 }
 
-QByteArray OverrideFile::slavesRewritten(const QByteArray& content, const OverrideRecord& record)
+bool OverrideFile::fits(const QByteArray& content, OverrideSlot slot, const OverrideRecord& record)
 {
-    return edited(content, RecordWriter(record, SlaveSlot, " ;"));
+    if (record.knownLines.isEmpty())
+        return true;
+    OverrideRecord now;
+    read(content, slot, now);
+    return record.knownLines.contains(now.knownLines.constFirst());
+}
+
+QByteArray OverrideFile::rewritten(const QByteArray& content, OverrideSlot slot, const OverrideRecord& record)
+{
+    return edited(content, RecordWriter(record, textOf(slot)));
+}
+
+void OverrideFile::noteWritten(OverrideSlot slot, OverrideRecord& record)
+{
+    if (record.knownLines.isEmpty())
+        return;
+    const QByteArray lines = rewritten(record.knownLines.constFirst(), slot, record);
+    if (!record.knownLines.contains(lines))
+        record.knownLines.append(lines);
+}
+
+QByteArray OverrideFile::switched(const QByteArray& content, bool on)
+{
+    return edited(content, on ? switchOn : switchOff);
 }
 
 QByteArray OverrideFile::deviceSwitchedOff(const QByteArray& content, std::string_view device)

@@ -1,7 +1,7 @@
 #ifndef OVERRIDEFILE_H
 #define OVERRIDEFILE_H
 
-#include <QByteArray>
+#include <QByteArrayList>
 #include <QString>
 
 #include <array>
@@ -30,6 +30,9 @@ struct OverrideRecord
 
     std::array<OverrideEntry, MaxEntries> entries;
     int count = 0; ///< entries that the last read found, 0 to MaxEntries
+    /// The lines of the family's slot as the file was read, and as this record has been written since: what a
+    /// template must have for the entries to be those of its lines. Empty before the first read.
+    QByteArrayList knownLines;
 
     /// The entry named "ANYBUS" (the module of the EtherCAT slave), null when there is none.
     const OverrideEntry* anybus() const;
@@ -40,6 +43,12 @@ struct MasterDevicesInUse
 {
     bool EIM_DEVICE = false; ///< EtherNet/IP master
     bool PNM_DEVICE = false; ///< PROFINET master
+};
+
+/// The slot of a directive, which tells whose device it is.
+enum class OverrideSlot {
+    SlaveModule = 1, ///< the EtherCAT slave module
+    Masters = 2      ///< a master bus
 };
 
 /// What a writer of a master family does to the directives.
@@ -53,13 +62,26 @@ namespace OverrideFile {
 
 // Any bytes are an override file. What a line does not say leaves its entry as it was.
 
-/// The devices of the master buses (slot 2).
-void readMasters(const QByteArray& content, OverrideRecord& record);
-/// The devices of the EtherCAT slave module (slot 1), and which master devices are in use.
-void readSlaves(const QByteArray& content, OverrideRecord& record, MasterDevicesInUse& devices);
+/// The devices of a slot.
+void read(const QByteArray& content, OverrideSlot slot, OverrideRecord& record);
+/// The devices of the slave module's slot, and which master devices are in use.
+void read(const QByteArray& content, OverrideRecord& record, MasterDevicesInUse& devices);
 
-QByteArray mastersRewritten(const QByteArray& content, const OverrideRecord& record, OverrideMode mode);
-QByteArray slavesRewritten(const QByteArray& content, const OverrideRecord& record);
+/// Whether there is any directive; without one it may be noise.
+bool isRecognised(const QByteArray& content);
+
+/// Whether the lines of `slot` are those that the record's entries were read from, or that it has been
+/// written to since. Entries are told by their position: where this is false they are other devices'. A
+/// record that was never read fits any file.
+bool fits(const QByteArray& content, OverrideSlot slot, const OverrideRecord& record);
+
+/// The file with each of the record's entries on its line; only for content that `fits`.
+QByteArray rewritten(const QByteArray& content, OverrideSlot slot, const OverrideRecord& record);
+/// Notes in the record that it is written now, so that what comes of it fits.
+void noteWritten(OverrideSlot slot, OverrideRecord& record);
+
+/// The file with all devices of the masters' slot in use or out of use.
+QByteArray switched(const QByteArray& content, bool on);
 /// Takes the master device that the keyword `device` names ("EIM_DEVICE", "PNM_DEVICE") out of use.
 QByteArray deviceSwitchedOff(const QByteArray& content, std::string_view device);
 

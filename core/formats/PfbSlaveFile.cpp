@@ -32,15 +32,16 @@ void readAlarm(std::string_view line, PfbSlaveConfig& record)
 } // namespace
 
 // Ends at the later of the address and the alarm line: a byte order below both is not read.
-bool PfbSlaveFile::read(const QByteArray& content, PfbSlaveConfig& record)
+bool PfbSlaveFile::read(const QByteArray& content, PfbSlaveConfig& record, bool* recognised)
 {
     if (content.isEmpty())
         return false;
     bool addressSeen = false;
     bool alarmSeen = false;
+    bool endianSeen = false;
     TextTemplate::forEachLine(content, [&](std::string_view whole, std::string_view) {
         const std::string_view line = AsciiText::trimmed(whole);
-        SlaveTextFile::readEndian(line, record.ProfibusEndian);
+        endianSeen = SlaveTextFile::readEndian(line, record.ProfibusEndian) || endianSeen;
         if (TextTemplate::contains(line, AddressKeyword)) {
             const AsciiText::Words words(line, AsciiText::Between::Blanks);
             if (words.size() > 1)
@@ -52,6 +53,8 @@ bool PfbSlaveFile::read(const QByteArray& content, PfbSlaveConfig& record)
         }
         return !(addressSeen && alarmSeen);
     });
+    if (recognised)
+        *recognised = addressSeen || alarmSeen || endianSeen;
     return true;
 }
 

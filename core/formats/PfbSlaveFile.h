@@ -15,7 +15,8 @@ struct PfbSlaveConfig
 namespace PfbSlaveFile {
 
 /// False when `content` is empty. A line that the file lacks leaves its field as it was.
-bool read(const QByteArray& content, PfbSlaveConfig& record);
+/// `recognised`: whether any of its keywords is there.
+bool read(const QByteArray& content, PfbSlaveConfig& record, bool* recognised = nullptr);
 
 /// The file with the record's address, alarm and byte order. The free and the fixed variant get the byte
 /// order alone: SlaveTextFile::rewritten.

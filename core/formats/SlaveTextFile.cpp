@@ -57,11 +57,13 @@ private:
 
 } // namespace
 
-void SlaveTextFile::readEndian(std::string_view line, QString& endian)
+bool SlaveTextFile::readEndian(std::string_view line, QString& endian)
 {
     const auto* name = std::find(EndianNames.begin(), EndianNames.end(), line);
-    if (name != EndianNames.end())
-        endian = QLatin1String(*name);
+    if (name == EndianNames.end())
+        return false;
+    endian = QLatin1String(*name);
+    return true;
 }
 
 QByteArray SlaveTextFile::rewritten(const QByteArray& content, const QString& endian,

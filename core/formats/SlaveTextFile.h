@@ -18,8 +18,8 @@ struct OwnedLine
     QByteArray written;
 };
 
-/// Sets `endian` when the trimmed line is an endian name and nothing else.
-void readEndian(std::string_view line, QString& endian);
+/// Sets `endian` when the trimmed line is an endian name and nothing else, and says so.
+bool readEndian(std::string_view line, QString& endian);
 
 /// The file with the byte order and the owned lines replaced and every line
 /// trimmed. The first keyword that a line carries decides. Without RUN_ALWAYS the file gets no byte order.

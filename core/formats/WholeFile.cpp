@@ -11,6 +11,7 @@
 namespace {
 
 // The largest controller file has a few hundred kilobytes; what is beyond this is no configuration.
+// Wider than what an import takes, so that a file of the controller's that is too large is told as such.
 constexpr off_t LargestFile = off_t{16} * 1024 * 1024;
 
 } // namespace

@@ -3,7 +3,9 @@
 
 #include "XmlFile.h"
 
+#include <algorithm>
 #include <initializer_list>
+#include <iterator>
 #include <variant>
 
 /// Formats whose elements each hold one value of a record. A format is a table of fields that its reader and
@@ -67,9 +69,10 @@ void append(pugi::xml_node parent, const Fields& fields, const Record& record)
 /// Names of the nested elements, from the root on, that hold the fields of a format.
 using Place = std::initializer_list<const char*>;
 
-/// Reads a file; false, and the record as it was, when it is no XML.
+/// Reads a file; false, and the record as it was, when it is no XML. `recognised`: whether any of `fields` is
+/// there.
 template <typename Record, typename Fields>
-bool read(const QByteArray& content, Place place, const Fields& fields, Record& record)
+bool read(const QByteArray& content, Place place, const Fields& fields, Record& record, bool* recognised)
 {
     pugi::xml_document document;
     if (!XmlFile::load(content, document))
@@ -78,6 +81,10 @@ bool read(const QByteArray& content, Place place, const Fields& fields, Record& 
     for (const char* element : place)
         node = node.child(element);
     read(node, fields, record);
+    if (recognised)
+        *recognised = std::any_of(std::begin(fields), std::end(fields), [node](const Field<Record>& field) {
+            return !node.child(field.element).empty();
+        });
     return true;
 }
 

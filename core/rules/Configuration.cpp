@@ -24,8 +24,8 @@ File examined(const KnownFile& known, std::optional<QByteArray> bytes)
 void readOverride(const QByteArray& bytes, Configuration& configuration)
 {
     MasterDevicesInUse devices;
-    OverrideFile::readSlaves(bytes, configuration.slaveDevices, devices);
-    OverrideFile::readMasters(bytes, configuration.masterDevices);
+    OverrideFile::read(bytes, configuration.slaveDevices, devices);
+    OverrideFile::read(bytes, OverrideSlot::Masters, configuration.masterDevices);
 }
 
 // A record a file; false when the reader refuses what the check has let through.

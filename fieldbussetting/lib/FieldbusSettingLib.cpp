@@ -1,9 +1,11 @@
 #include "FieldbusSettingLib.h"
 
+#include "ControllerCopies.h"
 #include "DataAccess.h"
 #include "FileLocations.h"
 #include "HandleBusFiles.h"
 #include "Logging.h"
+#include "WholeFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,6 +39,7 @@ void FieldbusSettingLib::destroy()
 {
     delete s_instance;
     s_instance = nullptr;
+    ControllerCopies::instance().forgetReads();
 }
 
 // Touches no member after a wait: the object may be destroyed while events are processed.
@@ -55,7 +58,11 @@ bool FieldbusSettingLib::getFileFromCtrl(QString localPath, QString ctrlPath)
 
 bool FieldbusSettingLib::sendFileToCtrl(QString localPath, QString ctrlPath)
 {
-    if (DataAccess::SendFileFromTPU2Controller(localPath, ctrlPath, false))
+    const bool sent = DataAccess::SendFileFromTPU2Controller(localPath, ctrlPath, false);
+    QByteArray content;
+    const bool isKnown = sent && WholeFile::read(localPath, content);
+    ControllerCopies::instance().noteSent(ctrlPath, isKnown ? &content : nullptr);
+    if (sent)
         return true;
     qCDebug(fieldbusLog) << "Could not send" << localPath << "to" << ctrlPath;
     return false;
@@ -91,6 +98,9 @@ bool FieldbusSettingLib::checkFilePath(QString filePath)
 
 bool FieldbusSettingLib::deleteDir(const QString& dirPath, const QString& keepName)
 {
+    // What a link points to lies outside of what is to be deleted, here as further down.
+    if (QFileInfo(dirPath).isSymLink())
+        return false;
     QDir directory(dirPath);
     if (!directory.exists())
         return true;
@@ -174,6 +184,11 @@ bool FieldbusSettingLib::writeEtherCatFile(QString path)
 bool FieldbusSettingLib::writeOverrideFile(const QString& path, const QString& key)
 {
     return HandleBusFiles::getInstance()->writeOverrideFile(path, key);
+}
+
+WriteProblem FieldbusSettingLib::writeProblem() const
+{
+    return HandleBusFiles::getInstance()->problem();
 }
 
 bool FieldbusSettingLib::readHeartbeatDetectionFile(QString path)

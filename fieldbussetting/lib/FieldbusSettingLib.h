@@ -12,6 +12,7 @@
 #include "MtcpMasterFile.h"
 #include "OverrideFile.h"
 #include "PfbSlaveFile.h"
+#include "WriteProblem.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -80,6 +81,12 @@ public:
     bool writeEtherCatFile(QString path);
     /// Takes the device that the keyword `key` names ("EIM_DEVICE" or "PNM_DEVICE") out of use.
     bool writeOverrideFile(const QString& path, const QString& key);
+
+    /// What stopped the last writer of override.cfg or of a driver file of the slaves; None after a success.
+    /// A ChangedOnController comes of override.cfg alone: nothing was written, and the page loads its file
+    /// again and says "override.cfg was changed on the controller since it was read. It has been loaded
+    /// again."
+    WriteProblem writeProblem() const;
 
     bool readHeartbeatDetectionFile(QString path);
     bool writeHeartbeatDetectionFile(QString path);

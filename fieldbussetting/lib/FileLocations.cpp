@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 
 namespace FileLocations {
@@ -62,6 +63,12 @@ std::array<FileLocation, ConfigCount> configLocations()
     return locations;
 }
 
+const std::array<FileLocation, ConfigCount>& locations()
+{
+    static const std::array<FileLocation, ConfigCount> all = configLocations();
+    return all;
+}
+
 std::vector<TransferFile> transferFiles()
 {
     std::vector<TransferFile> files;
@@ -104,8 +111,16 @@ QString stagingFolder(const QString& folder)
 
 const FileLocation& of(ConfigFile file)
 {
-    static const std::array<FileLocation, ConfigCount> locations = configLocations();
-    return locations[static_cast<std::size_t>(file)];
+    return locations()[static_cast<std::size_t>(file)];
+}
+
+QString controllerPathOf(const QString& localPath)
+{
+    const auto& all = locations();
+    const auto found = std::find_if(all.begin(), all.end(), [&localPath](const FileLocation& location) {
+        return location.local == localPath;
+    });
+    return found == all.end() ? QString() : found->controller;
 }
 
 const std::vector<TransferFile>& transferSet()

@@ -46,6 +46,8 @@ struct TransferFile
 namespace FileLocations {
 
 const FileLocation& of(ConfigFile file);
+/// Path on the controller of the file whose working copy is `localPath`; empty when it is nobody's.
+QString controllerPathOf(const QString& localPath);
 
 /// Local working directory, localised.
 const QString& workingDirectory();

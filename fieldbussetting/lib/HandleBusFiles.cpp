@@ -1,6 +1,7 @@
 #include "HandleBusFiles.h"
 
 #include "BusSwitchFile.h"
+#include "ControllerCopies.h"
 #include "ControllerTemplate.h"
 #include "DeviceNetMasterFile.h"
 #include "DeviceNetSlaveFile.h"
@@ -24,11 +25,39 @@
 
 namespace {
 
-template <typename Record>
-bool readInto(Record& record, const QString& path, bool (*read)(const QByteArray&, Record&))
+// A copy that was read is noted; without one there is nothing to read.
+template <typename Read>
+bool readCopy(const QString& path, Read read)
 {
     QByteArray content;
-    return WholeFile::read(path, content) && read(content, record);
+    bool recognised = false;
+    if (!WholeFile::read(path, content) || !read(content, recognised))
+        return false;
+    ControllerCopies::instance().noteRead(path, content, recognised);
+    return true;
+}
+
+template <typename Record>
+bool readInto(Record& record, const QString& path, bool (*read)(const QByteArray&, Record&, bool*))
+{
+    return readCopy(path, [&record, read](const QByteArray& content, bool& recognised) {
+        return read(content, record, &recognised);
+    });
+}
+
+template <typename Record>
+bool recognisedBy(const QByteArray& content, bool (*read)(const QByteArray&, Record&, bool*))
+{
+    Record scratch;
+    bool recognised = false;
+    return read(content, scratch, &recognised) && recognised;
+}
+
+// Whether a template holds anything of the record that is written into it.
+template <auto Read>
+bool isRecognised(const QByteArray& content)
+{
+    return recognisedBy(content, Read);
 }
 
 // The folder is made one level deep when it is missing.
@@ -42,26 +71,55 @@ bool saveXml(const QString& path, const QByteArray& content)
     return false;
 }
 
+} // namespace
+
 // The frame of every writer of a text file: the controller's present file, edited, into `path`. What
 // `rewrite` holds is its own: the fetch processes events, and the record may change or go meanwhile.
-template <typename Rewrite>
-bool edit(const QString& path, const char* temporaryName, const QString& ctrlPath, Rewrite rewrite)
+bool HandleBusFiles::edit(const QString& path, const Template& source, const Rewrite& rewrite,
+                          const Fits& fits)
 {
-    const QString temporary = FileLocations::workingDirectory() + QLatin1String(temporaryName);
+    m_problem = WriteProblem::NotWritten;
     QByteArray content;
-    return fetchTemplate(temporary, ctrlPath, content) && WholeFile::replace(path, rewrite(content));
+    if (!fetchTemplate(FileLocations::workingDirectory() + QLatin1String(source.temporary), source.controller,
+                       source.isRecognised, content))
+        return false;
+    if (fits && !fits(content)) {
+        m_problem = WriteProblem::ChangedOnController;
+        return false;
+    }
+    if (!WholeFile::replace(path, rewrite(content)))
+        return false;
+    m_problem = WriteProblem::None;
+    return true;
 }
 
-template <typename Rewrite>
-bool editOverride(const QString& path, Rewrite rewrite)
+bool HandleBusFiles::editOverride(const QString& path, const Rewrite& rewrite, const Fits& fits)
 {
-    constexpr const char* Temporary = "/override_temp.cfg";
-    // What an interrupted write has left behind is older than what the controller holds.
-    QFile::remove(FileLocations::workingDirectory() + QLatin1String(Temporary));
-    return edit(path, Temporary, FileLocations::of(ConfigFile::Override).controller, std::move(rewrite));
+    return edit(path,
+                {"/override_temp.cfg", FileLocations::of(ConfigFile::Override).controller,
+                 OverrideFile::isRecognised},
+                rewrite, fits);
 }
 
-} // namespace
+// Of a variant only the byte order is owned.
+bool HandleBusFiles::editVariant(const QString& path, const char* temporary, const QString& ctrlPath,
+                                 const QString& endian)
+{
+    return edit(path, {temporary, ctrlPath, nullptr}, [endian](const QByteArray& content) {
+        return SlaveTextFile::rewritten(content, endian, {});
+    });
+}
+
+// The record as it is now: it may be another one when the file has come.
+bool HandleBusFiles::editOverride(const QString& path, OverrideSlot slot, OverrideRecord& live)
+{
+    const OverrideRecord record = live;
+    OverrideFile::noteWritten(slot, live);
+    return editOverride(
+        path,
+        [slot, record](const QByteArray& content) { return OverrideFile::rewritten(content, slot, record); },
+        [slot, record](const QByteArray& content) { return OverrideFile::fits(content, slot, record); });
+}
 
 HandleBusFiles* HandleBusFiles::getInstance()
 {
@@ -71,8 +129,9 @@ HandleBusFiles* HandleBusFiles::getInstance()
 
 bool HandleBusFiles::readFieldbusCfg(const QString& path, BusSwitchSet& switches, bool isImport)
 {
-    QByteArray content;
-    return WholeFile::read(path, content) && BusSwitchFile::read(content, switches, isImport);
+    return readCopy(path, [&switches, isImport](const QByteArray& content, bool& recognised) {
+        return BusSwitchFile::read(content, switches, isImport, &recognised);
+    });
 }
 
 bool HandleBusFiles::writeFieldbusCfg(const QString& path)
@@ -88,36 +147,40 @@ bool HandleBusFiles::writeFieldbusCfg(const QString& path)
 
 bool HandleBusFiles::readMasterOverride(const QString& path, OverrideRecord& record)
 {
-    QByteArray content;
-    if (!WholeFile::read(path, content))
-        return false;
-    OverrideFile::readMasters(content, record);
-    return true;
+    return readCopy(path, [&record](const QByteArray& content, bool& recognised) {
+        OverrideFile::read(content, OverrideSlot::Masters, record);
+        recognised = OverrideFile::isRecognised(content);
+        return true;
+    });
 }
 
 bool HandleBusFiles::readEtherCatFile(const QString& path, OverrideRecord& record,
                                       MasterDevicesInUse& devices)
 {
-    QByteArray content;
-    if (!WholeFile::read(path, content))
+    const bool isRead = readCopy(path, [&record, &devices](const QByteArray& content, bool& recognised) {
+        OverrideFile::read(content, record, devices);
+        recognised = OverrideFile::isRecognised(content);
+        return true;
+    });
+    if (!isRead)
         return false;
-    OverrideFile::readSlaves(content, record, devices);
     const OverrideEntry* anybus = record.anybus();
     FieldbusSettingLib::getInstance()->set_ifidbus_ethcat_enable(anybus && anybus->off);
     return true;
 }
 
-bool HandleBusFiles::writeMasterOverride(const QString& path, const OverrideRecord& record, int mode)
+bool HandleBusFiles::writeMasterOverride(const QString& path, OverrideRecord& record, int mode)
 {
-    return editOverride(path, [record, mode](const QByteArray& content) {
-        return OverrideFile::mastersRewritten(content, record, static_cast<OverrideMode>(mode));
-    });
+    const bool on = mode == static_cast<int>(OverrideMode::SwitchOn);
+    if (!on && mode != static_cast<int>(OverrideMode::SwitchOff))
+        return editOverride(path, OverrideSlot::Masters, record);
+    return editOverride(path,
+                        [on](const QByteArray& content) { return OverrideFile::switched(content, on); });
 }
 
-bool HandleBusFiles::writeEtherCatFile(const QString& path, const OverrideRecord& record)
+bool HandleBusFiles::writeEtherCatFile(const QString& path, OverrideRecord& record)
 {
-    return editOverride(
-        path, [record](const QByteArray& content) { return OverrideFile::slavesRewritten(content, record); });
+    return editOverride(path, OverrideSlot::SlaveModule, record);
 }
 
 bool HandleBusFiles::writeOverrideFile(const QString& path, const QString& key)
@@ -130,10 +193,8 @@ bool HandleBusFiles::writeOverrideFile(const QString& path, const QString& key)
 bool HandleBusFiles::readHeartbeatDetectionFile(const QString& path, HeartbeatConfig& record)
 {
     // Forgets the former values also when there is no file.
-    QByteArray content;
-    if (!WholeFile::read(path, content))
-        content.clear();
-    return HeartbeatFile::read(content, record);
+    record = HeartbeatConfig();
+    return readInto(record, path, HeartbeatFile::read);
 }
 
 bool HandleBusFiles::writeHeartbeatDetectionFile(const QString& path, const HeartbeatConfig& record)
@@ -152,17 +213,16 @@ bool HandleBusFiles::readPfbCfgFile(const QString& path, PfbSlaveConfig& record)
 
 bool HandleBusFiles::writePfbCfgFile(const QString& path, const PfbSlaveConfig& record)
 {
-    return edit(path, "/pfb_temp.cfg", FileLocations::of(ConfigFile::PfbSlave).controller,
+    return edit(path,
+                {"/pfb_temp.cfg", FileLocations::of(ConfigFile::PfbSlave).controller,
+                 isRecognised<PfbSlaveFile::read>},
                 [record](const QByteArray& content) { return PfbSlaveFile::rewritten(content, record); });
 }
 
 bool HandleBusFiles::writePfbFreeFixFile(const QString& path, const QString& ctrlPath,
                                          const PfbSlaveConfig& record)
 {
-    return edit(path, "/pfb_freeOrFix.cfg", ctrlPath,
-                [endian = record.ProfibusEndian](const QByteArray& content) {
-                    return SlaveTextFile::rewritten(content, endian, {});
-                });
+    return editVariant(path, "/pfb_freeOrFix.cfg", ctrlPath, record.ProfibusEndian);
 }
 
 bool HandleBusFiles::readEtherNetFile(const QString& path, EipSlaveConfig& record)
@@ -172,17 +232,16 @@ bool HandleBusFiles::readEtherNetFile(const QString& path, EipSlaveConfig& recor
 
 bool HandleBusFiles::writeEtherNetFile(const QString& path, const EipSlaveConfig& record)
 {
-    return edit(path, "/dns_temp.cfg", FileLocations::of(ConfigFile::EipSlave).controller,
+    return edit(path,
+                {"/dns_temp.cfg", FileLocations::of(ConfigFile::EipSlave).controller,
+                 isRecognised<EipSlaveFile::read>},
                 [record](const QByteArray& content) { return EipSlaveFile::rewritten(content, record); });
 }
 
 bool HandleBusFiles::writeEtherNetDnsFile(const QString& path, const QString& ctrlPath,
                                           const EipSlaveConfig& record)
 {
-    return edit(path, "/dns_fixOrFreeTemp.cfg", ctrlPath,
-                [endian = record.EipEndian](const QByteArray& content) {
-                    return SlaveTextFile::rewritten(content, endian, {});
-                });
+    return editVariant(path, "/dns_fixOrFreeTemp.cfg", ctrlPath, record.EipEndian);
 }
 
 bool HandleBusFiles::readDeviceNetFile(const QString& path, DeviceNetSlaveConfig& record)
@@ -229,8 +288,9 @@ bool HandleBusFiles::writeMtcpFile(const QString& path, const MtcpMasterConfig& 
 
 bool HandleBusFiles::readMasterTable(const QString& path, const char* root, MasterSlaveTable& record)
 {
-    QByteArray content;
-    return WholeFile::read(path, content) && MasterTableFile::read(content, root, record);
+    return readCopy(path, [root, &record](const QByteArray& content, bool& recognised) {
+        return MasterTableFile::read(content, root, record, &recognised);
+    });
 }
 
 bool HandleBusFiles::writeMasterTable(const QString& path, const char* root, const MasterSlaveTable& record)

@@ -1,8 +1,14 @@
 #ifndef HANDLEBUSFILES_H
 #define HANDLEBUSFILES_H
 
+#include "WriteProblem.h"
+
+#include <QByteArray>
 #include <QString>
 
+#include <functional>
+
+enum class OverrideSlot;
 struct BusSwitchSet;
 struct DeviceNetMasterConfig;
 struct DeviceNetSlaveConfig;
@@ -16,7 +22,7 @@ struct MtcpMasterConfig;
 struct OverrideRecord;
 struct PfbSlaveConfig;
 
-/// Carries out the file operations of FieldbusSettingLib and keeps nothing of them: local copies and the
+/// Carries out the file operations of FieldbusSettingLib: local copies and the
 /// controller's templates on one side, the formats of core/formats on the other.
 ///
 /// A reader takes any bytes: it returns false (file cannot be opened or is no such file) or true with every
@@ -31,10 +37,10 @@ public:
 
     /// One reader and writer for the three master families; `mode` as in OverrideMode.
     bool readMasterOverride(const QString& path, OverrideRecord& record);
-    bool writeMasterOverride(const QString& path, const OverrideRecord& record, int mode);
+    bool writeMasterOverride(const QString& path, OverrideRecord& record, int mode);
     /// Also sets the EtherCAT slave enable variable from the entry of the Anybus module.
     bool readEtherCatFile(const QString& path, OverrideRecord& record, MasterDevicesInUse& devices);
-    bool writeEtherCatFile(const QString& path, const OverrideRecord& record);
+    bool writeEtherCatFile(const QString& path, OverrideRecord& record);
     bool writeOverrideFile(const QString& path, const QString& key);
 
     bool readHeartbeatDetectionFile(const QString& path, HeartbeatConfig& record);
@@ -65,8 +71,30 @@ public:
     bool readFinsTcpFile(const QString& path, FinsClientConfig& record);
     bool writeFinsTcpFile(const QString& path, const FinsClientConfig& record);
 
+    /// What stopped the last writer that edits the controller's file; None after a success.
+    WriteProblem problem() const { return m_problem; }
+
 private:
+    /// The controller's present file, which a writer edits.
+    struct Template
+    {
+        const char* temporary; ///< its copy, below the working directory
+        QString controller;
+        bool (*isRecognised)(const QByteArray&); ///< null: any text will do
+    };
+    using Rewrite = std::function<QByteArray(const QByteArray&)>;
+    using Fits = std::function<bool(const QByteArray&)>;
+
     HandleBusFiles() = default;
+
+    bool edit(const QString& path, const Template& source, const Rewrite& rewrite,
+              const Fits& fits = nullptr);
+    bool editVariant(const QString& path, const char* temporary, const QString& ctrlPath,
+                     const QString& endian);
+    bool editOverride(const QString& path, const Rewrite& rewrite, const Fits& fits = nullptr);
+    bool editOverride(const QString& path, OverrideSlot slot, OverrideRecord& live);
+
+    WriteProblem m_problem = WriteProblem::None;
 };
 
 #endif

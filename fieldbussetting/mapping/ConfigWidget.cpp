@@ -113,8 +113,43 @@ void ConfigWidget::slotGetFileToUi()
                  service()->isOpenFreeBus() ? MappingConfig::Free : MappingConfig::Fixed);
     m_busNames = switchedOnBuses();
     m_loaded = true;
+    m_outdated = false;
     enableTabs();
     showAll();
+}
+
+void ConfigWidget::takeReading(bool success)
+{
+    if (!m_reading) {
+        m_outdated = m_outdated || (success && (m_editing || m_save.isUnderWay()));
+        if (success && m_loaded && !m_outdated)
+            slotGetFileToUi();
+        return;
+    }
+    m_reading = false;
+    if (!success) {
+        tell(MsgBox::Warning, translated(QT_TRANSLATE_NOOP("PageBase", "Failed to get file.")));
+        return;
+    }
+    slotGetFileToUi();
+    tell(MsgBox::Information,
+         translated(QT_TRANSLATE_NOOP("PageBase", "Loaded now. Look at the settings, then save.")));
+}
+
+void ConfigWidget::catchUp()
+{
+    if (!m_outdated)
+        return;
+    const Answer answer =
+        m_editing ? ask(tr("Changed on the controller since it was read.\nReload?"), MsgBox::YesNo)
+                  : Answer::Confirmed;
+    if (answer == Answer::Gone)
+        return;
+    m_outdated = false;
+    if (answer != Answer::Confirmed)
+        return;
+    setEditing(false);
+    slotGetFileToUi();
 }
 
 // Another page may have switched the mode or a bus meanwhile. What was loaded before would be saved to a mode
@@ -124,6 +159,8 @@ void ConfigWidget::showEvent(QShowEvent* event)
     PageBase::showEvent(event);
     if (!m_loaded || m_save.isUnderWay())
         return;
+    if (m_outdated)
+        scheduleOnce(0, &ConfigWidget::catchUp);
     if (m_model.isFree() != service()->isOpenFreeBus()) {
         setEditing(false);
         slotGetFileToUi();
@@ -219,7 +256,17 @@ void ConfigWidget::refuse(const Message& message)
 void ConfigWidget::on_bt_EditOrSave_clicked()
 {
     if (!m_editing) {
-        setEditing(true);
+        // What the service has never read is nobody's configuration.
+        if (service()->isFuncInfoNotified(QStringLiteral("fieldbusCfg"))) {
+            setEditing(true);
+        } else {
+            m_reading = true;
+            service()->emitGetFieldbusCfg(); // the notification goes on
+        }
+        return;
+    }
+    if (m_outdated) {
+        catchUp();
         return;
     }
     if (const Refusal refusal = m_model.saveRefusal(switchedOnBuses())) {
@@ -251,9 +298,12 @@ void ConfigWidget::forbidEditing()
 
 void ConfigWidget::busNotification(int kind, const QString& path, bool success)
 {
+    constexpr int Read = 0;
     constexpr int Sent = 1;
     if (kind == Sent)
         m_save.sent(path, success);
+    else if (kind == Read && path == QLatin1String(FileLocations::FieldbusConfigXml))
+        takeReading(success);
 }
 
 void ConfigWidget::refreshStatus()

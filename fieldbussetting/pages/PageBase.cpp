@@ -76,12 +76,13 @@ QString PageBase::translated(const char* text) const
 
 // The box is the page's child, so that it goes when the page does; it may be gone before `exec` returns.
 // While the page is made nobody owns it, and the box is its maker's.
-PageBase::Answer PageBase::runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons)
+PageBase::Answer PageBase::runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons, bool grave)
 {
     const Presence self(this);
     if (!self)
         return Answer::Gone;
     const QPointer<MsgBox> box(new MsgBox(kind, text, parentWidget() ? this : m_maker.data(), buttons));
+    box->setProperty("grave", grave);
     const int result = box->exec();
     delete box.data();
     return self ? static_cast<Answer>(result) : Answer::Gone;
@@ -156,8 +157,10 @@ bool PageBase::checkServoOff()
 
 PageBase::Answer PageBase::askRestart()
 {
-    return ask(translated(QT_TRANSLATE_NOOP(
-        "PageBase", "Save successfully, Are you sure to restart robot to make it effect?")));
+    return runBox(MsgBox::Information,
+                  translated(QT_TRANSLATE_NOOP(
+                      "PageBase", "Save successfully, Are you sure to restart robot to make it effect?")),
+                  MsgBox::OkCancel, true);
 }
 
 PageBase::Answer PageBase::tellRestarted(bool stopped)

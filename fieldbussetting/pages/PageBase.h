@@ -133,7 +133,8 @@ private:
     class Presence;
 
     Outcome failed(const TransferTexts& texts, const char* text, const QString& file);
-    Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons);
+    /// A `grave` question's "yes" is kept from under a hand that only goes on pressing, where the host can.
+    Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons, bool grave = false);
 
     const char* m_className;
     QPointer<QWidget> m_maker;

@@ -36,7 +36,7 @@ bool Restart::controllerStopped()
 {
     std::optional<double> last; // none to compare the first reading with
     const auto standsStill = [&last] {
-        const double now = ControllerVariables::ifidbus_current_time.getValue();
+        const double now = ControllerVariables::ifidbus_current_time;
         return std::exchange(last, now) == now;
     };
     return Poll::wait(ClockReadings, nullptr, SysSettingApi::delay_MSec, standsStill) == Poll::Answer::Yes;

@@ -156,7 +156,7 @@ void ProfiSAFESlaveWidget::on_btn_errorConfir_clicked()
 void ProfiSAFESlaveWidget::give(Command& command)
 {
     const bool given = command.button->isChecked();
-    io_man_profisafe_local_wo[CommandElement] = given ? command.value : NoCommand;
+    io_man_profisafe_local_wo[CommandElement].setValue(given ? command.value : NoCommand);
     command.pending = command.pending || given;
 }
 

@@ -27,6 +27,9 @@ BusSettingWidget::BusSettingWidget()
 {
     ui->setupUi(this);
     m_board.layOut(ui->switchLayout);
+    for (int i = 0; i < Count; ++i)
+        connect(m_board.combo(static_cast<Switch>(i)), QOverload<int>::of(&QComboBox::currentIndexChanged),
+                this, &BusSettingWidget::showDifferences);
     applyStyle();
 
     setIsFieldXml(true);
@@ -42,8 +45,7 @@ BusSettingWidget::~BusSettingWidget()
 
 void BusSettingWidget::slotGetFileToUi()
 {
-    Busy busy(this);
-    if (reload() == Outcome::Gone)
+    if (reloadBlocked() == Outcome::Gone)
         return;
     m_moduleCheck.start([] { return lib()->get_ifidbus_anybus_fm() != 0; },
                         [this](Poll::Answer) { checkAnybus(m_board.combo(EtherCatSlave)->currentIndex()); });
@@ -58,7 +60,14 @@ Outcome BusSettingWidget::reload()
         return read;
     m_overrideRead = read == Outcome::Done;
     m_board.showRunning(m_overrideRead);
+    showDifferences();
     return read;
+}
+
+void BusSettingWidget::showDifferences()
+{
+    const int differences = m_board.markDifferences();
+    ui->saveBusBt->setText(differences == 0 ? tr("Save") : tr("Save (%1)").arg(differences));
 }
 
 void BusSettingWidget::slotCheckFBSEcat()
@@ -163,8 +172,21 @@ void BusSettingWidget::showWarnings()
 
 void BusSettingWidget::on_saveBusBt_clicked()
 {
-    if (m_transfer.isSaveAllowed() && checkServoOff())
+    if (!m_transfer.isSaveAllowed() || !checkServoOff())
+        return;
+    // What was not known yet is looked at before it is saved; what cannot be known keeps its role.
+    const Outcome read = m_overrideRead ? Outcome::Failed : reloadBlocked();
+    if (read == Outcome::Done)
+        tell(MsgBox::Information,
+             translated(QT_TRANSLATE_NOOP("PageBase", "Loaded now. Look at the settings, then save.")));
+    else if (read == Outcome::Failed)
         m_save.begin();
+}
+
+Outcome BusSettingWidget::reloadBlocked()
+{
+    const Busy busy(this);
+    return reload();
 }
 
 void BusSettingWidget::slotSaveAndReboot()
@@ -216,6 +238,7 @@ void BusSettingWidget::refreshStatus()
     if (canHaveProfinetSlave() && !m_pfnSlaveManaged) {
         m_pfnSlaveManaged = true;
         m_board.showProfinetSlave();
+        showDifferences();
         lib()->set_ifidbus_pfn_state(m_board.runs(PfnSlave));
     }
     if (m_save.isWaiting())

@@ -68,6 +68,9 @@ private:
     RoleConditions roleConditions() const override;
     void holdSave() override;
 
+    Outcome reloadBlocked();
+    /// Which switches differ from what runs, and how many.
+    void showDifferences();
     void openDeviceNet(Switch which, Switch other, int index, const char* warning);
     void checkAnybus(int index);
     void checkFreeConfiguration(Switch which);

@@ -49,7 +49,7 @@ struct Command
     const char* name; ///< in the message about a command that was not taken
 
     /// Whether the controller has still to take it: it clears what it has taken.
-    bool isPending() const { return open.getValue() || close.getValue(); }
+    bool isPending() const { return open || close; }
 };
 constexpr std::size_t CommandCount = 4;
 /// In the order in which they are given.

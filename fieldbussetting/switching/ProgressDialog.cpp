@@ -23,6 +23,12 @@ ProgressDialog& ProgressDialog::of(QWidget& page)
     return dialog ? *dialog : *new ProgressDialog(&page);
 }
 
+void ProgressDialog::hideOn(QWidget& page)
+{
+    if (auto* dialog = page.findChild<ProgressDialog*>(QString(), Qt::FindDirectChildrenOnly))
+        dialog->hide();
+}
+
 void ProgressDialog::setText(const QString& text)
 {
     ui->label->setText(text);

@@ -21,6 +21,9 @@ public:
 
     /// The one of `page`, its child, made on first use.
     static ProgressDialog& of(QWidget& page);
+    /// Hides the one of `page`, if there is one: what an export that failed has left says how far it came
+    /// until the next dialog.
+    static void hideOn(QWidget& page);
 
     void setText(const QString& text);
     void setRange(int minimum, int maximum);

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -34,13 +35,14 @@ SwitchBoard::SwitchBoard(QWidget* page)
     combo(PfnSlave)->setEnabled(false);
 }
 
-void SwitchBoard::layOut(QGridLayout* layout) const
+void SwitchBoard::layOut(QGridLayout* layout)
 {
     // The first one stands alone, so that slave and master of a bus stand side by side.
     int cell = 0;
     for (int i = 0; i < Count; ++i) {
         auto* label = new QLabel(tr(rows()[i].label), layout->parentWidget());
         label->setWordWrap(true);
+        m_labels[i] = label;
         const int column = cell % SwitchColumns * (SwitchColumns + 1);
         layout->addWidget(label, cell / SwitchColumns, column);
         layout->addWidget(m_combos[i], cell / SwitchColumns, column + 1);
@@ -100,6 +102,25 @@ void SwitchBoard::showProfinetSlave()
     const QSignalBlocker blocker(combo(PfnSlave));
     if (runs(PfnSlave))
         combo(PfnSlave)->setCurrentIndex(On);
+}
+
+// A label is touched only when it changes: that lays out and paints.
+int SwitchBoard::markDifferences() const
+{
+    int differences = 0;
+    for (int i = 0; i < Count; ++i) {
+        const bool isMarked = differs(static_cast<Switch>(i));
+        differences += isMarked ? 1 : 0;
+        QLabel* label = m_labels[i];
+        if (label->property("differs").toBool() == isMarked)
+            continue;
+        const QString text = tr(rows()[i].label);
+        label->setProperty("differs", isMarked);
+        label->setText(isMarked ? tr("%1 \u25CF").arg(text) : text);
+        label->style()->unpolish(label);
+        label->style()->polish(label);
+    }
+    return differences;
 }
 
 void SwitchBoard::toggleChanged(Switch which)

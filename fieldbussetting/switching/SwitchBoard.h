@@ -9,6 +9,7 @@
 
 class QComboBox;
 class QGridLayout;
+class QLabel;
 class QWidget;
 
 /// The switches of a page: what each shows, what the controller runs, and which roles with a command were
@@ -24,11 +25,11 @@ public:
     /// by name. What runs is what the bus file data service knows now, for as long as the page lives.
     explicit SwitchBoard(QWidget* page);
     /// Puts them, with their labels, into the form's layout.
-    void layOut(QGridLayout* layout) const;
+    void layOut(QGridLayout* layout);
 
     QComboBox* combo(Switch which) const { return m_combos[which]; }
-    /// Whether the role is wanted. A switch that cannot be used, because too little is known, keeps its role as
-    /// it is, whatever it shows.
+    /// Whether the role is wanted. A switch that cannot be used, because too little is known, keeps its role
+    /// as it is, whatever it shows.
     bool isOn(Switch which) const;
     bool runs(Switch which) const { return m_running[which]; }
     bool differs(Switch which) const { return isOn(which) != runs(which); }
@@ -43,6 +44,9 @@ public:
     /// Sets the PROFINET slave's switch to what runs, once it is known that the controller can have it.
     void showProfinetSlave();
 
+    /// Marks the switches that differ from what runs; returns how many do.
+    int markDifferences() const;
+
     /// A switch that may be used was turned: its role's command is wanted, or no longer.
     void toggleChanged(Switch which);
     bool isCommandWanted(Switch which) const;
@@ -52,6 +56,7 @@ private:
     void setToRunning(Switch which) const;
 
     std::array<QComboBox*, BusSwitches::Count> m_combos{};
+    std::array<QLabel*, BusSwitches::Count> m_labels{};
     std::array<bool, BusSwitches::Count> m_running{};
     std::array<bool, BusSwitches::Count> m_changed{}; ///< toggled with the switch
     bool m_profisafePresent = false;

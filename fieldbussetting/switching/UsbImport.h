@@ -33,8 +33,13 @@ private:
     /// Up to the preview: nothing is sent yet. False: it ended, with its message.
     bool prepare(const QString& drive, const ExportFolder& folder, ImportTransfer& transfer,
                  std::vector<ImportEntry>& entries, ImportedRoles& roles);
-    TransferResult send(ImportTransfer& transfer, int steps);
-    /// To be called when the controller's files have changed below what the pages show.
+    bool isConfirmed(const ExportFolder& folder, const std::vector<ImportEntry>& entries,
+                     const ImportedRoles& roles);
+    TransferResult send(ImportTransfer& transfer, int files);
+    /// To be called when the controller's files have changed below what the pages show. False when the page
+    /// is gone.
+    bool holdFiles();
+    /// ... and offers the restart.
     void takeFilesOver();
     void tellFailure(const TransferResult& result, ImportTransfer& transfer);
     /// For as long as something is to be put back and the operator wants to try.

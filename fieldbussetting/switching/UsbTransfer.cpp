@@ -2,12 +2,13 @@
 
 #include "ConfigExport.h"
 #include "ImportFolderDialog.h"
-#include "ImportTransfer.h"
 #include "PageBase.h"
+#include "ProgressDialog.h"
 #include "ServiceFiles.h"
 #include "TransferHost.h"
 #include "TransferProgress.h"
 #include "TransferUnderWay.h"
+#include "UnfinishedImport.h"
 #include "UsbImport.h"
 #include "ZelFunctions.h"
 
@@ -22,8 +23,12 @@ void UsbTransfer::runOnce(void (UsbTransfer::*transfer)())
 {
     if (isHeldUp())
         return;
+    ProgressDialog::hideOn(m_page);
     const TransferUnderWay underWay(&m_page);
-    (this->*transfer)();
+    if (underWay.isAlone())
+        (this->*transfer)();
+    else
+        m_page.tell(MsgBox::Warning, tr("Another pendant is importing or exporting in the same directory."));
 }
 
 bool UsbTransfer::isHeldUp()
@@ -39,12 +44,12 @@ bool UsbTransfer::isSaveAllowed()
 {
     if (isHeldUp())
         return false;
+    ProgressDialog::hideOn(m_page);
     // Only a question: where the former files cannot be put back, the operator must not be locked out.
-    if (!ImportTransfer::unfinished().empty() &&
-        m_page.ask(tr("An earlier import was neither finished nor undone.\n"
-                      "With Import the former files can be put back.\n"
-                      "Save the bus switches all the same?"),
-                   MsgBox::YesNo) != PageBase::Answer::Confirmed)
+    if (UnfinishedImport::exists() && m_page.ask(tr("An earlier import was neither finished nor undone.\n"
+                                                    "With Import the former files can be put back.\n"
+                                                    "Save the bus switches all the same?"),
+                                                 MsgBox::YesNo) != PageBase::Answer::Confirmed)
         return false;
     if (m_shownVersion != ServiceFiles::version()) {
         m_page.tell(MsgBox::Warning,

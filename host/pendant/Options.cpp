@@ -68,6 +68,7 @@ std::vector<Row> rows(const QStringList& faultNames)
         {"scale", Options::tr("How large the pendant is drawn, 1 to 4 (default: 1)."), "X"},
         {"size", Options::tr("Size of the screen that the pendant fills, for example 800x600."), "WxH"},
         {"verbose", Options::tr("Write debug lines, with times."), nullptr},
+        {"version", Options::tr("Tell the version."), nullptr},
         {"help", Options::tr("Tell all options."), nullptr},
     };
 }
@@ -134,7 +135,8 @@ void Options::take(const QCommandLineParser& parser)
     {
         const char* name;
         bool& on;
-    } switches[] = {{"help", help}, {"tour", tour}, {"panel", panel}, {"verbose", verbose}};
+    } switches[] = {
+        {"help", help}, {"version", version}, {"tour", tour}, {"panel", panel}, {"verbose", verbose}};
     for (const auto& row : switches)
         row.on = parser.isSet(QLatin1String(row.name));
     faults = parser.values(QStringLiteral("fault"));
@@ -151,6 +153,11 @@ void Options::take(const QCommandLineParser& parser)
         if (!found.isEmpty())
             problem = found;
     }
+}
+
+QString Options::versionText()
+{
+    return QStringLiteral("fieldbus-pendant " FIELDBUS_VERSION);
 }
 
 double Options::drawingScale() const

@@ -32,6 +32,7 @@ public:
     bool verbose = false;
 
     bool help = false;
+    bool version = false;
     QString helpText;
     QString problem; ///< empty when the command line makes sense
 
@@ -40,6 +41,8 @@ public:
     /// How large the pendant has to be drawn; 1 when nothing is said of it. It has to be known before there
     /// is an application object.
     double drawingScale() const;
+    /// Name and version of the program.
+    static QString versionText();
 
 private:
     void take(const QCommandLineParser& parser);

@@ -39,7 +39,7 @@ QString Screen::prepare(const Options& options) const
     if (!qEnvironmentVariableIsEmpty(Platform) || m_arguments.contains(QLatin1String("-platform")) ||
         m_arguments.contains(QLatin1String("--platform")))
         return {};
-    if (options.tour || options.help || !options.problem.isEmpty()) {
+    if (options.tour || options.help || options.version || !options.problem.isEmpty()) {
         qputenv(Platform, "offscreen");
         return {};
     }

@@ -189,6 +189,10 @@ int main(int argc, char* argv[])
     setUpLog(options.verbose);
     if (!options.problem.isEmpty())
         return refuse(options.problem);
+    if (options.version) {
+        QTextStream(stdout) << Options::versionText() << '\n';
+        return 0;
+    }
     if (options.help) {
         QTextStream(stdout) << options.helpText << '\n' << Options::tr("Faults:") << '\n' << Faults::table();
         return 0;

@@ -1,4 +1,5 @@
 #include "LibFixture.h"
+#include "Rows.h"
 
 namespace {
 
@@ -63,7 +64,8 @@ private slots:
     void isWritten_data();
     void isWritten();
     void familiesAreApart();
-    void editsTheControllersFile();
+    void isMatchedNotCounted_data();
+    void isMatchedNotCounted();
     void failures();
 };
 
@@ -250,8 +252,8 @@ void TestOverrideFile::isWritten_data()
 
     row("1: switched on", Mode1, "ECAT_SLAVE_OFF 2 7 ;a b\r\necat_slave_off  2 x\r\n",
         ";ECAT_SLAVE_OFF 2 7 ;a b\r\n;ecat_slave_off  2 x\r\n");
-    row("1: behind blanks", Mode1, "  ECAT_SLAVE_OFF 2 7\n", "  ;ECAT_SLAVE_OFF 2 7\n");
-    row("1: behind a tab", Mode1, "\tECAT_SLAVE_OFF 2 7\n", "\t;ECAT_SLAVE_OFF 2 7\n");
+    row("1: behind blanks", Mode1, "  ECAT_SLAVE_OFF 2 7\n", ";  ECAT_SLAVE_OFF 2 7\n");
+    row("1: behind a tab", Mode1, "\tECAT_SLAVE_OFF 2 7\n", ";\tECAT_SLAVE_OFF 2 7\n");
     same("1: on already, prose, tabs, the other slot", Mode1,
          ";ECAT_SLAVE_OFF 2 7\nsee ECAT_SLAVE_OFF 2 7\nECAT_SLAVE_OFF\t2\t7\nECAT_SLAVE_OFF 1 7\n");
     row("1: device 2 of the other slot", Mode1, "ECAT_SLAVE_OFF 1 2 \n", ";ECAT_SLAVE_OFF 1 2 \n");
@@ -317,28 +319,55 @@ void TestOverrideFile::isWritten()
 void TestOverrideFile::familiesAreApart()
 {
     FieldbusSettingLib& lib = LibFixture::lib();
-    int number = 0;
-    for (const Family& family : Masters) {
-        QVERIFY(LibFixture::put(Path, "ECAT_SLAVE_OFF 2 " + QByteArray::number(++number)));
+    const QByteArray content = "ECAT_SLAVE_OFF 2 7\n";
+    m_fixture->link.files[CtrlPath] = content;
+    QVERIFY(LibFixture::put(Path, content));
+    for (const Family& family : Masters)
         QVERIFY((lib.*family.read)(Path));
-    }
-    m_fixture->link.files[CtrlPath] = ";ECAT_SLAVE_OFF 2 99\n";
-    number = 0;
-    for (const Family& family : Masters) {
-        QVERIFY((lib.*family.write)(Path, 0));
-        QCOMPARE(LibFixture::get(Path), "ECAT_SLAVE_OFF 2 " + QByteArray::number(++number) + "\n");
+    for (const Family& changed : Masters) {
+        (lib.*changed.record).entries[0].off = true;
+        for (const Family& family : Masters) {
+            QVERIFY((lib.*family.write)(Path, 0));
+            QCOMPARE(LibFixture::get(Path), (family.record == changed.record ? ";" : "") + content);
+        }
+        (lib.*changed.record).entries[0].off = false;
     }
 }
 
-// The local copy may be old; whoever else owns lines of the file may have changed them since.
-void TestOverrideFile::editsTheControllersFile()
+void TestOverrideFile::isMatchedNotCounted_data()
 {
+    const Rows<QByteArray, bool> row;
+    row("as it was read", "A\nECAT_SLAVE_OFF 2 7 ;a\n;ECAT_SLAVE_OFF 2 8\nECAT_SLAVE_OFF 1 1\n", true);
+    row("as it was written", ";ECAT_SLAVE_OFF 2 7;A\nECAT_SLAVE_OFF 2 8\n", true);
+    row("lines of others changed",
+        "NEW\r\nECAT_SLAVE_OFF 2 7 ;a\n;ECAT_SLAVE_OFF 1 1\n;ECAT_SLAVE_OFF 2 8\nB\n", true);
+    row("a line before", "ECAT_SLAVE_OFF 2 6\nECAT_SLAVE_OFF 2 7 ;a\n;ECAT_SLAVE_OFF 2 8\n", false);
+    row("a line behind", "ECAT_SLAVE_OFF 2 7 ;a\n;ECAT_SLAVE_OFF 2 8\n;ECAT_SLAVE_OFF 2 9\n", false);
+    row("a line gone", "ECAT_SLAVE_OFF 2 7 ;a\n", false);
+    row("another order", ";ECAT_SLAVE_OFF 2 8\nECAT_SLAVE_OFF 2 7 ;a\n", false);
+    row("an activation", ";ECAT_SLAVE_OFF 2 7 ;a\n;ECAT_SLAVE_OFF 2 8\n", false);
+    row("a name", "ECAT_SLAVE_OFF 2 7 ;b\n;ECAT_SLAVE_OFF 2 8\n", false);
+}
+
+void TestOverrideFile::isMatchedNotCounted()
+{
+    const auto [now, fits] = Rows<QByteArray, bool>::current();
     FieldbusSettingLib& lib = LibFixture::lib();
-    QVERIFY(LibFixture::put(Path, "OLD\n;ECAT_SLAVE_OFF 2 7\n;ECAT_SLAVE_OFF 2 8\n"));
-    QVERIFY(lib.readEtherCatMFile(Path));
-    m_fixture->link.files[CtrlPath] = "NEW\nECAT_SLAVE_OFF 2 7\n";
-    QVERIFY(lib.writeEtherCatMFile(Path, 0));
-    QCOMPARE(LibFixture::get(Path), QByteArray("NEW\n;ECAT_SLAVE_OFF 2 7\n"));
+    const QByteArray before = "A\nECAT_SLAVE_OFF 2 7 ;a\n;ECAT_SLAVE_OFF 2 8\nECAT_SLAVE_OFF 1 1\n";
+    m_fixture->link.files[CtrlPath] = before;
+    QVERIFY(LibFixture::put(Path, before));
+    QVERIFY(lib.readEipMFile(Path));
+    for (OverrideEntry& entry : lib.eipMasterOverride.entries)
+        entry.off = !entry.off;
+    QVERIFY(lib.writeEipMFile(Path, 0));
+    const QByteArray written = LibFixture::get(Path);
+    QCOMPARE(written, QByteArray("A\n;ECAT_SLAVE_OFF 2 7;A\nECAT_SLAVE_OFF 2 8\nECAT_SLAVE_OFF 1 1\n"));
+
+    m_fixture->link.files[CtrlPath] = now;
+    QCOMPARE(lib.writeEipMFile(Path, 0), fits);
+    QCOMPARE(lib.writeProblem(), fits ? WriteProblem::None : WriteProblem::ChangedOnController);
+    if (!fits)
+        QCOMPARE(LibFixture::get(Path), written);
 }
 
 void TestOverrideFile::failures()

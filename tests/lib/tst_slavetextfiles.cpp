@@ -53,7 +53,6 @@ private slots:
     void linesAreRewritten_data();
     void linesAreRewritten();
     void valuesNeverMakeLines();
-    void anOlderCopyServesAsTemplateOnce();
     void aFailedWriteLeavesTheTarget_data();
     void aFailedWriteLeavesTheTarget();
 };
@@ -230,7 +229,6 @@ void TestSlaveTextFiles::linesAreRewritten_data()
                rawBytes("\xa0\xff\0\x85 \x1b\xe4\r x\t\xa0\n\xc3\xbc\n"));
         common("a long line", QByteArray(300000, 'x') + "\n" + QByteArray(300000, ' '),
                QByteArray(300000, 'x') + "\n\n");
-        common("empty", "", "");
     }
     row("pfb variant: other keywords are not its own", writePfbFree,
         "PROFIBUS_ADDRESS 5\nDISABLE_COM_ALARM\n", "PROFIBUS_ADDRESS 5\nDISABLE_COM_ALARM\n");
@@ -266,14 +264,6 @@ void TestSlaveTextFiles::valuesNeverMakeLines()
     m_fixture->link.files["/fa/dns-1.cfg"] = "IPADDR\nNETMASK\n";
     QVERIFY(lib.writeEtherNetFile(Target));
     QCOMPARE(LibFixture::get(Target), QByteArray("IPADDR 1 RUN_ALWAYS\nNETMASK \xfc? \n"));
-}
-
-void TestSlaveTextFiles::anOlderCopyServesAsTemplateOnce()
-{
-    QVERIFY(LibFixture::put(LibFixture::local("dns_fixOrFreeTemp.cfg"), "RUN_ALWAYS\n"));
-    QVERIFY(writeEipFree(LibFixture::lib()));
-    QCOMPARE(LibFixture::get(Target), QByteArray("RUN_ALWAYS\nLITTLE_ENDIAN\n"));
-    QVERIFY(!writeEipFree(LibFixture::lib()));
 }
 
 void TestSlaveTextFiles::aFailedWriteLeavesTheTarget_data()

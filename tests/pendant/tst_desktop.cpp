@@ -442,6 +442,7 @@ private slots:
         row("--mtcp-port 65536", "1 to 65535");
         row("--mtcp-port 1502", "", [](const Options& o) { return o.mtcpPort == 1502; });
         row("--time-scale nan", "--time-scale");
+        row("--time-scale 0", "--time-scale");
         row("--time-scale 10", "", [](const Options& o) { return o.timeScale == 10.0; });
         row("--scale 0.75", "1 to 4");
         row("--scale 1.5", "", [](const Options& o) { return o.drawingScale() == 1.5 && o.size.isEmpty(); });
@@ -526,6 +527,7 @@ private slots:
         row("X11", "", QByteArray(":0"), QByteArray(), true);
         row("the tour needs none", "--tour", QByteArray(), QByteArray("offscreen"), true);
         row("neither does help", "--help", QByteArray(), QByteArray("offscreen"), true);
+        row("nor the version", "--version", QByteArray(), QByteArray("offscreen"), true);
         row("Qt was told", "-platform minimal", QByteArray(), QByteArray(), true);
     }
 

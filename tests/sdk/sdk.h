@@ -100,13 +100,21 @@ using zelCustomRvarInt = zelCustomRvarOf<int>;
 using zelCustomRvarReal = zelCustomRvarOf<double>;
 
 template <typename Value>
+class zelCustomRvarElement
+{
+public:
+    Value getValue() const;
+    void setValue(Value value);
+};
+
+template <typename Value>
 class zelCustomRvarVectOf
 {
 public:
     zelCustomRvarVectOf(const char* name, int count, int mode);
     ~zelCustomRvarVectOf();
     bool setUsed(bool used);
-    zelCustomRvarOf<Value>& operator[](int index) const;
+    zelCustomRvarElement<Value>& operator[](int index) const;
 };
 using zelCustomRvarIntVect = zelCustomRvarVectOf<int>;
 using zelCustomRvarBoolVect = zelCustomRvarVectOf<bool>;

@@ -22,6 +22,8 @@ public:
     QSet<QString> subscribed; ///< "name[element]"
     QSet<QString> refused;    ///< "name[element]" that cannot be subscribed
     QStringList stored;       ///< paths in the order they were stored
+    QList<QByteArray> next;   ///< what the next fetches bring, whatever the file holds
+    int fetches = 0;
     bool transfersFail = false;
     bool running = false;
     bool servo = false;
@@ -51,7 +53,8 @@ public:
     {
         if (transfersFail || !files.contains(ctrlPath.toLower()))
             return false;
-        content = files.value(ctrlPath.toLower());
+        content = next.isEmpty() ? files.value(ctrlPath.toLower()) : next.takeFirst();
+        ++fetches;
         return true;
     }
     bool storeFile(const QString& ctrlPath, const QByteArray& content) override

@@ -81,6 +81,16 @@ public:
     }
     QString runExport() { return run(QStringLiteral("btn_export")); }
     QString runImport() { return run(QStringLiteral("btn_import")); }
+    /// Texts of the boxes from number `from` on, without the question about a folder that is no whole export.
+    static QStringList told(int from = 0)
+    {
+        QStringList texts;
+        for (const QString& text : messages().mid(from)) {
+            if (!text.contains(QLatin1String(" is not a whole export:\n")))
+                texts << text;
+        }
+        return texts;
+    }
 
     /// The export folders on the drive, the oldest first.
     QStringList folders() const

@@ -63,6 +63,9 @@ private slots:
     void driveGoes();
     void driveTakesNoMore_data();
     void driveTakesNoMore();
+    void writesIntoNothingThatIsThere();
+    void wrongTransfers_data();
+    void wrongTransfers();
     void controllerDoesNotAnswer();
     void anyFileCannotBeFetched();
     void cannotBeInterrupted();
@@ -95,7 +98,7 @@ void TestUsbExport::copiesTheSet()
     QStringList expected = exportedFiles();
     QStringList order;
     for (const QString& name : exportedFiles()) {
-        order << controllerPath(name);
+        order << controllerPath(name) << controllerPath(name); // and compared
         QCOMPARE(contentOf(pendant.usbDirectory() + '/' + folder + '/' + name),
                  pendant.controllerFile(controllerPath(name)));
     }
@@ -109,9 +112,10 @@ void TestUsbExport::copiesTheSet()
     QCOMPARE(made.size(), 14);
     QVERIFY(made.at(7).contains("/SlaveConfig)") && made.at(8).contains("/SlaveConfig/EtherCAT)"));
 
-    // A second one makes a folder of its own, or overwrites the files of the same second.
+    // A second one makes a folder of its own, also in the same second.
     QVERIFY(pendant.vary("/fa/pfb.cfg", "changed"));
     QCOMPARE(pendant.runExport(), Success);
+    QCOMPARE(pendant.folders().size(), 2);
     QCOMPARE(contentOf(pendant.usbDirectory() + '/' + pendant.folders().constLast() + "/fa/pfb.cfg"),
              pendant.controllerFile("/fa/pfb.cfg"));
 }
@@ -241,6 +245,61 @@ void TestUsbExport::driveTakesNoMore()
     QCOMPARE(filesBelow(pendant.usbDirectory()).size(), qMax(copies, 0));
 }
 
+// Prepared on the drive, a folder or a link of the name that an export is about to use.
+void TestUsbExport::writesIntoNothingThatIsThere()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    QTemporaryDir elsewhere;
+    const QDateTime now = QDateTime::currentDateTime();
+    for (int second = 0; second < 3; ++second) {
+        const QString path =
+            pendant.usbDirectory() + now.addSecs(second).toString("'/fidbus_'yyyyMMdd_hhmmss");
+        QVERIFY(second == 1 ? QDir().mkpath(path) : QFile::link(elsewhere.path(), path));
+    }
+    QCOMPARE(pendant.runExport(), Success);
+    QVERIFY(QDir(elsewhere.path()).isEmpty());
+    QCOMPARE(filesBelow(pendant.usbDirectory() + '/' + pendant.folders().constLast()).size(), 36);
+
+    // Neither is the pendant's own directory left by a link, which is not followed to be cleared either.
+    const QString staging = "../Application/fidbus/im-export";
+    QVERIFY(QDir(staging).removeRecursively() && QFile::link(elsewhere.path(), staging));
+    QFile file(elsewhere.filePath("precious"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(pendant.runExport(), Failure);
+    QCOMPARE(filesBelow(elsewhere.path()), QStringList("precious"));
+}
+
+void TestUsbExport::wrongTransfers_data()
+{
+    QTest::addColumn<int>("fault");
+    QTest::addColumn<int>("times");
+    QTest::addColumn<bool>("exported");
+    QTest::newRow("one cut short") << int(Faults::FetchCutShort) << 1 << true;
+    QTest::newRow("one empty") << int(Faults::FetchEmpty) << 1 << true;
+    QTest::newRow("all cut short") << int(Faults::FetchCutShort) << -1 << false;
+    QTest::newRow("too large to be imported") << int(Faults::FaultCount) << 0 << false;
+}
+
+void TestUsbExport::wrongTransfers()
+{
+    QFETCH(int, fault);
+    QFETCH(int, times);
+    QFETCH(bool, exported);
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    if (fault == Faults::FaultCount)
+        QVERIFY(pendant.put("/fa/pfb.cfg", QByteArray(4 * 1024 * 1024 + 1, 'x')));
+    else
+        pendant.controller().faults().set(static_cast<Faults::Fault>(fault), times);
+    QCOMPARE(pendant.runExport(), exported ? Success : Failure);
+    pendant.controller().faults().clearAll();
+    QCOMPARE(pendant.folders().size(), exported ? 1 : 0);
+    for (const QString& name : exported ? exportedFiles() : QStringList())
+        QCOMPARE(contentOf(pendant.usbDirectory() + '/' + pendant.folders().constLast() + '/' + name),
+                 pendant.controllerFile(controllerPath(name)));
+}
+
 // The dialog stays, but holds nothing up, and the next export takes it over.
 void TestUsbExport::controllerDoesNotAnswer()
 {
@@ -328,7 +387,7 @@ void TestUsbExport::cannotBeInterrupted()
         QCOMPARE(pendant.messages().size(), boxes + 1);
         QVERIFY(pendant.isOpen());
     }
-    QCOMPARE(pendant.controller().traffic().count(Traffic::Fetch), 72);
+    QCOMPARE(pendant.controller().traffic().count(Traffic::Fetch), 144);
 }
 
 void TestUsbExport::userLevelDrops_data()

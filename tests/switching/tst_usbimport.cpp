@@ -2,6 +2,7 @@
 
 #include "BusFileDataManager.h"
 
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -21,6 +22,13 @@ const QString Unfinished = QStringLiteral("An earlier import was neither finishe
                                           "Put the former files of the controller back now?\n"
                                           "A new import gives them up once it is sent.");
 const QString TryAgain = QStringLiteral("Try again to put the former files back?");
+const QString Mixture = QStringLiteral("The controller holds a mixture of former and imported files.\n"
+                                       "It should not be restarted before they are put back with Import.");
+
+QString savedSince(const QString& files)
+{
+    return "These files were saved since by somebody else and stay as they are:\n" + files;
+}
 
 bool write(const QString& path, const QByteArray& content)
 {
@@ -100,6 +108,11 @@ private slots:
     void putBackAfterAPowerFailure_data();
     void putBackAfterAPowerFailure();
     void newFileOfOthersStays();
+    void savedAfterAKillStays();
+    void servoComesOnBetweenFiles();
+    void journalMakesTrouble();
+    void wholeExportOnly();
+    void twoPendantsDoNotShare();
     void unfinishedImportIsSettledFirst();
     void buttonsRestDuringAPutBack();
     void pendantCannotWrite_data();
@@ -267,7 +280,7 @@ void TestUsbImport::leavingChangesNothing()
         QVERIFY2(!pendant.progressDialog() || !pendant.progressDialog()->isVisible(), row.what);
         QVERIFY2(pendant.configuration() == before, row.what);
     }
-    QCOMPARE(pendant.messages().size(), 4);
+    QCOMPARE(pendant.told().size(), 4);
     QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
 }
 
@@ -366,10 +379,13 @@ void TestUsbImport::unlistedRolesGoOff()
     UsbPendant pendant;
     QVERIFY(pendant.controller().files().write(
         "/application/fidbus/fieldbus.xml",
-        roles({{"Mes", true}, {"DeviceNetSlave", true}, {"FinsTcp", false}})));
+        roles({{"Mes", false}, {"DeviceNetSlave", true}, {"FinsTcp", false}})));
     QVERIFY(pendant.open());
     QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/fieldbus.xml",
                   roles({{"EtherCatMaster", true}, {"Mes", true}})));
+    // What is on now says the controller, not what the pendant has read before.
+    QVERIFY(pendant.controller().files().write("/application/fidbus/fieldbus.xml",
+                                               roles({{"Mes", true}, {"DeviceNetSlave", true}})));
     pendant.confirm = false;
     pendant.runImport();
     QCOMPARE(pendant.shownRoles,
@@ -573,20 +589,26 @@ void TestUsbImport::notPutBackIsToldAndKept()
             pendant.declined << text;
     };
     pendant.runImport();
-    const QString left = "These files could not be put back:\nheartbeat.xml\nfixed/dns_fixed.cfg\nfa/pfb.cfg";
+    const QString left = "These files could not be put back:\nheartbeat.xml\nfixed/dns_fixed.cfg";
+    // No restart is offered for a mixture.
     QCOMPARE(
-        pendant.messages(),
+        pendant.told(),
         QStringList({"Import file failed!\nThe file fa/pfb.cfg could not be sent to the controller.\n" + left,
-                     TryAgain, left, TryAgain}));
+                     TryAgain, left, TryAgain, Mixture}));
     QVERIFY(pendant.configuration() != before);
+    auto* band = pendant.find("label_unfinishedImport");
+    QTRY_VERIFY(band->isVisible());
 
     // The next import begins with putting back what the last one has left, also after a new start.
     pendant.controller().faults().clearAll();
     QVERIFY(pendant.press("exitBtn"));
     QTRY_COMPARE(pendant.application()->state(), ApplicationSlot::State::Empty);
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
     QVERIFY(pendant.open());
+    QVERIFY(pendant.messages().constLast().startsWith("An import was neither finished nor undone: "));
     QVERIFY(isPutBack(pendant));
     QVERIFY(pendant.configuration() == before);
+    QTRY_VERIFY(!pendant.find("label_unfinishedImport")->isVisible());
 }
 
 // A controller that cannot be reached does not say that a file is gone.
@@ -597,13 +619,16 @@ void TestUsbImport::newFileStaysUntilItCanBeRemoved()
     putOtherRobot(pendant);
     QVERIFY(pendant.controller().files().remove(controllerPath("heartbeat.xml")));
     const UsbPendant::Bytes before = pendant.configuration();
-    // Down from the event-loop turn after the first file was sent and read back, until the first series of
-    // attempts to fetch it is over.
-    pendant.controller().setRestartDuration(240 * 1000);
-    pendant.whilePreview = [&] { pendant.atStep(3, [&] { pendant.controller().requestRestart(); }); };
+    // When the first file was sent and read back; three attempts to put the second one back are in vain.
+    pendant.whilePreview = [&] {
+        pendant.atStep(4, [&] {
+            pendant.controller().faults().set(Faults::SendFails, 1);
+            pendant.controller().faults().set(Faults::FetchFails, 90);
+        });
+    };
     QCOMPARE(pendant.runImport(), PutBack);
     QVERIFY(pendant.stepReached());
-    QCOMPARE(pendant.messages(),
+    QCOMPARE(pendant.told(),
              QStringList({"Import file failed!\nThe file fixed/dns_fixed.cfg could not be sent to "
                           "the controller.\nThese files could not be put back:\n"
                           "fixed/dns_fixed.cfg",
@@ -736,10 +761,121 @@ void TestUsbImport::newFileOfOthersStays()
             expected["heartbeat.xml"] = present;
         QVERIFY(pendant.controller().files().write(path, present));
         QVERIFY(write(keptFiles() + "/unfinished", journal));
-        QVERIFY(
-            isPutBack(pendant, isOfOthers ? "These files could not be put back:\nheartbeat.xml" : PutBack));
+        QVERIFY(isPutBack(pendant, isOfOthers ? savedSince("heartbeat.xml") : PutBack));
         QVERIFY(pendant.configuration() == expected);
     }
+}
+
+// Killed at each step of the sending; then somebody saves one of the files; then the former ones are put
+// back.
+void TestUsbImport::savedAfterAKillStays()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    const QStringList names = putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    QByteArray journal;
+    QVector<UsbPendant::Bytes> killed;
+    QMetaObject::Connection watched;
+    pendant.whilePreview = [&] {
+        const auto* bar = pendant.find<QProgressBar>("progressBar");
+        watched = QObject::connect(bar, &QProgressBar::valueChanged, [&](int) {
+            QFile file(keptFiles() + "/unfinished");
+            if (!file.open(QIODevice::ReadOnly))
+                return;
+            journal = file.readAll();
+            killed << pendant.configuration();
+        });
+    };
+    QCOMPARE(pendant.runImport(), Imported);
+    QObject::disconnect(watched);
+    QVERIFY(killed.size() >= names.size() && killed.constLast() != before);
+    for (const UsbPendant::Bytes& state : killed) {
+        for (const QString& saved : names) {
+            UsbPendant::Bytes expected = before;
+            expected[saved] = before[saved] + (saved.endsWith("xml") ? "<!-- saved -->" : "; saved");
+            for (const QString& name : names)
+                QVERIFY(pendant.put(controllerPath(name), name == saved ? expected[name] : state[name]));
+            QVERIFY(write(keptFiles() + "/unfinished", journal));
+            pendant.runImport();
+            QCOMPARE(pendant.messages().at(pendant.messages().size() - 3), savedSince(saved));
+            QVERIFY(pendant.configuration() == expected);
+        }
+    }
+}
+
+// Nothing is sent to a robot that may move, not even the former files.
+void TestUsbImport::servoComesOnBetweenFiles()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    pendant.whilePreview = [&] { pendant.atStep(4, [&] { pendant.controller().setServoOn(true); }); };
+    pendant.whileShown = [&](const QString& text) {
+        if (text == TryAgain) {
+            QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 1);
+            pendant.controller().setServoOn(false);
+        }
+    };
+    QCOMPARE(pendant.runImport(), PutBack);
+    QCOMPARE(pendant.told(), QStringList({"Import file failed!\nPlease turn off the servo first!\n"
+                                          "These files could not be put back:\nheartbeat.xml",
+                                          TryAgain, PutBack}));
+    QVERIFY(pendant.configuration() == before);
+}
+
+void TestUsbImport::journalMakesTrouble()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    // While it stands and cannot be emptied either, the import is not over.
+    const QString journal = keptFiles() + "/unfinished";
+    pendant.whilePreview = [&] {
+        pendant.atStep(6, [&] {
+            QVERIFY(QFile::remove(journal));
+            QVERIFY(write(journal + "/in the way", "x"));
+        });
+    };
+    QCOMPARE(pendant.runImport(), "Import file failed!\nThe file ../Application/fidbus/import-kept of the "
+                                  "pendant could not be written.\n" +
+                                      PutBack);
+    QVERIFY(pendant.configuration() == before);
+    // One that cannot be read is not given up, whatever button is pressed.
+    for (const char* button : {"btn_import", "btn_export"})
+        QCOMPARE(pendant.run(button), QString("What an earlier import has replaced cannot be read now.\n"
+                                              "Please try again."));
+    QVERIFY(QFile::exists(journal));
+}
+
+void TestUsbImport::wholeExportOnly()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    const UsbPendant::Bytes before = pendant.configuration();
+    const QString question = "The folder fidbus_20240102_030405 is not a whole export:\n"
+                             "it brings 3 of 36 files. The others stay as they are.\n"
+                             "Import it all the same?";
+    pendant.declined << question;
+    QCOMPARE(pendant.runImport(), question);
+    QVERIFY(pendant.configuration() == before);
+}
+
+void TestUsbImport::twoPendantsDoNotShare()
+{
+    UsbPendant pendant;
+    QVERIFY(pendant.open());
+    putOtherRobot(pendant);
+    QLockFile other("../Application/fidbus/import.lock");
+    QVERIFY(other.tryLock());
+    const QString text = "Another pendant is importing or exporting in the same directory.";
+    QCOMPARE(pendant.runImport(), text);
+    QCOMPARE(pendant.runExport(), text);
+    other.unlock();
+    QCOMPARE(pendant.runImport(), Imported);
 }
 
 // What the pendant holds is not saved over the controller's files, nor exported as one configuration.
@@ -861,6 +997,13 @@ void TestUsbImport::controllerChangesMeanwhile_data()
     QTest::newRow("unreachable") << "unreachable" << notFetched.arg("heartbeat.xml");
     QTest::newRow("unreachable at a new one") << "unreachable, new" << notFetched.arg("heartbeat.xml");
     QTest::newRow("unreachable before") << "before" << notFetched.arg("heartbeat.xml");
+    QTest::newRow("new one can be read when it is sent")
+        << "readable"
+        << "The file heartbeat.xml of the controller has changed meanwhile.";
+    QTest::newRow("copy") << "copy"
+                          << "The pendant's copy of heartbeat.xml has changed meanwhile.";
+    QTest::newRow("servo") << "servo"
+                           << "Please turn off the servo first!";
 }
 
 void TestUsbImport::controllerChangesMeanwhile()
@@ -878,8 +1021,16 @@ void TestUsbImport::controllerChangesMeanwhile()
         QVERIFY(pendant.controller().files().remove(controllerPath("heartbeat.xml")));
     if (what == "before")
         faults.set(Faults::FetchFails);
+    if (what == "readable") // not for the preview nor for the look after it, two series of attempts each
+        faults.set(Faults::FetchFails, 40, controllerPath("heartbeat.xml"));
     pendant.whilePreview = [&] {
-        if (what == "changed" || what == "comes")
+        if (what == "copy")
+            QVERIFY(write("../Application/fidbus/import/heartbeat.xml", "<Fidbus/>"));
+        else if (what == "servo")
+            pendant.atStep(3, [&] { pendant.controller().setServoOn(true); });
+        else if (what == "readable")
+            QCOMPARE(pendant.shownFiles.value("heartbeat.xml"), QString("new"));
+        else if (what == "changed" || what == "comes")
             pendant.controller().files().write("/fa/pfb.cfg", content + "; by somebody else\n");
         else
             faults.set(Faults::FetchFails);

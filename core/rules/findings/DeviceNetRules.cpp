@@ -145,14 +145,16 @@ void devicesAlone(const Configuration& configuration, FindingList& found)
 {
     for (int i = 0; i < configuration.deviceNetMaster.count; ++i) {
         const Device& device = deviceAt(configuration, i);
+        const int most = std::max(device.inputBytes, device.outputBytes);
+        if (most > 0 && most <= MostBytes)
+            continue;
         const FindingList::About about{Master, MasterFile, placeOf(i)};
         const std::vector<Evidence> facts{
             FindingList::fact(QStringLiteral("input bytes"), MasterFile, device.inputBytes),
             FindingList::fact(QStringLiteral("output bytes"), MasterFile, device.outputBytes)};
-        const int most = std::max(device.inputBytes, device.outputBytes);
         if (most == 0)
             found.add(FindingCode::DeviceWithoutData, about, {numberOf(i)}, facts);
-        if (most > MostBytes)
+        else
             found.add(FindingCode::DeviceTooLarge, about, {numberOf(i), QString::number(most)}, facts);
     }
 }

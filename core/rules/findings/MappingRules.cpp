@@ -80,12 +80,16 @@ private:
             const char* name = MappingFile::TypeNames[type];
             const int quantity = m_area.user[type].quantity;
             const int most = std::max(limits.quantity[type], 0);
+            const bool isUneven =
+                type == MappedBool && limits.boolMultiple != None && quantity % limits.boolMultiple != 0;
+            if (quantity <= most && !isUneven)
+                continue;
             const std::vector<Evidence> facts{fact(QLatin1String(name), QString::number(quantity))};
             if (quantity > most)
                 m_found.add(FindingCode::QuantityAboveLimit, about(name),
                             {m_title, QString::number(quantity), QLatin1String(name), QString::number(most)},
                             facts);
-            if (type == MappedBool && limits.boolMultiple != None && quantity % limits.boolMultiple != 0)
+            if (isUneven)
                 m_found.add(FindingCode::BoolsNotMultiple, about(name),
                             {m_title, QString::number(quantity), QString::number(limits.boolMultiple)},
                             facts);

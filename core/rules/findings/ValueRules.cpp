@@ -63,17 +63,19 @@ constexpr Range Ranges[] = {
 
 void check(const Range& range, const Configuration& configuration, FindingList& found)
 {
-    const QString name = QLatin1String(range.name);
     const QString text = range.text(configuration);
+    bool isNumber = false;
+    const double value = text.trimmed().toDouble(&isNumber);
+    if (isNumber && value >= range.least && value <= range.most)
+        return;
+    const QString name = QLatin1String(range.name);
     const bool isXml = KnownFiles::of(range.file).root;
     const FindingList::About about{
         range.role, range.file, {isXml ? '<' + QByteArray(range.name) : '\n' + QByteArray(range.name)}};
     const std::vector<Evidence> facts{FindingList::fact(name, range.file, text)};
-    bool isNumber = false;
-    const double value = text.trimmed().toDouble(&isNumber);
     if (!isNumber)
         found.add(FindingCode::ValueNoNumber, about, {name, titleOf(range.role), text}, facts);
-    else if (!(value >= range.least && value <= range.most))
+    else
         found.add(FindingCode::ValueOutside, about,
                   {name, titleOf(range.role), text, QString::number(range.least),
                    QString::number(range.most, 'f', 0)},
@@ -93,6 +95,8 @@ void positions(RoleId role, FileId file, const MasterSlaveTable& table, FindingL
         const auto& position = MasterSlaveTable::positions()[static_cast<std::size_t>(i)];
         const bool isFixed = table.*position.fixed;
         const bool isDynamic = table.*position.dynamic;
+        if (!isFixed && !isDynamic)
+            continue;
         const Evidence fixed = FindingList::fact(QLatin1String(position.fixedElement), file, isFixed ? 1 : 0);
         const Evidence dynamic =
             FindingList::fact(QLatin1String(position.dynamicElement), file, isDynamic ? 1 : 0);
@@ -101,7 +105,7 @@ void positions(RoleId role, FileId file, const MasterSlaveTable& table, FindingL
             found.add(FindingCode::PositionBothWays,
                       {role, file, {'<' + QByteArray(position.dynamicElement)}}, {titleOf(role), number},
                       {fixed, dynamic});
-        if (isNumber && i >= count && (isFixed || isDynamic))
+        if (isNumber && i >= count)
             found.add(
                 FindingCode::PositionBeyondCount,
                 {role, file, {'<' + QByteArray(isFixed ? position.fixedElement : position.dynamicElement)}},

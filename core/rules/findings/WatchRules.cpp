@@ -53,19 +53,17 @@ void watch(const Configuration& configuration, FindingList& found, const Field& 
     const double timeout = configuration.heartbeat.*field.timeout;
     const bool isOn = configuration.isOn(role.id) || role.id == RoleId::ModbusTcpSlave ||
                       !configuration.isRead(FileId::RoleList);
-    const Evidence switchFact =
-        FindingList::fact(QLatin1String(field.switchElement), FileId::Heartbeat, isWatched ? 1 : 0);
-    const FindingList::About atSwitch{role.id, FileId::Heartbeat, {'<' + QByteArray(field.switchElement)}};
-    if (!isWatched) {
-        if (isOn && configuration.isRead(FileId::RoleList))
-            found.add(FindingCode::NotWatched, atSwitch, {titleOf(role.id)}, {switchFact});
+    if (isWatched != isOn) {
+        if (isWatched || configuration.isRead(FileId::RoleList))
+            found.add(
+                isWatched ? FindingCode::WatchOfNothing : FindingCode::NotWatched,
+                {role.id, FileId::Heartbeat, {'<' + QByteArray(field.switchElement)}}, {titleOf(role.id)},
+                {FindingList::fact(QLatin1String(field.switchElement), FileId::Heartbeat, isWatched ? 1 : 0),
+                 found.factOf(role.id)});
         return;
     }
-    if (!isOn) {
-        found.add(FindingCode::WatchOfNothing, atSwitch, {titleOf(role.id)},
-                  {switchFact, found.factOf(role.id)});
+    if (!isWatched)
         return;
-    }
     const FindingList::About atTime{role.id, FileId::Heartbeat, {'<' + QByteArray(field.timeoutElement)}};
     const Evidence timeFact =
         FindingList::fact(QLatin1String(field.timeoutElement), FileId::Heartbeat, QString::number(timeout));

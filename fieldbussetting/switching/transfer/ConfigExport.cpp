@@ -1,10 +1,15 @@
 #include "ConfigExport.h"
 
 #include "DriveFiles.h"
+#include "DurableFiles.h"
 #include "FieldbusSettingLib.h"
 #include "FileLocations.h"
+#include "ImportSet.h"
 #include "Logging.h"
 #include "SysSettingApi.h"
+#include "WholeFile.h"
+
+#include <pugixml.hpp>
 
 #include <QDateTime>
 #include <QDir>
@@ -16,6 +21,10 @@ namespace {
 
 constexpr int FetchTries = 3; // each of them ten attempts of the library
 constexpr unsigned BetweenTriesMs = 100;
+
+// The name of a folder changes with the second.
+constexpr int NameTries = 16;
+constexpr unsigned BetweenNamesMs = 250;
 
 // Of the export folder, in the order in which they are made and filled.
 constexpr const char* Folders[] = {"devicenet",
@@ -37,12 +46,32 @@ void logText(const QString& text)
     qCDebug(fieldbusLog).noquote() << text;
 }
 
-// The library makes one level only when it fetches, and clearing has removed the sub-folders.
-void prepareStaging()
+// The library makes one level only when it fetches, and clearing has removed the sub-folders. False when the
+// directory is a link: what it points to lies outside.
+bool prepareStaging()
 {
+    if (QFileInfo(FileLocations::stagingDirectory()).isSymLink())
+        return false;
     QDir().mkpath(FileLocations::stagingDirectory());
     for (const char* folder : Folders)
         QDir().mkpath(FileLocations::stagingFolder(QLatin1String(folder)));
+    return true;
+}
+
+// Beside the staging directory: all that lies in it goes onto the drive.
+QString secondCopy()
+{
+    return FileLocations::stagingDirectory() + QStringLiteral("-compared");
+}
+
+// An XML file that ends in the middle was cut on its way, also when it is so each time.
+bool isCutShort(const QString& path, bool isXml)
+{
+    QByteArray content;
+    if (!isXml || !WholeFile::read(path, content) || !content.trimmed().startsWith('<'))
+        return false;
+    return !pugi::xml_document().load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
+                                             pugi::parse_minimal);
 }
 
 } // namespace
@@ -58,8 +87,10 @@ TransferResult ConfigExport::run()
     if (!FieldbusSettingLib::getInstance()->deleteDir(FileLocations::stagingDirectory(),
                                                       QStringLiteral("fidbus")))
         qCDebug(fieldbusLog, "Bus delete export file failed!");
-    prepareStaging();
+    if (!prepareStaging())
+        return {TransferResult::LocalFailed, FileLocations::stagingDirectory()};
     TransferResult result = fetchAll();
+    QFile::remove(secondCopy());
     if (!result.isDone()) {
         qCDebug(fieldbusLog, "Bus failed to obtain file from controller!");
         return result;
@@ -82,10 +113,12 @@ TransferResult ConfigExport::fetch(const TransferFile& file)
     if (!DriveFiles::isThere(m_drive))
         return {TransferResult::DriveGone, QLatin1String(file.label)};
     for (int attempt = 0; attempt < FetchTries; ++attempt) {
-        const bool fetched =
-            FieldbusSettingLib::getInstance()->getFileFromCtrl(file.staging, file.controller);
-        if (fetched)
+        if (isFetched(file)) {
+            // An import would leave it out.
+            if (QFileInfo(file.staging).size() > LargestImportFile)
+                break;
             return stepped();
+        }
         if (m_watch.isWanted())
             SysSettingApi::delay_MSec(BetweenTriesMs);
         if (!m_watch.isWanted())
@@ -95,13 +128,38 @@ TransferResult ConfigExport::fetch(const TransferFile& file)
     return {TransferResult::FetchFailed, QLatin1String(file.label)};
 }
 
+// Twice, since a transfer that went wrong does not say so.
+bool ConfigExport::isFetched(const TransferFile& file) const
+{
+    FieldbusSettingLib* lib = FieldbusSettingLib::getInstance();
+    return lib->getFileFromCtrl(file.staging, file.controller) &&
+           lib->getFileFromCtrl(secondCopy(), file.controller) &&
+           WholeFile::areSame(file.staging, secondCopy()) &&
+           !isCutShort(file.staging, file.xmlRoot != nullptr);
+}
+
+// A folder that is there already is not written into, nor is what a link of that name points to.
+TransferResult ConfigExport::makeTarget(QString& target)
+{
+    for (int attempt = 0; attempt < NameTries; ++attempt) {
+        // Digits that every pendant and computer reads, whatever the language is set to.
+        const QString time =
+            QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("yyyyMMdd_hhmmss"));
+        target = m_drive + QStringLiteral("/fidbus_%1").arg(time);
+        const QFileInfo there(target);
+        if (!there.exists() && !there.isSymLink())
+            return makeFolder(target);
+        FieldbusSettingLib::getInstance()->delay_MSec(BetweenNamesMs);
+        if (!m_watch.isWanted())
+            return {TransferResult::Unwanted, {}};
+    }
+    return {TransferResult::DriveFailed, target};
+}
+
 TransferResult ConfigExport::writeAll()
 {
-    // Digits that every pendant and computer reads, whatever the language is set to.
-    const QString time =
-        QLocale::c().toString(QDateTime::currentDateTime(), QStringLiteral("yyyyMMdd_hhmmss"));
-    const QString target = m_drive + QStringLiteral("/fidbus_%1").arg(time);
-    TransferResult result = makeFolder(target);
+    QString target;
+    TransferResult result = makeTarget(target);
     for (const char* folder : Folders) {
         if (result.isDone())
             result = makeFolder(target + QLatin1Char('/') + QLatin1String(folder));
@@ -113,6 +171,8 @@ TransferResult ConfigExport::writeAll()
         if (result.isDone())
             result = copyFolder(FileLocations::stagingFolder(name), target + QLatin1Char('/') + name);
     }
+    if (result.isDone() && !DurableFiles::syncTree(target))
+        return {TransferResult::DriveFailed, target};
     return result;
 }
 
@@ -121,13 +181,11 @@ TransferResult ConfigExport::makeFolder(const QString& path)
 {
     if (!DriveFiles::isThere(m_drive))
         return {TransferResult::DriveGone, path};
-    if (!QDir(path).exists()) {
-        const bool made = QDir().mkpath(path);
-        logText(QLatin1String("fidbus make dir(") + path + QLatin1String(") result:") +
-                (made ? QLatin1String("true") : QLatin1String("false")));
-        if (!made)
-            return {TransferResult::DriveFailed, path};
-    }
+    const bool made = QDir().mkdir(path); // not one that is there
+    logText(QLatin1String("fidbus make dir(") + path + QLatin1String(") result:") +
+            (made ? QLatin1String("true") : QLatin1String("false")));
+    if (!made)
+        return {TransferResult::DriveFailed, path};
     return stepped();
 }
 

@@ -4,6 +4,8 @@
 #include "WholeFile.h"
 #include "ZelFunctions.h"
 
+#include <QFileInfo>
+
 bool DriveFiles::isThere(const QString& drive)
 {
     // The host fills in an empty path; a copy, so that the drive stays the one of the start.
@@ -16,5 +18,6 @@ bool DriveFiles::isThere(const QString& drive)
 
 bool DriveFiles::copy(const QString& source, const QString& target)
 {
-    return ZelFileCopy(source, target, true) != 0 && WholeFile::areSame(source, target);
+    return !QFileInfo(target).isSymLink() && ZelFileCopy(source, target, true) != 0 &&
+           WholeFile::areSame(source, target);
 }

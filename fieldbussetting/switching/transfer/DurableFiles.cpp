@@ -6,6 +6,7 @@
 #include <QDirIterator>
 #include <QFile>
 
+#include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <unistd.h>
@@ -69,7 +70,9 @@ bool DurableFiles::syncTree(const QString& directory)
 bool DurableFiles::sync(const QString& path)
 {
     const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    const bool synced = descriptor >= 0 && ::fsync(descriptor) == 0;
+    // Some file systems of USB drives know no writing through of a directory.
+    const bool synced =
+        descriptor >= 0 && (::fsync(descriptor) == 0 || (errno == EINVAL && QFileInfo(path).isDir()));
     if (descriptor >= 0)
         ::close(descriptor);
     return synced;

@@ -3,7 +3,8 @@
 #include "DurableFiles.h"
 #include "WholeFile.h"
 
-#include <QFile>
+#include <QFileInfo>
+#include <QThread>
 
 namespace {
 
@@ -11,8 +12,43 @@ namespace {
 // is over.
 constexpr const char* Number = "import ";
 constexpr const char* New = "new "; // a file that the controller did not have: hash and name
-constexpr const char* Old = "old ";
+constexpr const char* Old = "old "; // one that it had: the same
 constexpr const char* End = "end";
+
+constexpr int ReadTries = 3;
+constexpr unsigned long BetweenTriesMs = 50;
+
+// A journal of an earlier release has no hash for a replaced file.
+constexpr int HashLength = 40;
+
+ImportEntry entryOf(const QByteArray& line, ImportEntry::State state, QString& name)
+{
+    ImportEntry entry;
+    entry.state = state;
+    const QByteArray rest = line.mid(line.indexOf(' ') + 1);
+    const bool hasHash = rest.indexOf(' ') == HashLength;
+    if (hasHash)
+        entry.sentHash = rest.left(HashLength);
+    name = QString::fromUtf8(hasHash ? rest.mid(HashLength + 1) : rest);
+    return entry;
+}
+
+void parse(const QByteArray& content, ImportJournal& journal)
+{
+    journal.state = ImportJournal::Damaged;
+    for (const QByteArray& line : content.split('\n')) {
+        QString name;
+        if (line.startsWith(Number)) {
+            journal.number = line.mid(int(qstrlen(Number))).toInt();
+        } else if (line.startsWith(Old) || line.startsWith(New)) {
+            const ImportEntry entry =
+                entryOf(line, line.startsWith(New) ? ImportEntry::New : ImportEntry::Different, name);
+            journal.entries[name] = entry;
+        } else if (line == End) {
+            journal.state = ImportJournal::Whole;
+        }
+    }
+}
 
 } // namespace
 
@@ -21,27 +57,25 @@ QString ImportJournal::pathIn(const QString& directory)
     return directory + QStringLiteral("/unfinished");
 }
 
+bool ImportJournal::isThere(const QString& directory)
+{
+    const QFileInfo file(pathIn(directory));
+    return file.exists() && (!file.isFile() || file.size() > 0);
+}
+
+// One read that fails says nothing about the journal: taken for a damaged one it would be given up.
 ImportJournal ImportJournal::read(const QString& directory)
 {
     ImportJournal journal;
     QByteArray content;
-    const bool isRead = WholeFile::read(pathIn(directory), content);
-    journal.isUnfinished = QFile::exists(pathIn(directory)) && !(isRead && content.isEmpty());
-    for (const QByteArray& line : content.split('\n')) {
-        const QByteArray rest = line.mid(line.indexOf(' ') + 1);
-        ImportEntry entry;
-        if (line.startsWith(Number)) {
-            journal.number = rest.toInt();
-        } else if (line.startsWith(Old)) {
-            entry.state = ImportEntry::Different;
-            journal.entries[QString::fromUtf8(rest)] = entry;
-        } else if (line.startsWith(New)) {
-            const int space = rest.indexOf(' ');
-            entry.state = ImportEntry::New;
-            entry.sentHash = rest.left(space);
-            journal.entries[QString::fromUtf8(rest.mid(space + 1))] = entry;
+    for (int attempt = 0; attempt < ReadTries && isThere(directory); ++attempt) {
+        if (WholeFile::read(pathIn(directory), content)) {
+            if (!content.isEmpty())
+                parse(content, journal);
+            return journal;
         }
-        journal.isWhole = journal.isWhole || line == End;
+        journal.state = Unreadable;
+        QThread::msleep(BetweenTriesMs);
     }
     return journal;
 }
@@ -50,18 +84,19 @@ bool ImportJournal::write(const QString& directory, int number,
                           const std::vector<const ImportEntry*>& entries)
 {
     QByteArray lines = Number + QByteArray::number(number) + '\n';
-    for (const ImportEntry* entry : entries) {
-        lines += entry->state == ImportEntry::New ? New + entry->sentHash + ' ' : QByteArray(Old);
-        lines += entry->file->name.toUtf8() + '\n';
-    }
+    for (const ImportEntry* entry : entries)
+        lines += (entry->state == ImportEntry::New ? New : Old) + entry->sentHash + ' ' +
+                 entry->file->name.toUtf8() + '\n';
     lines += End;
     const QString path = pathIn(directory);
-    return WholeFile::replace(path, lines) && DurableFiles::sync(path) && DurableFiles::sync(directory);
+    return !QFileInfo(path).isSymLink() && WholeFile::replace(path, lines) && DurableFiles::sync(path) &&
+           DurableFiles::sync(directory);
 }
 
 // Where it cannot be removed, an empty one says the same.
 bool ImportJournal::end(const QString& directory)
 {
     const QString path = pathIn(directory);
-    return (QFile::remove(path) || WholeFile::replace(path, QByteArray())) && DurableFiles::sync(directory);
+    return (!QFile::exists(path) || QFile::remove(path) || WholeFile::replace(path, QByteArray())) &&
+           DurableFiles::sync(directory);
 }

@@ -77,8 +77,15 @@ void ImportPreviewDialog::showFiles(const std::vector<ImportEntry>& entries, boo
         count(entries, ImportEntry::Different) + count(entries, ImportEntry::New) == 0
             ? tr("The controller holds these files already.")
             : tr("Different and new files replace those of the controller; the others stay.");
-    ui->label_summary->setText((possible ? outlook + QLatin1Char('\n') : QString()) +
-                               summary.join(QStringLiteral("    ")));
+    QStringList lines = {summary.join(QStringLiteral("    "))};
+    if (possible)
+        lines.prepend(outlook);
+    const int missing = count(entries, ImportEntry::Missing);
+    if (missing != 0)
+        lines.prepend(tr("This is not a whole export: it brings %1 of %2 files.")
+                          .arg(static_cast<int>(entries.size()) - missing)
+                          .arg(entries.size()));
+    ui->label_summary->setText(lines.join(QLatin1Char('\n')));
 }
 
 void ImportPreviewDialog::showRoles(const ImportedRoles& roles)

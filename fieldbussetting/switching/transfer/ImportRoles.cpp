@@ -1,16 +1,18 @@
 #include "ImportRoles.h"
 
-#include "BusFileDataManager.h"
 #include "FieldbusSettingLib.h"
+#include "RoleListFile.h"
 #include "WholeFile.h"
 
 namespace {
 
-std::vector<ListedRole> presentRoles()
+// What is on now says the file that was just fetched. The service may have read another one before.
+std::vector<ListedRole> presentRoles(const ImportEntry& entry)
 {
     std::vector<ListedRole> roles;
-    for (const BusName& role : BusFileDataManager::getInstance()->getAllBusName())
-        roles.push_back({role.name, role.enabled});
+    QByteArray content;
+    if (entry.state != ImportEntry::New && WholeFile::read(entry.file->present(), content))
+        RoleListFile::read(content, roles); // one that is no role list lists none
     return roles;
 }
 
@@ -28,7 +30,7 @@ bool planRoles(const std::vector<ImportEntry>& entries, RoleConditions condition
             return false;
         const QByteArray before = bytes;
         const bool isTaken = file.listsRoles
-                                 ? RolePlan::takeRoleList(bytes, presentRoles(), conditions, plan)
+                                 ? RolePlan::takeRoleList(bytes, presentRoles(entry), conditions, plan)
                                  : RolePlan::takeSwitchFile(bytes, conditions, plan);
         if (!isTaken || (bytes != before && !WholeFile::replace(file.staged(), bytes)))
             return false;

@@ -1,6 +1,7 @@
 #ifndef IMPORTSET_H
 #define IMPORTSET_H
 
+#include "KnownFiles.h"
 #include "TransferWatch.h"
 
 #include <QByteArray>
@@ -9,7 +10,7 @@
 #include <vector>
 
 /// Of a file that is imported. The service that reads them refuses larger ones as well.
-constexpr qint64 LargestImportFile = qint64(4) * 1024 * 1024;
+constexpr qint64 LargestImportFile = KnownFiles::MostBytes;
 
 /// A file that an import brings to the controller.
 struct ImportFile
@@ -50,7 +51,7 @@ struct ImportEntry
     const ImportFile* file = nullptr;
     State state = Missing;
     Reason reason = NotThere;
-    QByteArray sentHash; ///< of a new file that is in the journal: SHA-1 of what was sent, in hex
+    QByteArray sentHash; ///< SHA-1 of what is to be sent, or was, in hex
 
     bool isBrought() const { return state != Missing; }
     bool isSent() const { return state == Different || state == New; }

@@ -1,15 +1,14 @@
 #include "ImportTransfer.h"
 
 #include "ControllerFiles.h"
+#include "DataAccess.h"
 #include "DurableFiles.h"
 #include "FieldbusSettingLib.h"
+#include "FileHash.h"
 #include "ImportJournal.h"
 #include "Logging.h"
 #include "SysSettingApi.h"
 #include "WholeFile.h"
-
-#include <QCryptographicHash>
-#include <QFile>
 
 using ControllerFiles::Fetched;
 using ControllerFiles::fetchOrMiss;
@@ -24,7 +23,7 @@ constexpr unsigned BetweenTriesMs = 100;
 enum class Back {
     Done,
     Failed,
-    Foreign ///< a new file that is not what was sent any more: it is somebody else's
+    Foreign ///< neither what was sent nor the former one: it is somebody else's
 };
 
 FieldbusSettingLib* lib()
@@ -32,50 +31,51 @@ FieldbusSettingLib* lib()
     return FieldbusSettingLib::getInstance();
 }
 
-// Empty when it cannot be read.
-QByteArray hashOf(const QString& path)
+bool isRobotAtRest()
 {
-    QByteArray content;
-    return WholeFile::read(path, content)
-               ? QCryptographicHash::hash(content, QCryptographicHash::Sha1).toHex()
-               : QByteArray();
+    return !DataAccess::isRobotRunning() && !DataAccess::isServoOn();
 }
 
-// Only what can be fetched is removed: it would have been fetched before the import, had it been there.
-Back removeNew(const ImportEntry& entry, bool onlyWhatWasSent)
-{
-    const QString& controller = entry.file->controller;
-    const Fetched fetched = fetchOrMiss(scratchCopy(), controller);
-    if (fetched == Fetched::Absent)
-        return Back::Done;
-    if (fetched != Fetched::Yes)
-        return Back::Failed;
-    if (onlyWhatWasSent) {
-        const QByteArray hash = hashOf(scratchCopy());
-        if (hash != entry.sentHash)
-            return hash.isEmpty() ? Back::Failed : Back::Foreign;
-    }
-    return SysSettingApi::removeRemoteFile(controller) ? Back::Done : Back::Failed;
-}
-
-Back putBackOne(const ImportEntry& entry, bool resumed)
+// Brings the controller to the former file, or to none. What has not arrived as it was sent is the import's
+// too (`mayBeAnything`): then there is nobody else's file to be lost.
+Back putBackOne(const ImportEntry& entry, bool mayBeAnything)
 {
     const ImportFile& file = *entry.file;
-    if (entry.state == ImportEntry::New)
-        return removeNew(entry, resumed);
-    return lib()->sendFileToCtrl(file.kept(), file.controller) && isThere(file.controller, file.kept())
-               ? Back::Done
-               : Back::Failed;
+    const bool wasThere = entry.state != ImportEntry::New;
+    const Fetched fetched = fetchOrMiss(scratchCopy(), file.controller);
+    if (fetched == Fetched::Absent && !wasThere)
+        return Back::Done;
+    if (fetched == Fetched::Yes) {
+        if (wasThere && WholeFile::areSame(scratchCopy(), file.kept()))
+            return Back::Done;
+        const QByteArray hash = FileHash::of(scratchCopy());
+        if (hash.isEmpty())
+            return Back::Failed;
+        if (hash != entry.sentHash && !mayBeAnything)
+            return Back::Foreign;
+    } else if (fetched != Fetched::Absent) {
+        return Back::Failed;
+    }
+    const bool isBack = wasThere ? lib()->sendFileToCtrl(file.kept(), file.controller) &&
+                                       isThere(file.controller, file.kept())
+                                 : SysSettingApi::removeRemoteFile(file.controller);
+    return isBack ? Back::Done : Back::Failed;
 }
 
-Back putBackTried(const ImportEntry& entry, bool resumed)
+Back putBackTried(const ImportEntry& entry, bool mayBeAnything)
 {
-    Back back = putBackOne(entry, resumed);
-    for (int attempt = 1; attempt < PutBackTries && back == Back::Failed; ++attempt) {
-        SysSettingApi::delay_MSec(BetweenTriesMs);
-        back = putBackOne(entry, resumed);
+    Back back = Back::Failed;
+    for (int attempt = 0; attempt < PutBackTries && back == Back::Failed && isRobotAtRest(); ++attempt) {
+        if (attempt > 0)
+            SysSettingApi::delay_MSec(BetweenTriesMs);
+        back = putBackOne(entry, mayBeAnything);
     }
     return back;
+}
+
+ImportEntry::State stateOf(const ImportFile& file)
+{
+    return WholeFile::areSame(file.present(), file.staged()) ? ImportEntry::Same : ImportEntry::Different;
 }
 
 TransferResult localFailure(const QString& path)
@@ -92,7 +92,7 @@ ImportTransfer::ImportTransfer(std::vector<ImportEntry>& entries)
 
 ImportTransfer::~ImportTransfer()
 {
-    if (!m_sent.empty() && !putBack())
+    if (isBegun() && !putBack())
         qCWarning(fieldbusLog) << "import undone in part, not put back:" << notPutBack();
 }
 
@@ -109,11 +109,23 @@ TransferResult ImportTransfer::fetchPresent(TransferWatch& watch)
             return localFailure(file.present());
         if (fetched == Fetched::Failed)
             return {watch.isWanted() ? TransferResult::FetchFailed : TransferResult::Unwanted, file.name};
-        entry.state = fetched == Fetched::Absent                          ? ImportEntry::New
-                      : WholeFile::areSame(file.present(), file.staged()) ? ImportEntry::Same
-                                                                          : ImportEntry::Different;
+        entry.state = fetched == Fetched::Absent ? ImportEntry::New : stateOf(file);
         if (!watch.step())
             return {TransferResult::Unwanted, {}};
+    }
+    return {};
+}
+
+TransferResult ImportTransfer::seal()
+{
+    for (ImportEntry& entry : m_entries) {
+        if (!entry.isBrought())
+            continue;
+        if (entry.state != ImportEntry::New)
+            entry.state = stateOf(*entry.file);
+        entry.sentHash = FileHash::of(entry.file->staged());
+        if (entry.sentHash.isEmpty())
+            return localFailure(entry.file->staged());
     }
     return {};
 }
@@ -144,46 +156,70 @@ TransferResult ImportTransfer::confirmPresent(TransferWatch& watch)
 TransferResult ImportTransfer::send(TransferWatch& watch)
 {
     TransferResult result = beginJournal();
-    if (!result.isDone())
-        return result;
     for (const ImportEntry& entry : m_entries) {
+        if (!result.isDone())
+            break;
         if (!entry.isSent())
             continue;
-        m_sent.push_back(&entry);
-        if (!sendOne(entry))
-            return {watch.isWanted() ? TransferResult::SendFailed : TransferResult::Unwanted,
-                    entry.file->name};
-        if (!watch.step())
-            return {TransferResult::Unwanted, {}};
+        result = sendOne(entry);
+        if (!watch.isWanted() || (result.isDone() && !watch.step()))
+            result = {TransferResult::Unwanted, entry.file->name};
     }
+    return result;
+}
+
+// A new file is looked for once more: one that could not be read for a while would be lost to the one that
+// takes its place. One that arrives but cannot be fetched, though others can, may have been there before too.
+TransferResult ImportTransfer::sendOne(const ImportEntry& entry)
+{
+    const ImportFile& file = *entry.file;
+    const bool isNew = entry.state == ImportEntry::New;
+    if (!isRobotAtRest())
+        return {TransferResult::RobotMoves, file.name};
+    if (isNew && fetchOrMiss(scratchCopy(), file.controller) != Fetched::Absent)
+        return {TransferResult::Changed, file.name};
+    if (FileHash::of(file.staged()) != entry.sentHash)
+        return {TransferResult::CopyChanged, file.name};
+    m_hasSent = true;
+    m_sent.push_back(&entry);
+    m_onTheWay = &entry;
+    const TransferResult failed = {TransferResult::SendFailed, file.name};
+    if (!lib()->sendFileToCtrl(file.staged(), file.controller))
+        return failed;
+    const Fetched fetched = fetchOrMiss(scratchCopy(), file.controller);
+    if (fetched == Fetched::Absent && isNew)
+        m_unreadable = &entry;
+    if (fetched != Fetched::Yes || !WholeFile::areSame(scratchCopy(), file.staged()))
+        return failed;
+    m_onTheWay = nullptr;
     return {};
 }
 
-// A new file that arrives but cannot be fetched, though others can, may have been there before the import.
-bool ImportTransfer::sendOne(const ImportEntry& entry)
+bool ImportTransfer::finish()
 {
-    const ImportFile& file = *entry.file;
-    if (!lib()->sendFileToCtrl(file.staged(), file.controller))
-        return false;
-    const Fetched fetched = fetchOrMiss(scratchCopy(), file.controller);
-    if (fetched == Fetched::Absent && entry.state == ImportEntry::New)
-        m_unreadable = &entry;
-    return fetched == Fetched::Yes && WholeFile::areSame(scratchCopy(), file.staged());
+    const bool isOver = ImportJournal::end(keptDirectory());
+    if (isOver) {
+        m_sent.clear();
+        m_isBegun = false;
+    } else {
+        qCWarning(fieldbusLog, "the journal of an import that is over could not be removed");
+    }
+    return isOver;
 }
 
-void ImportTransfer::finish()
+void ImportTransfer::leaveUnfinished()
 {
     m_sent.clear();
-    if (!ImportJournal::end(keptDirectory()))
-        qCWarning(fieldbusLog, "the journal of an import that is over could not be removed");
+    m_isBegun = false;
 }
 
 // An import before this one that was left unfinished is the unfinished one again. Its journal has the lower
 // number; a higher one is of an import that a power failure ended before it sent anything.
 void ImportTransfer::endUndone()
 {
+    m_isBegun = false;
     const ImportJournal other = ImportJournal::read(presentDirectory());
-    if (!other.isWhole || other.number >= m_number)
+    if (other.state != ImportJournal::Whole || other.number >= m_number)
         finish();
     else if (!DurableFiles::exchange(keptDirectory(), presentDirectory()))
         qCWarning(fieldbusLog, "what an earlier import has kept is not yet back in its place");
@@ -193,9 +229,11 @@ bool ImportTransfer::putBack()
 {
     std::vector<const ImportEntry*> left;
     for (auto entry = m_sent.rbegin(); entry != m_sent.rend(); ++entry) {
-        const Back back = *entry == m_unreadable ? Back::Foreign : putBackTried(**entry, m_resumed);
+        if (*entry == m_unreadable)
+            continue;
+        const Back back = putBackTried(**entry, *entry == m_onTheWay);
         if (back == Back::Foreign)
-            m_remaining << (*entry)->file->name;
+            m_savedSince << (*entry)->file->name;
         else if (back == Back::Failed)
             left.push_back(*entry);
     }
@@ -212,7 +250,10 @@ QStringList ImportTransfer::notPutBack() const
     QStringList names;
     for (const ImportEntry* entry : m_sent)
         names << entry->file->name;
-    return names + m_remaining;
+    if (m_unreadable)
+        names << m_unreadable->file->name;
+    names.removeDuplicates();
+    return names;
 }
 
 // All is on the disk before the exchange, which makes it count: a power failure leaves either this import's
@@ -220,48 +261,27 @@ QStringList ImportTransfer::notPutBack() const
 TransferResult ImportTransfer::beginJournal()
 {
     std::vector<const ImportEntry*> sent;
-    for (ImportEntry& entry : m_entries) {
-        if (entry.state == ImportEntry::New) {
-            entry.sentHash = hashOf(entry.file->staged());
-            if (entry.sentHash.isEmpty())
-                return localFailure(entry.file->staged());
-        }
+    for (const ImportEntry& entry : m_entries) {
         if (entry.isSent())
             sent.push_back(&entry);
     }
-    m_number = ImportJournal::read(keptDirectory()).number + 1;
+    const ImportJournal earlier = ImportJournal::read(keptDirectory());
+    if (earlier.state == ImportJournal::Unreadable)
+        return localFailure(ImportJournal::pathIn(keptDirectory()));
+    m_number = earlier.number + 1;
     if (!ImportJournal::write(presentDirectory(), m_number, sent) ||
         !DurableFiles::syncTree(presentDirectory()))
         return localFailure(ImportJournal::pathIn(presentDirectory()));
     if (!DurableFiles::exchange(keptDirectory(), presentDirectory()))
         return localFailure(keptDirectory());
+    m_isBegun = true;
     return {};
 }
 
-std::vector<ImportEntry> ImportTransfer::unfinished()
+void ImportTransfer::resume(int number)
 {
-    DurableFiles::repairExchange(keptDirectory(), presentDirectory());
-    const ImportJournal journal = ImportJournal::read(keptDirectory());
-    std::vector<ImportEntry> entries;
-    if (!journal.isUnfinished)
-        return entries;
-    if (!journal.isWhole)
-        qCWarning(fieldbusLog, "the journal of an import is damaged: all that was kept is to be put back");
-    for (const ImportFile& file : importSet()) {
-        ImportEntry entry = journal.entries.value(file.name);
-        entry.file = &file;
-        if (!journal.isWhole && !entry.isSent() && QFile::exists(file.kept()))
-            entry.state = ImportEntry::Different;
-        if (entry.isSent())
-            entries.push_back(entry);
-    }
-    return entries;
-}
-
-void ImportTransfer::resume()
-{
-    m_resumed = true;
-    m_number = ImportJournal::read(keptDirectory()).number;
+    m_isBegun = m_hasSent = true;
+    m_number = number;
     for (const ImportEntry& entry : m_entries)
         m_sent.push_back(&entry);
 }

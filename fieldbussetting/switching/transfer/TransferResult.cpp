@@ -13,6 +13,8 @@ constexpr const char* Reasons[] = {
     QT_TRANSLATE_NOOP("UsbImport", "The file %1 of the pendant could not be written."),
     QT_TRANSLATE_NOOP("UsbImport", "The file %1 of the controller has changed meanwhile."),
     QT_TRANSLATE_NOOP("UsbImport", "The file %1 could not be sent to the controller."),
+    QT_TRANSLATE_NOOP("UsbImport", "Please turn off the servo first!"),
+    QT_TRANSLATE_NOOP("UsbImport", "The pendant's copy of %1 has changed meanwhile."),
     nullptr,
 };
 static_assert(std::size(Reasons) == TransferResult::Unwanted + 1, "a row a code");

@@ -14,6 +14,8 @@ struct TransferResult
         LocalFailed, ///< a folder or file of the pendant could not be written
         Changed,     ///< a file of the controller is not what it was shortly before
         SendFailed,  ///< a file did not reach the controller
+        RobotMoves,  ///< the servo was switched on, or the robot runs
+        CopyChanged, ///< the pendant's copy of a file is not the one that was looked at
         Unwanted     ///< nobody is left who wants the result
     };
 

@@ -1,6 +1,7 @@
 #ifndef TRANSFERUNDERWAY_H
 #define TRANSFERUNDERWAY_H
 
+#include <QLockFile>
 #include <QPointer>
 #include <QWidget>
 
@@ -9,7 +10,7 @@
 class TransferUnderWay
 {
 public:
-    /// `page` begins one; none may be under way.
+    /// `page` begins one; none may be under way in this process.
     explicit TransferUnderWay(QWidget* page);
     ~TransferUnderWay();
     TransferUnderWay(const TransferUnderWay&) = delete;
@@ -17,11 +18,14 @@ public:
 
     /// The one of the process; null when there is none.
     static const TransferUnderWay* current();
+    /// False when another pendant on the same directories is at work: nothing may be carried then.
+    bool isAlone() const { return m_lock.isLocked(); }
     /// Whether the page that began it is still there.
     bool hasPage() const { return !m_page.isNull(); }
 
 private:
     QPointer<QWidget> m_page;
+    QLockFile m_lock;
 };
 
 #endif

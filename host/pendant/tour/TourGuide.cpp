@@ -219,7 +219,8 @@ bool TourGuide::isBusy() const
     const ApplicationSlot* const application = m_subject.window.present();
     if (!application)
         return false;
-    const QWidget* const page = application->widget() ? application->widget()->getCentralWidget() : nullptr;
+    const ZelBaseWidget* const widget = application->widget();
+    const QWidget* const page = widget && widget->getCentralWidget() ? widget->getCentralWidget() : widget;
     if (application->state() != ApplicationSlot::State::Shown || !page || !page->isVisible())
         return true;
     for (const QWidget* above = page; above; above = above->parentWidget()) {

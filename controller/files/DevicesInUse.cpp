@@ -1,4 +1,4 @@
-#include "OverrideFile.h"
+#include "DevicesInUse.h"
 
 bool isDeviceInUse(const QByteArray& overrideCfg, const QByteArray& name)
 {

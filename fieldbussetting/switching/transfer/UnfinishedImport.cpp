@@ -1,0 +1,79 @@
+#include "UnfinishedImport.h"
+
+#include "DurableFiles.h"
+#include "FieldbusSettingLib.h"
+#include "FileHash.h"
+#include "FileLocations.h"
+#include "ImportJournal.h"
+#include "Logging.h"
+#include "TransferUnderWay.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+namespace {
+
+// A file that is replaced in one step is first written under its name and six characters more.
+void removeTemporaries(const QString& directory)
+{
+    static const QRegularExpression temporary(
+        QStringLiteral("\\.(cfg|cfgx|xml|eds|gsdml|esi)\\.[A-Za-z0-9]{6}$"));
+    for (const QString& name : QDir(directory).entryList(QDir::Files | QDir::Hidden)) {
+        if (temporary.match(name).hasMatch())
+            QFile::remove(directory + QLatin1Char('/') + name);
+    }
+}
+
+} // namespace
+
+bool UnfinishedImport::exists()
+{
+    return !TransferUnderWay::current() && ImportJournal::isThere(keptDirectory());
+}
+
+UnfinishedImport UnfinishedImport::find()
+{
+    DurableFiles::repairExchange(keptDirectory(), presentDirectory());
+    const ImportJournal journal = ImportJournal::read(keptDirectory());
+    UnfinishedImport unfinished;
+    unfinished.isReadable = journal.state != ImportJournal::Unreadable;
+    unfinished.number = journal.number;
+    if (journal.state == ImportJournal::None || !unfinished.isReadable)
+        return unfinished;
+    const bool isWhole = journal.state == ImportJournal::Whole;
+    if (!isWhole)
+        qCWarning(fieldbusLog, "the journal of an import is damaged: all that was kept is to be put back");
+    for (const ImportFile& file : importSet()) {
+        ImportEntry entry = journal.entries.value(file.name);
+        entry.file = &file;
+        if (!isWhole && !entry.isSent() && QFile::exists(file.kept()))
+            entry.state = ImportEntry::Different;
+        // What was sent is what was copied, as far as anybody knows.
+        if (entry.sentHash.isEmpty())
+            entry.sentHash = FileHash::of(file.staged());
+        if (entry.isSent())
+            unfinished.entries.push_back(entry);
+    }
+    if (unfinished.entries.empty()) // nothing is left that could be put back
+        ImportJournal::end(keptDirectory());
+    return unfinished;
+}
+
+void UnfinishedImport::clearLeftOvers()
+{
+    if (TransferUnderWay::current())
+        return;
+    const TransferUnderWay alone(nullptr);
+    if (!alone.isAlone())
+        return; // they are another pendant's
+    DurableFiles::repairExchange(keptDirectory(), presentDirectory());
+    removeTemporaries(FileLocations::workingDirectory());
+    removeTemporaries(QFileInfo(importDirectory()).path());
+    if (ImportJournal::isThere(keptDirectory()))
+        return; // its copies are what it sent
+    for (const QString& directory : {importDirectory(), presentDirectory()}) {
+        if (!ImportJournal::isThere(directory))
+            FieldbusSettingLib::getInstance()->deleteDir(directory, QString());
+    }
+}
