@@ -135,10 +135,9 @@ QString Faults::targetMeaningOf(Fault fault)
     const QString target = QLatin1String(description.target);
     if (description.usual < 0)
         return target;
-    const bool isCode = description.usual > 0xff; // as it is published
-    return QStringLiteral("%1 (%2)").arg(
-        target, isCode ? QStringLiteral("0x%1").arg(description.usual, 4, 16, QLatin1Char('0'))
-                       : QString::number(description.usual));
+    const bool isCode = target == QLatin1String("code"); // as it is published
+    return QStringLiteral("%1 (%2)").arg(target, isCode ? QStringLiteral("0x%1").arg(description.usual, 0, 16)
+                                                        : QString::number(description.usual));
 }
 
 QString Faults::table()

@@ -11,6 +11,12 @@
 
 namespace {
 enum Column { FaultColumn, MeaningColumn, TimesColumn, TargetColumn, ColumnCount };
+// A cell that takes a target tells what it is to be.
+QString hintOf(Faults::Fault fault)
+{
+    const QString target = Faults::targetMeaningOf(fault);
+    return target.isEmpty() ? FaultTab::tr("takes no target") : target;
+}
 } // namespace
 
 FaultTab::FaultTab(SimulatedController& simulated, QWidget* parent)
@@ -29,7 +35,7 @@ FaultTab::FaultTab(SimulatedController& simulated, QWidget* parent)
         const QString texts[ColumnCount] = {Faults::nameOf(fault), Faults::meaningOf(fault), {}, {}};
         for (int column = 0; column < ColumnCount; ++column) {
             auto* item = new QTableWidgetItem(texts[column]);
-            item->setToolTip(Faults::meaningOf(fault));
+            item->setToolTip(column == TargetColumn ? hintOf(fault) : Faults::meaningOf(fault));
             if (column < TimesColumn)
                 item->setFlags(Qt::ItemIsEnabled);
             m_table->setItem(row, column, item);
@@ -45,7 +51,8 @@ FaultTab::FaultTab(SimulatedController& simulated, QWidget* parent)
         refresh();
     });
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(tr("Times: -1 always, 0 never. Target: a controller path or a variable.")));
+    layout->addWidget(
+        new QLabel(tr("Times: -1 always, 0 never. Target: whom alone it hits, or its number.")));
     layout->addWidget(m_table);
     layout->addWidget(clear, 0, Qt::AlignRight);
 }

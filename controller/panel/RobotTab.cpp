@@ -38,6 +38,14 @@ RobotTab::RobotTab(SimulatedController& simulated, QWidget* parent)
         [] { return UserSession::instance().userLevel(); },
         [](int level) { UserSession::instance().setUserLevel(level); });
 
+    addSwitches(form);
+    addNumber(form, QStringLiteral("moduleCode"), tr("Module code"), MaxModuleCode,
+              reading(QStringLiteral("ifidbus.anybus_fm")), writing(QStringLiteral("ifidbus.anybus_fm")));
+    form->addRow(tr("USB drive"), makeUsbRow());
+}
+
+void RobotTab::addSwitches(QFormLayout* form)
+{
     // Each variable is looked up by its name on every refresh, so that a change from anywhere shows.
     const struct
     {
@@ -61,10 +69,6 @@ RobotTab::RobotTab(SimulatedController& simulated, QWidget* parent)
     };
     for (const auto& row : switches)
         addSwitch(form, QLatin1String(row.objectName), row.caption, row.get, row.set);
-
-    addNumber(form, QStringLiteral("moduleCode"), tr("Module code"), MaxModuleCode,
-              reading(QStringLiteral("ifidbus.anybus_fm")), writing(QStringLiteral("ifidbus.anybus_fm")));
-    form->addRow(tr("USB drive"), makeUsbRow());
 }
 
 std::function<double()> RobotTab::reading(const QString& variable) const

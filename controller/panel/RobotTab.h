@@ -30,6 +30,7 @@ private:
         std::function<Value()> get;
     };
 
+    void addSwitches(QFormLayout* form);
     void addSwitch(QFormLayout* form, const QString& objectName, const QString& caption,
                    const std::function<bool()>& get, const std::function<void(bool)>& set);
     void addNumber(QFormLayout* form, const QString& objectName, const QString& caption, int maximum,

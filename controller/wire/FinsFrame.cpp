@@ -118,25 +118,48 @@ std::optional<FinsWordRead::Response> FinsWordRead::response(const QByteArray& d
     return Response{0, wordAt(data, WordOffset)};
 }
 
+namespace {
+
+// What a command asks for: DM words from `address` on.
+struct Asked
+{
+    QByteArray code;
+    int address = 0;
+    int count = 0;
+    bool reads = false;
+    int endCode = 0; ///< why it cannot be done; 0: it can
+};
+
+Asked askedOf(const QByteArray& data)
+{
+    Asked asked;
+    asked.code = data.mid(MessageHeaderSize, sizeof MemoryAreaRead);
+    asked.reads = asked.code == QByteArray(MemoryAreaRead, sizeof MemoryAreaRead);
+    const bool hasParameters = data.size() >= ParametersOffset + ParametersSize;
+    if (hasParameters) {
+        asked.address = wordAt(data, ParametersOffset + 1);
+        asked.count = wordAt(data, ParametersOffset + 4);
+    }
+    const int size = ParametersOffset + ParametersSize + (asked.reads ? 0 : 2 * asked.count);
+    if (!asked.reads && asked.code != QByteArray(MemoryAreaWrite, sizeof MemoryAreaWrite))
+        asked.endCode = UndefinedCommand;
+    else if (!hasParameters || asked.count > MostWords || data.size() != size)
+        asked.endCode = WrongLength;
+    else if (byteAt(data, ParametersOffset) != DmWords)
+        asked.endCode = WrongArea;
+    return asked;
+}
+
+} // namespace
+
 QByteArray finsResponse(const QByteArray& data, int endCode, const std::function<quint16(quint16)>& read,
                         const std::function<void(quint16, quint16)>& write)
 {
     if (data.size() < ParametersOffset || (byteAt(data, 0) & IsResponse) != 0)
         return {};
-    const QByteArray code = data.mid(MessageHeaderSize, sizeof MemoryAreaRead);
-    const bool reads = code == QByteArray(MemoryAreaRead, sizeof MemoryAreaRead);
-    const bool hasParameters = data.size() >= ParametersOffset + ParametersSize;
-    const int address = hasParameters ? wordAt(data, ParametersOffset + 1) : 0;
-    const int count = hasParameters ? wordAt(data, ParametersOffset + 4) : 0;
-    const int expected = ParametersOffset + ParametersSize + (reads ? 0 : 2 * count);
-    if (endCode == 0) {
-        if (!reads && code != QByteArray(MemoryAreaWrite, sizeof MemoryAreaWrite))
-            endCode = UndefinedCommand;
-        else if (!hasParameters || count > MostWords || data.size() != expected)
-            endCode = WrongLength;
-        else if (byteAt(data, ParametersOffset) != DmWords)
-            endCode = WrongArea;
-    }
+    const Asked asked = askedOf(data);
+    if (endCode == 0)
+        endCode = asked.endCode;
     // Back to where it came from, under the same number.
     const quint8 header[MessageHeaderSize] = {IsCommand | IsResponse,
                                               0,
@@ -148,15 +171,15 @@ QByteArray finsResponse(const QByteArray& data, int endCode, const std::function
                                               byteAt(data, 4),
                                               byteAt(data, 5),
                                               byteAt(data, 9)};
-    QByteArray response = raw(header) + code;
+    QByteArray response = raw(header) + asked.code;
     const auto append = [&response](int word) {
         response += static_cast<char>(word >> 8);
         response += static_cast<char>(word & 0xff);
     };
     append(endCode);
-    for (int i = 0; endCode == 0 && i < count; ++i) {
-        const auto at = static_cast<quint16>(address + i);
-        if (reads)
+    for (int i = 0; endCode == 0 && i < asked.count; ++i) {
+        const auto at = static_cast<quint16>(asked.address + i);
+        if (asked.reads)
             append(read(at));
         else
             write(at, wordAt(data, ParametersOffset + ParametersSize + 2 * i));

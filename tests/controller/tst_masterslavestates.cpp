@@ -1,5 +1,6 @@
 #include "ControllerPanel.h"
 #include "MasterSlaveStates.h"
+#include "Rows.h"
 #include "SimulatedController.h"
 #include "TestMain.h"
 
@@ -46,90 +47,77 @@ class TestMasterSlaveStates : public QObject
     Q_OBJECT
 
 private slots:
-    void states_data();
-    void states();
-    void panelDrives();
-};
+    void states_data()
+    {
+        const Rows<QString, QByteArray, int, int, QVector<bool>, QVector<int>> add;
+        // plugged: one after the other
+        // states: connected, coupling, decoupling
+        add("fixed, taken away", "fixed", "9", 0, 0, {true, false}, {0, 0, 0});
+        add("dynamic, at the last moment", "dynamic", "5", 1200, 600, {true, false, true}, {1, 1, 0});
+        add("dynamic, too slow", "dynamic", "5", 1199, 599, {true}, {0, 2, 0});
+        add("file cut short: no position served", "cut", "9", 5000, 5000, {true}, {0, 0, 0});
+        add("its device is switched off", "fixed, off", "9", 0, 0, {true}, {0, 0, 0});
+    }
 
-void TestMasterSlaveStates::states_data()
-{
-    QTest::addColumn<QString>("service");
-    QTest::addColumn<QByteArray>("count");
-    QTest::addColumn<int>("enable");
-    QTest::addColumn<int>("disable");
-    QTest::addColumn<QVector<bool>>("plugged"); // one after the other
-    QTest::addColumn<QVector<int>>("states");   // connected, coupling, decoupling
-    const auto add = [](const char* name, const char* service, const char* count, int enable, int disable,
-                        const QVector<bool>& plugged, const QVector<int>& states) {
-        QTest::newRow(name) << QString(service) << QByteArray(count) << enable << disable << plugged
-                            << states;
-    };
-    add("fixed, taken away", "fixed", "9", 0, 0, {true, false}, {0, 0, 0});
-    add("dynamic, at the last moment", "dynamic", "5", 1200, 600, {true, false, true}, {1, 1, 0});
-    add("dynamic, too slow", "dynamic", "5", 1199, 599, {true}, {0, 2, 0});
-    add("file cut short: no position served", "cut", "9", 5000, 5000, {true}, {0, 0, 0});
-    add("its device is switched off", "fixed, off", "9", 0, 0, {true}, {0, 0, 0});
-}
+    void states()
+    {
+        const auto [service, count, enable, disable, plugged, states] =
+            Rows<QString, QByteArray, int, int, QVector<bool>, QVector<int>>::current();
+        for (const MasterUnderTest& master : Masters) {
+            const QTemporaryDir folder;
+            SimulatedController controller(folder.path());
+            controller.setTimeScale(20);
+            controller.setRestartDuration(10);
+            auto& slaves = controller.behaviour<MasterSlaveStates>();
+            const auto shown = [&] {
+                QVector<int> values;
+                for (const char* rest : {"_status", "_enable_status", "_disable_status"})
+                    values << int(controller.variables().value(master.variable + rest, Position));
+                return values;
+            };
+            QVERIFY(controller.setRoleOn(master.role, true));
+            const QByteArray whole =
+                table(master, service == "cut" ? "fixed" : service, count, enable, disable);
+            QVERIFY(
+                controller.storeFile(master.file, service == "cut" ? whole.left(whole.size() / 2) : whole));
+            const QByteArray device = QByteArray("ECAT_SLAVE_OFF 2 3002;") + master.device + "\r\n";
+            QVERIFY(
+                controller.storeFile("/fa/override.cfg", service.contains("off") ? device : ";" + device));
+            QVERIFY(slaves.setSlaveConnected(master.master, Position, plugged.constFirst()));
+            // What was sent counts from the next restart on.
+            QCOMPARE(shown(), QVector<int>({0, 0, 0}));
+            controller.requestRestart();
+            QTRY_VERIFY(!controller.isUp());
+            QTRY_VERIFY(controller.isUp());
+            for (const bool now : plugged) {
+                QVERIFY(slaves.setSlaveConnected(master.master, Position, now));
+                QTest::qWait(ServedMs);
+            }
+            QCOMPARE(shown(), states);
+            // A role that is switched off serves nobody; one that has nothing to do with it changes nothing.
+            QVERIFY(controller.setRoleOn("Mes", !controller.roles().isOn("Mes")));
+            QCOMPARE(shown(), states);
+            QVERIFY(controller.setRoleOn(master.role, false));
+            QCOMPARE(shown(), QVector<int>({0, 0, 0}));
+            QCOMPARE(controller.variables().value(master.variable + "_configured"), 0.0);
+        }
+    }
 
-void TestMasterSlaveStates::states()
-{
-    QFETCH(QString, service);
-    QFETCH(QByteArray, count);
-    QFETCH(int, enable);
-    QFETCH(int, disable);
-    QFETCH(QVector<bool>, plugged);
-    QFETCH(QVector<int>, states);
-    for (const MasterUnderTest& master : Masters) {
+    void panelDrives()
+    {
         const QTemporaryDir folder;
         SimulatedController controller(folder.path());
-        controller.setTimeScale(20);
-        controller.setRestartDuration(10);
-        auto& slaves = controller.behaviour<MasterSlaveStates>();
-        const auto shown = [&] {
-            QVector<int> values;
-            for (const char* rest : {"_status", "_enable_status", "_disable_status"})
-                values << int(controller.variables().value(master.variable + rest, Position));
-            return values;
-        };
-        QVERIFY(controller.setRoleOn(master.role, true));
-        const QByteArray whole = table(master, service == "cut" ? "fixed" : service, count, enable, disable);
-        QVERIFY(controller.storeFile(master.file, service == "cut" ? whole.left(whole.size() / 2) : whole));
-        const QByteArray device = QByteArray("ECAT_SLAVE_OFF 2 3002;") + master.device + "\r\n";
-        QVERIFY(controller.storeFile("/fa/override.cfg", service.contains("off") ? device : ";" + device));
-        QVERIFY(slaves.setSlaveConnected(master.master, Position, plugged.constFirst()));
-        // What was sent counts from the next restart on.
-        QCOMPARE(shown(), QVector<int>({0, 0, 0}));
-        controller.requestRestart();
-        QTRY_VERIFY(!controller.isUp());
-        QTRY_VERIFY(controller.isUp());
-        for (const bool now : plugged) {
-            QVERIFY(slaves.setSlaveConnected(master.master, Position, now));
-            QTest::qWait(ServedMs);
-        }
-        QCOMPARE(shown(), states);
-        // A role that is switched off serves nobody; one that has nothing to do with it changes nothing.
-        QVERIFY(controller.setRoleOn("Mes", !controller.roles().isOn("Mes")));
-        QCOMPARE(shown(), states);
-        QVERIFY(controller.setRoleOn(master.role, false));
-        QCOMPARE(shown(), QVector<int>({0, 0, 0}));
-        QCOMPARE(controller.variables().value(master.variable + "_configured"), 0.0);
+        ControllerPanel panel(controller);
+        auto* slaves = panel.findChild<QTableWidget*>("slaveTable");
+        constexpr int Plugged = 3;
+        constexpr int Connected = 4;
+        QCOMPARE(controller.readVariable("ifidbus.eim_status", 1), 0.0);
+        slaves->item(1, Plugged)->setCheckState(Qt::Checked);
+        QCOMPARE(controller.readVariable("ifidbus.eim_status", 1), 1.0);
+        QCOMPARE(slaves->item(1, Connected)->text(), QString("1"));
+        QCOMPARE(slaves->item(9 + 1, Connected)->text(), QString("0"));
     }
-}
-
-void TestMasterSlaveStates::panelDrives()
-{
-    const QTemporaryDir folder;
-    SimulatedController controller(folder.path());
-    ControllerPanel panel(controller);
-    auto* slaves = panel.findChild<QTableWidget*>("slaveTable");
-    constexpr int Plugged = 3;
-    constexpr int Connected = 4;
-    QCOMPARE(controller.readVariable("ifidbus.eim_status", 1), 0.0);
-    slaves->item(1, Plugged)->setCheckState(Qt::Checked);
-    QCOMPARE(controller.readVariable("ifidbus.eim_status", 1), 1.0);
-    QCOMPARE(slaves->item(1, Connected)->text(), QString("1"));
-    QCOMPARE(slaves->item(9 + 1, Connected)->text(), QString("0"));
-}
+};
 
 PENDANT_TEST_MAIN(TestMasterSlaveStates)
 #include "tst_masterslavestates.moc"

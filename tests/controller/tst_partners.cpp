@@ -6,6 +6,7 @@
 #include "ModbusFrame.h"
 #include "ModbusSlave.h"
 #include "Partners.h"
+#include "Rows.h"
 #include "Scenario.h"
 #include "SimulatedController.h"
 #include "TestMain.h"
@@ -61,317 +62,312 @@ class TestPartners : public QObject
     Q_OBJECT
 
 private slots:
-    void everyLinkIsMadeByOneClick();
-    void faultsStrike();
-    void documentTellsTheFaults();
-    void registersHaveTheirNames();
-    void everyByteHasAName();
-    void capture();
-    void scenariosThatMakeNoSense();
-    void scenarios_data();
-    void scenarios();
-};
-
-void TestPartners::everyLinkIsMadeByOneClick()
-{
-    Cell cell;
-    ControllerPanel panel(cell.controller);
-    panel.findChild<QTabWidget*>()->setCurrentWidget(panel.findChild<QWidget*>("partnerTab"));
-    const struct
+    void everyLinkIsMadeByOneClick()
     {
-        const char* box;
-        QString light;
-    } clicks[] = {{"fins", Fins}, {"mes", Mes}, {"modbus-server", Master}, {"modbus-client", Slave}};
-    for (const auto& click : clicks) {
-        QCOMPARE(cell.value(click.light), 0.0);
-        panel.findChild<QCheckBox*>(click.box)->click();
-        QTRY_COMPARE(cell.value(click.light), 1.0);
-    }
-    // What stands in the memory of the PLC is what the robot reads.
-    auto* const words = panel.findChild<QTableWidget*>("dmWords");
-    const int row = words->row(words->findItems("1000", Qt::MatchExactly).constFirst());
-    words->item(row, 1)->setText("0x1234");
-    QTRY_COMPARE(cell.controller.behaviour<FinsClient>().word(), quint16(0x1234));
-    // A flood is taken, and the connection stands.
-    panel.findChild<QPushButton*>("mesFlood")->click();
-    QTRY_COMPARE(cell.controller.frames().frames().size(), FrameLog::MostFrames);
-    QCOMPARE(cell.value(Mes), 1.0);
-
-    panel.findChild<QPushButton*>("partnersOff")->click();
-    QTRY_VERIFY(cell.value(Fins) + cell.value(Mes) + cell.value(Master) + cell.value(Slave) == 0.0);
-    panel.findChild<QPushButton*>("partnersOn")->click();
-    QTRY_VERIFY_WITH_TIMEOUT(cell.value(Mes) + cell.value(Slave) == 2.0, 8000);
-    for (const BusRole& role : LinkedBusRoles) {
-        const bool hasSocket = QByteArray(role.name).startsWith("ModbusTcp");
-        QVERIFY2(hasSocket ||
-                     cell.value(role.linkVariable) == (cell.controller.roles().isOn(role.name) ? 1.0 : 0.0),
-                 role.name);
-    }
-    QTRY_COMPARE(cell.controller.readVariable("ifidbus.eim_status", 3), 1.0);
-    QTRY_COMPARE(cell.controller.readVariable("ifidbus.dnm_status", 2), 1.0);
-}
-
-// All at once, as the robot's patience is real time.
-void TestPartners::faultsStrike()
-{
-    const struct
-    {
-        const char* fault;
-        const char* told; // in the log
-    } rows[] = {
-        {"fins-silent", "timed out"},
-        {"fins-slow:-1:4000", "timed out"},
-        {"fins-drops:1:0", "closed"},
-        {"fins-garbage", "no frame"},
-        {"fins-error-code", "error code 33"},
-        {"fins-end-code:-1:0x0205", "end code 0205"},
-        {"modbus-silent", "no answer in time"},
-        {"modbus-slow:-1:5000", "no answer in time"},
-        {"modbus-drops:-1:0", "closed"},
-        {"modbus-garbage", "no frame"},
-        {"modbus-exception:-1:11", "exception 11"},
-        {"modbus-wrong-unit", "no answer in time"},
-        {"port-taken", "port 0: The bound address is already in use"},
-    };
-    std::vector<std::unique_ptr<Cell>> cells;
-    for (const auto& row : rows) {
-        cells.push_back(std::make_unique<Cell>());
-        Cell& cell = *cells.back();
-        QVERIFY2(cell.controller.faults().setFromText(row.fault), row.fault);
-        const bool isFins = !QByteArray(row.fault).startsWith("modbus");
-        QCOMPARE(cell.partners().find(isFins ? "fins" : "modbus-server")->start(),
-                 QByteArray(row.fault) != "port-taken");
-    }
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        QTRY_VERIFY2(!cells[i]->log.filter(QLatin1String(rows[i].told)).isEmpty(),
-                     qPrintable(rows[i].fault + (": " + cells[i]->log.join('\n'))));
-        QVERIFY2(cells[i]->value(Fins) + cells[i]->value(Master) == 0.0, rows[i].fault);
-    }
-
-    // What the robot thinks good enough: a late answer, an exception, an answer before the connection is
-    // dropped.
-    for (const char* fault : {"modbus-slow:-1:300", "modbus-exception:-1:131", "modbus-drops"}) {
         Cell cell;
-        QVERIFY(cell.controller.faults().setFromText(fault));
-        QVERIFY(cell.partners().modbusServer().start());
-        QTRY_VERIFY2(cell.value(Master) == 1.0, fault);
-    }
-    QVERIFY(!Faults().setFromText("modbus-slow:-1:late"));
-}
-
-void TestPartners::documentTellsTheFaults()
-{
-    const QString text =
-        QString::fromUtf8(document("simulated-controller.md")).section("| fault |", 1).section("\n\n", 0, 0);
-    QStringList told;
-    QRegularExpression row("^\\| `([a-z-]+)` \\|.*\\|$", QRegularExpression::MultilineOption);
-    for (auto match = row.globalMatch(text); match.hasNext();)
-        told << match.next().captured(0);
-    QStringList expected;
-    for (int number = 0; number < Faults::FaultCount; ++number) {
-        const auto fault = static_cast<Faults::Fault>(number);
-        expected << QString("| `%1` | %2 | %3 |")
-                        .arg(Faults::nameOf(fault), Faults::targetMeaningOf(fault), Faults::meaningOf(fault));
-    }
-    QCOMPARE(told, expected);
-}
-
-void TestPartners::registersHaveTheirNames()
-{
-    Cell cell;
-    auto& client = cell.partners().modbusClient();
-    client.start();
-    auto& slave = cell.controller.behaviour<ModbusSlave>();
-    const struct
-    {
-        int number;
-        const char* name;
-        QVector<quint16> registers;
-        const char* shown;
-    } rows[] = {
-        {40101, "mtcp_ro_b[0..15] Conveyor 1", {0x8001}, "1000000000000001"},
-        {40134, "mtcp_ro_i[1] Recipe value 2", {0xfffe}, "-2"},
-        {40167, "mtcp_ro_f[1]", {0x40b0, 0}, "5.5"},
-        {40364, "", {7}, ""}, // the second half of a Float is no row of its own
-    };
-    for (const auto& row : rows) {
-        for (int i = 0; i < row.registers.size(); ++i)
-            QVERIFY(slave.setRegister(row.number + i, row.registers[i]));
-    }
-    const auto shown = [&client](int number) {
-        for (const auto& row : client.rows()) {
-            if (row.number == number)
-                return row.name + " = " + row.value;
+        ControllerPanel panel(cell.controller);
+        panel.findChild<QTabWidget*>()->setCurrentWidget(panel.findChild<QWidget*>("partnerTab"));
+        const struct
+        {
+            const char* box;
+            QString light;
+        } clicks[] = {{"fins", Fins}, {"mes", Mes}, {"modbus-server", Master}, {"modbus-client", Slave}};
+        for (const auto& click : clicks) {
+            QCOMPARE(cell.value(click.light), 0.0);
+            panel.findChild<QCheckBox*>(click.box)->click();
+            QTRY_COMPARE(cell.value(click.light), 1.0);
         }
-        return QString(" = ");
-    };
-    for (const auto& row : rows)
-        QTRY_COMPARE(shown(row.number), QString(row.name) + " = " + row.shown);
-}
+        // What stands in the memory of the PLC is what the robot reads.
+        auto* const words = panel.findChild<QTableWidget*>("dmWords");
+        const int row = words->row(words->findItems("1000", Qt::MatchExactly).constFirst());
+        words->item(row, 1)->setText("0x1234");
+        QTRY_COMPARE(cell.controller.behaviour<FinsClient>().word(), quint16(0x1234));
+        // A flood is taken, and the connection stands.
+        panel.findChild<QPushButton*>("mesFlood")->click();
+        QTRY_COMPARE(cell.controller.frames().frames().size(), FrameLog::MostFrames);
+        QCOMPARE(cell.value(Mes), 1.0);
 
-void TestPartners::everyByteHasAName()
-{
-    const auto frame = [](Wire::Id wire, const QByteArray& hex, bool received = false) {
-        return LoggedFrame{QDateTime::currentDateTime(), wire, received, false, 1, 2,
-                           QByteArray::fromHex(hex)};
-    };
-    const struct
+        panel.findChild<QPushButton*>("partnersOff")->click();
+        QTRY_VERIFY(cell.value(Fins) + cell.value(Mes) + cell.value(Master) + cell.value(Slave) == 0.0);
+        panel.findChild<QPushButton*>("partnersOn")->click();
+        QTRY_VERIFY_WITH_TIMEOUT(cell.value(Mes) + cell.value(Slave) == 2.0, 8000);
+        for (const BusRole& role : LinkedBusRoles) {
+            const bool hasSocket = QByteArray(role.name).startsWith("ModbusTcp");
+            QVERIFY2(hasSocket || cell.value(role.linkVariable) ==
+                                      (cell.controller.roles().isOn(role.name) ? 1.0 : 0.0),
+                     role.name);
+        }
+        QTRY_COMPARE(cell.controller.readVariable("ifidbus.eim_status", 3), 1.0);
+        QTRY_COMPARE(cell.controller.readVariable("ifidbus.dnm_status", 2), 1.0);
+    }
+
+    // All at once, as the robot's patience is real time.
+    void faultsStrike()
     {
-        LoggedFrame frame;
-        QString names;
-    } rows[] = {
-        {frame(Wire::Modbus, "0001 0000 0006 01 03 0064 0001"),
-         "transaction/protocol/length/unit/function/address/count"},
-        {frame(Wire::Modbus, "0001 0000 0007 01 03 04 0001 0002", true),
-         "transaction/protocol/length/unit/function/bytes/register 0/register 1"},
-        {frame(Wire::Modbus, "0001 0000 0003 01 83 02", true),
-         "transaction/protocol/length/unit/function/exception"},
-        {frame(Wire::Modbus, "0001 0000 0003 01 63 02"), "transaction/protocol/length/unit/function/data"},
-        {frame(Wire::Fins, "46494e53 0000000c 00000000 00000000 00000016"),
-         "magic/length/command/error code/client node"},
-        {frame(Wire::Fins, "46494e53 00000018 00000002 00000000 c0000200160000030001 0101 0000 04d2"),
-         "magic/length/command/error code/ICF: information control/RSV: reserved/GCT: gateway count/"
-         "DNA: destination network/DA1: destination node/DA2: destination unit/SNA: source network/"
-         "SA1: source node/SA2: source unit/SID: service number/MRC: main request/SRC: sub-request/end code/"
-         "word 0"},
-        {frame(Wire::Mes, "48656c6c6f"), "text"},
-    };
-    for (const auto& row : rows) {
-        QStringList names;
-        for (const FrameField& field : fieldsOf(row.frame))
-            names << field.name;
-        QCOMPARE(names.join('/'), row.names);
-        // Nor is anything left out of one that is cut short, or that goes on.
-        for (int size = 0; size <= row.frame.bytes.size() + 9; ++size) {
-            LoggedFrame other = row.frame;
-            other.bytes = (other.bytes + QByteArray(9, '\x81')).left(size);
-            int at = 0;
-            for (const FrameField& field : fieldsOf(other)) {
-                QCOMPARE(field.offset, at);
-                at += field.size;
+        const struct
+        {
+            const char* fault;
+            const char* told; // in the log
+        } rows[] = {
+            {"fins-silent", "timed out"},
+            {"fins-slow:-1:4000", "timed out"},
+            {"fins-drops:1:0", "closed"},
+            {"fins-garbage", "no frame"},
+            {"fins-error-code", "error code 33"},
+            {"fins-end-code:-1:0x0205", "end code 0205"},
+            {"modbus-silent", "no answer in time"},
+            {"modbus-slow:-1:5000", "no answer in time"},
+            {"modbus-drops:-1:0", "closed"},
+            {"modbus-garbage", "no frame"},
+            {"modbus-exception:-1:11", "exception 11"},
+            {"modbus-wrong-unit", "no answer in time"},
+            {"port-taken", "port 0: The bound address is already in use"},
+        };
+        std::vector<std::unique_ptr<Cell>> cells;
+        for (const auto& row : rows) {
+            cells.push_back(std::make_unique<Cell>());
+            Cell& cell = *cells.back();
+            QVERIFY2(cell.controller.faults().setFromText(row.fault), row.fault);
+            const bool isFins = !QByteArray(row.fault).startsWith("modbus");
+            QCOMPARE(cell.partners().find(isFins ? "fins" : "modbus-server")->start(),
+                     QByteArray(row.fault) != "port-taken");
+        }
+        for (std::size_t i = 0; i < std::size(rows); ++i) {
+            QTRY_VERIFY2(!cells[i]->log.filter(QLatin1String(rows[i].told)).isEmpty(),
+                         qPrintable(rows[i].fault + (": " + cells[i]->log.join('\n'))));
+            QVERIFY2(cells[i]->value(Fins) + cells[i]->value(Master) == 0.0, rows[i].fault);
+        }
+
+        // What the robot thinks good enough: a late answer, an exception, an answer before the connection is
+        // dropped.
+        for (const char* fault : {"modbus-slow:-1:300", "modbus-exception:-1:131", "modbus-drops"}) {
+            Cell cell;
+            QVERIFY(cell.controller.faults().setFromText(fault));
+            QVERIFY(cell.partners().modbusServer().start());
+            QTRY_VERIFY2(cell.value(Master) == 1.0, fault);
+        }
+        QVERIFY(!Faults().setFromText("modbus-slow:-1:late"));
+    }
+
+    void documentTellsTheFaults()
+    {
+        const QString text = QString::fromUtf8(document("simulated-controller.md"))
+                                 .section("| fault |", 1)
+                                 .section("\n\n", 0, 0);
+        QStringList told;
+        QRegularExpression row("^\\| `([a-z-]+)` \\|.*\\|$", QRegularExpression::MultilineOption);
+        for (auto match = row.globalMatch(text); match.hasNext();)
+            told << match.next().captured(0);
+        QStringList expected;
+        for (int number = 0; number < Faults::FaultCount; ++number) {
+            const auto fault = static_cast<Faults::Fault>(number);
+            expected << QString("| `%1` | %2 | %3 |")
+                            .arg(Faults::nameOf(fault), Faults::targetMeaningOf(fault),
+                                 Faults::meaningOf(fault));
+        }
+        QCOMPARE(told, expected);
+    }
+
+    void registersHaveTheirNames()
+    {
+        Cell cell;
+        auto& client = cell.partners().modbusClient();
+        client.start();
+        auto& slave = cell.controller.behaviour<ModbusSlave>();
+        const struct
+        {
+            int number;
+            const char* name;
+            QVector<quint16> registers;
+            const char* shown;
+        } rows[] = {
+            {40101, "mtcp_ro_b[0..15] Conveyor 1", {0x8001}, "1000000000000001"},
+            {40134, "mtcp_ro_i[1] Recipe value 2", {0xfffe}, "-2"},
+            {40167, "mtcp_ro_f[1]", {0x40b0, 0}, "5.5"},
+            {40364, "", {7}, ""}, // the second half of a Float is no row of its own
+        };
+        for (const auto& row : rows) {
+            for (int i = 0; i < row.registers.size(); ++i)
+                QVERIFY(slave.setRegister(row.number + i, row.registers[i]));
+        }
+        const auto shown = [&client](int number) {
+            for (const auto& row : client.rows()) {
+                if (row.number == number)
+                    return row.name + " = " + row.value;
             }
-            QCOMPARE(at, size);
+            return QString(" = ");
+        };
+        for (const auto& row : rows)
+            QTRY_COMPARE(shown(row.number), QString(row.name) + " = " + row.shown);
+    }
+
+    void everyByteHasAName()
+    {
+        const auto frame = [](Wire::Id wire, const QByteArray& hex, bool received = false) {
+            return LoggedFrame{QDateTime::currentDateTime(), wire, received, false, 1, 2,
+                               QByteArray::fromHex(hex)};
+        };
+        const struct
+        {
+            LoggedFrame frame;
+            QString names;
+        } rows[] = {
+            {frame(Wire::Modbus, "0001 0000 0006 01 03 0064 0001"),
+             "transaction/protocol/length/unit/function/address/count"},
+            {frame(Wire::Modbus, "0001 0000 0007 01 03 04 0001 0002", true),
+             "transaction/protocol/length/unit/function/bytes/register 0/register 1"},
+            {frame(Wire::Modbus, "0001 0000 0003 01 83 02", true),
+             "transaction/protocol/length/unit/function/exception"},
+            {frame(Wire::Modbus, "0001 0000 0003 01 63 02"),
+             "transaction/protocol/length/unit/function/data"},
+            {frame(Wire::Fins, "46494e53 0000000c 00000000 00000000 00000016"),
+             "magic/length/command/error code/client node"},
+            {frame(Wire::Fins, "46494e53 00000018 00000002 00000000 c0000200160000030001 0101 0000 04d2"),
+             "magic/length/command/error code/ICF: information control/RSV: reserved/GCT: gateway count/"
+             "DNA: destination network/DA1: destination node/DA2: destination unit/SNA: source network/"
+             "SA1: source node/SA2: source unit/SID: service number/MRC: main request/SRC: sub-request/end "
+             "code/"
+             "word 0"},
+            {frame(Wire::Mes, "48656c6c6f"), "text"},
+        };
+        for (const auto& row : rows) {
+            QStringList names;
+            for (const FrameField& field : fieldsOf(row.frame))
+                names << field.name;
+            QCOMPARE(names.join('/'), row.names);
+            // Nor is anything left out of one that is cut short, or that goes on.
+            for (int size = 0; size <= row.frame.bytes.size() + 9; ++size) {
+                LoggedFrame other = row.frame;
+                other.bytes = (other.bytes + QByteArray(9, '\x81')).left(size);
+                int at = 0;
+                for (const FrameField& field : fieldsOf(other)) {
+                    QCOMPARE(field.offset, at);
+                    at += field.size;
+                }
+                QCOMPARE(at, size);
+            }
         }
     }
-}
 
-void TestPartners::capture()
-{
-    Cell cell;
-    QVERIFY(cell.partners().modbusServer().start());
-    cell.partners().modbusClient().start();
-    QTRY_VERIFY(cell.value(Master) == 1.0 && cell.value(Slave) == 1.0 &&
-                cell.controller.frames().frames().size() > 4);
-    cell.partners().stopAll();
-    ControllerPanel panel(cell.controller);
-    auto* const tab = panel.findChild<FrameTab*>();
-    tab->refresh();
-    const QString path = cell.folder.filePath("frames.pcap");
-    QVERIFY(tab->save(path));
-    QVERIFY(!tab->save(cell.folder.filePath("nowhere/frames.pcap")));
-
-    // An own look: every packet is as long as it says, sums up, and carries its frame.
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
-    QCOMPARE(bytes.left(4).toHex(), QByteArray("d4c3b2a1"));
-    int at = 24;
-    int frames = 0;
-    for (const LoggedFrame& frame : cell.controller.frames().frames()) {
-        const int size = *reinterpret_cast<const qint32*>(bytes.constData() + at + 8);
-        const QByteArray packet = bytes.mid(at + 16, size);
-        QCOMPARE(packet.size(), size);
-        QCOMPARE(int(ModbusFrame::wordAt(packet, 2)), size);
-        quint32 sum = 0;
-        for (int word = 0; word < 20; word += 2)
-            sum += ModbusFrame::wordAt(packet, word);
-        QCOMPARE((sum & 0xffff) + (sum >> 16), 0xffffU);
-        QCOMPARE(packet.mid(40), frame.bytes);
-        at += 16 + size;
-        ++frames;
-    }
-    QCOMPARE(at, bytes.size());
-
-    const QString tshark = QStandardPaths::findExecutable("tshark");
-    if (tshark.isEmpty())
-        QSKIP("tshark is not installed");
-    QProcess reader;
-    QStringList arguments = {"-r", path, "-o", "ip.check_checksum:TRUE", "-o", "tcp.check_checksum:TRUE"};
-    for (const LoggedFrame& frame : cell.controller.frames().frames())
-        arguments
-            << "-d"
-            << QString("tcp.port==%1,mbtcp").arg(frame.isServer ? frame.controllerPort : frame.partnerPort);
-    reader.start(tshark, arguments);
-    QTRY_COMPARE_WITH_TIMEOUT(reader.state(), QProcess::NotRunning, 60000);
-    const QByteArray told = reader.readAllStandardOutput();
-    QVERIFY2(told.count("Modbus/TCP") == frames && !told.contains("Malformed") && !told.contains("incorrect"),
-             told + reader.readAllStandardError());
-}
-
-void TestPartners::scenariosThatMakeNoSense()
-{
-    Cell cell;
-    Scenario scenario(cell.controller, {});
-    const struct
+    void capture()
     {
-        const char* text;
-        const char* complaint;
-    } rows[] = {
-        {"# nothing\n\n  \r\n", ""},
-        {"now cable EtherCatSlave out", "line 1: a line is"},
-        {"-1 restart", "line 1: a line is"},
-        {"nan restart", "line 1: a line is"},
-        {"0 restart\n1", "line 2: a line is"},
-        {"0 jump", "line 1: there is no action \"jump\""},
-        {"0 cable Mes out", "line 1: there is no role"},
-        {"0 cable EtherCatSlave", "line 1: it is: cable"},
-        {"0 cable EtherCatSlave loose", "line 1: it is: cable"},
-        {"0 fault no-such:1", "line 1: there is no fault"},
-        {"0 variable ifidbus.eim_status[9] 1", "line 1: there is no variable"},
-        {"0 variable ifidbus.eim_status[8] many", "line 1: it is: variable"},
-        {"0 partner plc on", "line 1: there is no partner"},
-        {"0 user-level 10", "line 1: it is: user-level"},
-    };
-    for (const auto& row : rows) {
-        const QString complaint = scenario.load(row.text);
-        QVERIFY2(complaint.contains(row.complaint) && complaint.isEmpty() == !*row.complaint,
-                 qPrintable(row.text + (": " + complaint)));
+        Cell cell;
+        QVERIFY(cell.partners().modbusServer().start());
+        cell.partners().modbusClient().start();
+        QTRY_VERIFY(cell.value(Master) == 1.0 && cell.value(Slave) == 1.0 &&
+                    cell.controller.frames().frames().size() > 4);
+        cell.partners().stopAll();
+        ControllerPanel panel(cell.controller);
+        auto* const tab = panel.findChild<FrameTab*>();
+        tab->refresh();
+        const QString path = cell.folder.filePath("frames.pcap");
+        QVERIFY(tab->save(path));
+        QVERIFY(!tab->save(cell.folder.filePath("nowhere/frames.pcap")));
+
+        // An own look: every packet is as long as it says, sums up, and carries its frame.
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        QCOMPARE(bytes.left(4).toHex(), QByteArray("d4c3b2a1"));
+        int at = 24;
+        int frames = 0;
+        for (const LoggedFrame& frame : cell.controller.frames().frames()) {
+            const int size = *reinterpret_cast<const qint32*>(bytes.constData() + at + 8);
+            const QByteArray packet = bytes.mid(at + 16, size);
+            QCOMPARE(packet.size(), size);
+            QCOMPARE(int(ModbusFrame::wordAt(packet, 2)), size);
+            quint32 sum = 0;
+            for (int word = 0; word < 20; word += 2)
+                sum += ModbusFrame::wordAt(packet, word);
+            QCOMPARE((sum & 0xffff) + (sum >> 16), 0xffffU);
+            QCOMPARE(packet.mid(40), frame.bytes);
+            at += 16 + size;
+            ++frames;
+        }
+        QCOMPARE(at, bytes.size());
+
+        const QString tshark = QStandardPaths::findExecutable("tshark");
+        if (tshark.isEmpty())
+            QSKIP("tshark is not installed");
+        QProcess reader;
+        QStringList arguments = {"-r", path, "-o", "ip.check_checksum:TRUE", "-o", "tcp.check_checksum:TRUE"};
+        for (const LoggedFrame& frame : cell.controller.frames().frames())
+            arguments << "-d"
+                      << QString("tcp.port==%1,mbtcp")
+                             .arg(frame.isServer ? frame.controllerPort : frame.partnerPort);
+        reader.start(tshark, arguments);
+        QTRY_COMPARE_WITH_TIMEOUT(reader.state(), QProcess::NotRunning, 60000);
+        const QByteArray told = reader.readAllStandardOutput();
+        QVERIFY2(told.count("Modbus/TCP") == frames && !told.contains("Malformed") &&
+                     !told.contains("incorrect"),
+                 told + reader.readAllStandardError());
     }
-}
 
-void TestPartners::scenarios_data()
-{
-    QTest::addColumn<QStringList>("seen"); // variables as they change, one after the other
-    QTest::newRow("plc-comes-and-goes.txt")
-        << QStringList{"ifins_tcp.error=1", "ifins_tcp.connected=1", "ifins_tcp.error=1"};
-    QTest::newRow("lost-slave-module.txt") << QStringList{
-        "ifidbus.ethcat_link_state=0", "ifidbus.ethcat_link_state=1", "ifidbus.ethcat_link_state=0"};
-    QTest::newRow("busy-morning.txt")
-        << QStringList{"ifidbus.mtcp_link_state=1", "imes.tcp_server_connected=0", "level=2", "level=4",
-                       "imes.tcp_server_connected=1"};
-}
+    void scenariosThatMakeNoSense()
+    {
+        Cell cell;
+        Scenario scenario(cell.controller, {});
+        const struct
+        {
+            const char* text;
+            const char* complaint;
+        } rows[] = {
+            {"# nothing\n\n  \r\n", ""},
+            {"now cable EtherCatSlave out", "line 1: a line is"},
+            {"-1 restart", "line 1: a line is"},
+            {"nan restart", "line 1: a line is"},
+            {"0 restart\n1", "line 2: a line is"},
+            {"0 jump", "line 1: there is no action \"jump\""},
+            {"0 cable Mes out", "line 1: there is no role"},
+            {"0 cable EtherCatSlave", "line 1: it is: cable"},
+            {"0 cable EtherCatSlave loose", "line 1: it is: cable"},
+            {"0 fault no-such:1", "line 1: there is no fault"},
+            {"0 variable ifidbus.eim_status[9] 1", "line 1: there is no variable"},
+            {"0 variable ifidbus.eim_status[8] many", "line 1: it is: variable"},
+            {"0 partner plc on", "line 1: there is no partner"},
+            {"0 user-level 10", "line 1: it is: user-level"},
+        };
+        for (const auto& row : rows) {
+            const QString complaint = scenario.load(row.text);
+            QVERIFY2(complaint.contains(row.complaint) && complaint.isEmpty() == !*row.complaint,
+                     qPrintable(row.text + (": " + complaint)));
+        }
+    }
 
-void TestPartners::scenarios()
-{
-    QFETCH(QStringList, seen);
-    // The sockets live in real time, which a scenario about them must leave them.
-    Cell cell(4);
-    const auto take = [&seen](const QString& change) {
-        if (!seen.isEmpty() && seen.constFirst() == change)
-            seen.removeFirst();
-    };
-    connect(&cell.controller.variables(), &VariableStore::changed, this,
-            [&take](const QString& name, int /*element*/, double value) {
-                take(QString("%1=%2").arg(name).arg(value));
-            });
-    Scenario scenario(cell.controller, [&take](int level) { take(QString("level=%1").arg(level)); });
-    const QByteArray text = document((QByteArray("scenarios/") + QTest::currentDataTag()).constData());
-    QVERIFY(!text.isEmpty());
-    QCOMPARE(scenario.load(text), QString());
-    scenario.start();
-    QTRY_VERIFY_WITH_TIMEOUT(scenario.isOver(), 30000);
-    QTRY_COMPARE(seen, QStringList());
-}
+    void scenarios_data()
+    {
+        const Rows<QStringList> row;
+        // seen: variables as they change, one after the other
+        row("plc-comes-and-goes.txt",
+            QStringList{"ifins_tcp.error=1", "ifins_tcp.connected=1", "ifins_tcp.error=1"});
+        row("lost-slave-module.txt", QStringList{"ifidbus.ethcat_link_state=0", "ifidbus.ethcat_link_state=1",
+                                                 "ifidbus.ethcat_link_state=0"});
+        row("busy-morning.txt", QStringList{"ifidbus.mtcp_link_state=1", "imes.tcp_server_connected=0",
+                                            "level=2", "level=4", "imes.tcp_server_connected=1"});
+    }
+
+    void scenarios()
+    {
+        auto [seen] = Rows<QStringList>::current();
+        // The sockets live in real time, which a scenario about them must leave them.
+        Cell cell(4);
+        const auto take = [&seen](const QString& change) {
+            if (!seen.isEmpty() && seen.constFirst() == change)
+                seen.removeFirst();
+        };
+        connect(&cell.controller.variables(), &VariableStore::changed, this,
+                [&take](const QString& name, int /*element*/, double value) {
+                    take(QString("%1=%2").arg(name).arg(value));
+                });
+        Scenario scenario(cell.controller, [&take](int level) { take(QString("level=%1").arg(level)); });
+        const QByteArray text = document((QByteArray("scenarios/") + QTest::currentDataTag()).constData());
+        QVERIFY(!text.isEmpty());
+        QCOMPARE(scenario.load(text), QString());
+        scenario.start();
+        QTRY_VERIFY_WITH_TIMEOUT(scenario.isOver(), 30000);
+        QTRY_COMPARE(seen, QStringList());
+    }
+};
 
 PENDANT_TEST_MAIN(TestPartners)
 #include "tst_partners.moc"
