@@ -60,34 +60,47 @@ constexpr std::size_t BlockBytesWord = 3; // behind keyword, first register and 
 // The first line with the marker ends the header; the rule of every device block carries it.
 constexpr std::string_view Marker = "===================";
 constexpr const char* Rule = ";======================================";
-constexpr std::string_view DevicePrefix = ";   Device ";
-constexpr std::string_view MacIdKeyword = " MAC ID";
+constexpr std::string_view DevicePrefix = ";   Device";
+constexpr std::string_view MacIdKeyword = "MAC ID";
 
-void readValue(std::string_view word, int& value)
+template <typename Record>
+void readValue(Record& record, std::string_view keyword, int Record::*member, std::string_view word)
 {
-    AsciiText::readNumber(word, value);
+    record.kept.read(keyword, word, record.*member);
 }
 
-void readValue(std::string_view word, QString& value)
+template <typename Record>
+void readValue(Record& record, std::string_view /*keyword*/, QString Record::*member, std::string_view word)
 {
-    value = AsciiText::text(word);
+    record.*member = AsciiText::text(word);
 }
 
-QByteArray written(int value)
+template <typename Record>
+QByteArray written(const Record& record, std::string_view keyword, int Record::*member)
 {
-    return QByteArray::number(value);
+    return record.kept.written(keyword, record.*member);
 }
 
-QByteArray written(const QString& value)
+template <typename Record>
+QByteArray written(const Record& record, std::string_view /*keyword*/, QString Record::*member)
 {
-    return AsciiText::bytes(value);
+    return AsciiText::bytes(record.*member);
 }
 
 template <typename Record>
 QByteArray written(const Field<Record>& field, const Record& record)
 {
     return AsciiText::raw(field.keyword) + ' ' +
-           std::visit([&record](auto member) { return written(record.*member); }, field.member);
+           std::visit([&](auto member) { return written(record, field.keyword, member); }, field.member);
+}
+
+// With any white space behind the word, or the index at once; another word that begins so is prose.
+bool beginsDevice(std::string_view line)
+{
+    if (line.size() <= DevicePrefix.size() || line.substr(0, DevicePrefix.size()) != DevicePrefix)
+        return false;
+    const char next = line[DevicePrefix.size()];
+    return AsciiText::parts(AsciiText::Between::WhiteSpace, next) || (next >= '0' && next <= '9');
 }
 
 // A comment ends the line; a line that is commented out has no words.
@@ -113,7 +126,7 @@ template <typename Record>
 void readField(const Field<Record>* field, const AsciiText::Words& words, Record& record)
 {
     if (field && words.size() > 1)
-        std::visit([&](auto member) { readValue(words[1], record.*member); }, field->member);
+        std::visit([&](auto member) { readValue(record, field->keyword, member, words[1]); }, field->member);
 }
 
 void readDeviceLine(const AsciiText::Words& words, Device& device)
@@ -124,7 +137,7 @@ void readDeviceLine(const AsciiText::Words& words, Device& device)
         if (words[0] == direction.blockKeyword) {
             AsciiText::readNumber(words[1], device.*direction.firstRegister);
             if (words.size() > BlockBytesWord)
-                AsciiText::readNumber(words[BlockBytesWord], device.*direction.bytes);
+                device.kept.read(direction.blockKeyword, words[BlockBytesWord], device.*direction.bytes);
             device.*direction.bytes = qBound(0, device.*direction.bytes, Device::MostBytes);
         }
         readField(fieldOf(direction.fieldsBegin, direction.fieldsEnd, words[0]), words, device);
@@ -140,15 +153,17 @@ public:
     {
     }
 
-    bool operator()(std::string_view line)
+    void operator()(std::string_view line)
     {
         m_isBelowHeader = m_isBelowHeader || TextTemplate::contains(line, Marker);
         // Blocks in a header are the controller's prose: they come through a write as they are, and must not
         // appear a second time.
-        if (m_isBelowHeader && line.substr(0, DevicePrefix.size()) == DevicePrefix) {
+        if (m_isBelowHeader && beginsDevice(line)) {
             const std::size_t macId = line.find(MacIdKeyword);
-            if (macId != std::string_view::npos)
-                return begin(line.substr(macId + MacIdKeyword.size()));
+            if (macId != std::string_view::npos) {
+                begin(line.substr(macId + MacIdKeyword.size()));
+                return;
+            }
         }
         const AsciiText::Words words = lineWords(line);
         if (m_device) {
@@ -157,21 +172,22 @@ public:
         } else {
             readField(settingOf(words), words, m_record);
         }
-        return true;
     }
 
     /// The last device has its outputs, which stand at the end of its block.
     bool isWhole() const { return !m_device || m_hasOutputs; }
 
 private:
-    bool begin(std::string_view macId)
+    void begin(std::string_view macId)
     {
-        if (m_record.count == Master::MaxDevices)
-            return false;
         m_hasOutputs = false;
-        m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
-        AsciiText::readNumber(AsciiText::firstWord(macId, AsciiText::Between::WhiteSpace), m_device->MAC_ID);
-        return true;
+        if (m_record.count < Master::MaxDevices)
+            m_device = &m_record.devices[static_cast<std::size_t>(m_record.count++)];
+        else
+            m_device = &m_record.further.emplace_back();
+        const std::string_view word = AsciiText::firstWord(macId, AsciiText::Between::WhiteSpace);
+        if (!word.empty())
+            m_device->kept.read(MacIdKeyword, word, m_device->MAC_ID);
     }
 
     Master& m_record;
@@ -214,15 +230,14 @@ QByteArray lineEndOf(const QByteArray& header)
 
 QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
 {
-    QByteArray out = Rule + lineEnd + DevicePrefix.data() + QByteArray::number(number) + MacIdKeyword.data() +
-                     ' ' + QByteArray::number(device.MAC_ID) + lineEnd;
+    QByteArray out = Rule + lineEnd + DevicePrefix.data() + ' ' + QByteArray::number(number) + ' ' +
+                     MacIdKeyword.data() + ' ' + device.kept.written(MacIdKeyword, device.MAC_ID) + lineEnd;
     for (const Direction& direction : Directions) {
         const int first = device.*direction.firstRegister;
         const int count = Master::registerCount(device.*direction.bytes);
         out += direction.heading + lineEnd + AsciiText::raw(direction.blockKeyword);
-        for (const int value : {first, count, device.*direction.bytes})
-            out += ' ' + QByteArray::number(value);
-        out += lineEnd;
+        out += ' ' + QByteArray::number(first) + ' ' + QByteArray::number(count) + ' ' +
+               device.kept.written(direction.blockKeyword, device.*direction.bytes) + lineEnd;
         for (const Field<Device>* field = direction.fieldsBegin; field != direction.fieldsEnd; ++field)
             out += written(*field, device) + lineEnd;
         if (count == 0)
@@ -235,15 +250,20 @@ QByteArray block(const Device& device, int number, const QByteArray& lineEnd)
     return out + Rule + lineEnd;
 }
 
+template <typename Record, typename Visit>
+void forEachDevice(Record& record, Visit visit)
+{
+    std::for_each_n(record.devices.begin(), record.count, visit);
+    std::for_each(record.further.begin(), record.further.end(), visit);
+}
+
 QByteArray blocks(const Master& record, const QByteArray& header)
 {
     const QByteArray lineEnd = lineEndOf(header);
     QByteArray out;
-    if (record.count > 0 && !header.endsWith('\n'))
-        out += lineEnd;
-    for (int i = 0; i < record.count; ++i)
-        out += block(record.devices[static_cast<std::size_t>(i)], i + 1, lineEnd);
-    return out;
+    int number = 0;
+    forEachDevice(record, [&](const Device& device) { out += block(device, ++number, lineEnd); });
+    return out.isEmpty() || header.endsWith('\n') ? out : lineEnd + out;
 }
 
 } // namespace
@@ -253,13 +273,12 @@ void DeviceNetMasterConfig::layOutRegisters()
     count = qBound(0, count, MaxDevices);
     for (const Direction& direction : Directions) {
         int next = FirstRegister;
-        for (int i = 0; i < count; ++i) {
-            Device& device = devices[static_cast<std::size_t>(i)];
+        forEachDevice(*this, [&](Device& device) {
             int& bytes = device.*direction.bytes;
             bytes = qBound(0, bytes, Device::MostBytes);
             device.*direction.firstRegister = next;
             next += registerCount(bytes);
-        }
+        });
     }
 }
 
@@ -270,9 +289,13 @@ bool DeviceNetMasterFile::read(const QByteArray& content, DeviceNetMasterConfig&
         return false;
     record.count = 0;
     record.devices = {};
+    record.further.clear();
+    record.kept.clear();
     Reader reader(record);
-    TextTemplate::forEachLine(content,
-                              [&reader](std::string_view line, std::string_view) { return reader(line); });
+    TextTemplate::forEachLine(content, [&reader](std::string_view line, std::string_view) {
+        reader(line);
+        return true;
+    });
     if (recognised)
         *recognised = reader.isWhole();
     return true;

@@ -1,10 +1,13 @@
 #ifndef DEVICENETMASTERFILE_H
 #define DEVICENETMASTERFILE_H
 
+#include "KeptNumbers.h"
+
 #include <QByteArray>
 #include <QString>
 
 #include <array>
+#include <vector>
 
 /// A slave device that the DeviceNet master scans. Fields are named as the keywords of its block.
 struct DeviceNetMasterDevice
@@ -22,6 +25,7 @@ struct DeviceNetMasterDevice
     int NODE_STATUS_REG = 0;                   ///< register of the node's status; no page edits it
     int BLOCK_TO_RBX = 0;                      ///< first register of the inputs, as the file was written
     int BLOCK_FROM_RBX = 0;                    ///< first register of the outputs
+    KeptNumbers kept = {};                     ///< by keyword
 };
 
 /// Record of dnmst0.cfg: the DeviceNet master's own settings and its scan list.
@@ -37,6 +41,9 @@ struct DeviceNetMasterConfig
     int PACHET_RATIO = 1;                             ///< ms, 1 to 255
     int count = 0;                                    ///< devices in use, 0 to MaxDevices
     std::array<DeviceNetMasterDevice, MaxDevices> devices;
+    /// Devices of the file from the 17th on: no page shows them, and they are written behind the others.
+    std::vector<DeviceNetMasterDevice> further;
+    KeptNumbers kept = {}; ///< of the settings, by keyword
 
     /// Sizes of the bus in the I/O mapping, bits. They are not in the file: who edits the devices sets them.
     int inputLimitBits = 0;

@@ -1,6 +1,8 @@
 #ifndef FINSCLIENTFILE_H
 #define FINSCLIENTFILE_H
 
+#include "KeptNumbers.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -15,6 +17,7 @@ struct FinsClientConfig
     int ReadDmAddress = 1000;                          ///< first DM word read from the PLC
     int WriteDmAddress = 5000;                         ///< first DM word written to the PLC
     int IpPortIndex = 1;                               ///< network port of the controller: 0 ETH2, else ETH3
+    KeptNumbers kept = {};                             ///< by element
 };
 
 namespace FinsClientFile {

@@ -5,7 +5,8 @@
 
 #include <array>
 
-/// The files of a controller that the project knows. First the export set, in the order in which it is fetched.
+/// The files of a controller that the project knows. First the export set, in the order in which it is
+/// fetched.
 enum class FileId {
     Heartbeat,
     Mapping,

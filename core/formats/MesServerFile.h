@@ -1,6 +1,8 @@
 #ifndef MESSERVERFILE_H
 #define MESSERVERFILE_H
 
+#include "KeptNumbers.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -12,6 +14,7 @@ struct MesServerConfig
     int Protocol = 0;                      ///< 0 robot, 1 auxiliary
     int IntervalTime = 100;                ///< ms, 0 to 9999 on the page
     int IpPortIndex = 1;                   ///< network port of the controller: 0 ETH2, else ETH3
+    KeptNumbers kept = {};                 ///< by element
 };
 
 namespace MesServerFile {

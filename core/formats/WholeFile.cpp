@@ -14,6 +14,15 @@ namespace {
 // Wider than what an import takes, so that a file of the controller's that is too large is told as such.
 constexpr off_t LargestFile = off_t{16} * 1024 * 1024;
 
+// A file system that cannot write through says so, and that is no failure.
+bool isWrittenThrough(int descriptor, WholeFile::Sync sync)
+{
+    int result = sync(descriptor);
+    while (result != 0 && errno == EINTR)
+        result = sync(descriptor);
+    return result == 0 || errno == EINVAL || errno == EROFS;
+}
+
 } // namespace
 
 // The system's own calls: for files of a few kilobytes QFile takes longer to open than to read.
@@ -66,11 +75,11 @@ bool WholeFile::read(const QString& path, QByteArray& content)
     return file.read(content.data());
 }
 
-bool WholeFile::replace(const QString& path, const QByteArray& content)
+bool WholeFile::replace(const QString& path, const QByteArray& content, Sync sync)
 {
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
-           file.commit();
+           isWrittenThrough(file.handle(), sync ? sync : ::fdatasync) && file.commit();
 }
 
 bool WholeFile::areSame(const QString& one, const QString& other)

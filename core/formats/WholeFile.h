@@ -33,9 +33,13 @@ private:
 /// Reads all bytes; false as `Reader` says.
 bool read(const QString& path, QByteArray& content);
 
-/// Replaces the file in one step: it holds either the old bytes or the new ones. The buffer is flushed and
-/// the result checked before the new file takes the old one's place: on a full disk the old file stays.
-bool replace(const QString& path, const QByteArray& content);
+/// Writes a file's bytes through to the disk, as `fdatasync` does: 0, or -1 and `errno`.
+using Sync = int (*)(int descriptor);
+
+/// Replaces the file in one step: it holds either the old bytes or the new ones. The new ones are flushed and
+/// written through, and both results checked, before the new file takes the old one's place: on a full disk
+/// or a failing one the old file stays. `sync` is another one for tests of that.
+bool replace(const QString& path, const QByteArray& content, Sync sync = nullptr);
 
 /// Whether both files can be read and hold the same bytes.
 bool areSame(const QString& one, const QString& other);

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <initializer_list>
 #include <iterator>
+#include <type_traits>
 #include <variant>
 
 /// Formats whose elements each hold one value of a record. A format is a table of fields that its reader and
@@ -19,6 +20,16 @@ struct Field
 {
     const char* element;
     std::variant<QString Record::*, int Record::*, bool Record::*> member;
+};
+
+/// Whether a record keeps how its numbers were spelled: it has a `KeptNumbers kept`.
+template <typename Record, typename = void>
+struct KeepsNumbers : std::false_type
+{
+};
+template <typename Record>
+struct KeepsNumbers<Record, std::void_t<decltype(Record::kept)>> : std::true_type
+{
 };
 
 inline void readValue(pugi::xml_node element, QString& value)
@@ -47,23 +58,45 @@ inline QString writtenValue(bool value)
     return value ? QStringLiteral("1") : QStringLiteral("0");
 }
 
+// A record that keeps how its numbers are spelled.
+template <typename Record>
+void note(Record& record, const Field<Record>& field, pugi::xml_node element)
+{
+    const auto* number = std::get_if<int Record::*>(&field.member);
+    if (number && element)
+        record.kept.note(field.element, element.text().get(), record.**number);
+}
+
 /// Reads the children of `parent` that `fields` name. A missing one leaves nothing of an earlier value.
 template <typename Record, typename Fields>
 void read(pugi::xml_node parent, const Fields& fields, Record& record)
 {
-    for (const Field<Record>& field : fields)
-        std::visit([&](auto member) { readValue(parent.child(field.element), record.*member); },
-                   field.member);
+    if constexpr (KeepsNumbers<Record>::value)
+        record.kept.clear();
+    for (const Field<Record>& field : fields) {
+        const pugi::xml_node element = parent.child(field.element);
+        std::visit([&](auto member) { readValue(element, record.*member); }, field.member);
+        if constexpr (KeepsNumbers<Record>::value)
+            note(record, field, element);
+    }
 }
 
 /// Appends a child of `parent` for each of `fields`.
 template <typename Record, typename Fields>
 void append(pugi::xml_node parent, const Fields& fields, const Record& record)
 {
-    for (const Field<Record>& field : fields)
+    for (const Field<Record>& field : fields) {
+        if constexpr (KeepsNumbers<Record>::value) {
+            if (const auto* number = std::get_if<int Record::*>(&field.member)) {
+                const QByteArray word = record.kept.written(field.element, record.**number);
+                XmlFile::appendText(parent, field.element, QString::fromUtf8(word));
+                continue;
+            }
+        }
         std::visit(
             [&](auto member) { XmlFile::appendText(parent, field.element, writtenValue(record.*member)); },
             field.member);
+    }
 }
 
 /// Names of the nested elements, from the root on, that hold the fields of a format.

@@ -304,7 +304,7 @@ void TestDeviceNetFiles::devicesAreRead_data()
         {"MAC 5 IN 255@2001 OUT 255@2001 0/0/0 0x00 0"});
     row("no numbers",
         block("x", "BLOCK_TO_RBX a b c\nVENDOR_ID 0x10\nPROD_CODE 99999999999\nREVISION 1.5\nCFG_FLAG\n"),
-        {"MAC -1 IN 0@0 OUT 0@0 0/0/0 0x00 0"});
+        {"MAC -1 IN 0@0 OUT 0@0 16/0/0 0x00 0"});
     row("no outputs, too few words", block("5", "BLOCK_TO_RBX 2001\nBLOCK_FROM_RBX\nVENDOR_ID"),
         {"MAC 5 IN 0@2001 OUT 0@0 0/0/0 0x00 0"});
     row("no MAC ID", block("", "VENDOR_ID 7\n"), {"MAC -1 IN 0@0 OUT 0@0 7/0/0 0x00 0"});
@@ -318,6 +318,9 @@ void TestDeviceNetFiles::devicesAreRead_data()
     row("no MAC ID at the line's end, a tab before one",
         Rule + QByteArray(";   Device 1 MAC ID\r\nVENDOR_ID 7\n") + ";   Device 2 MAC ID\t9\nVENDOR_ID 8\n",
         {"MAC -1 IN 0@0 OUT 0@0 7/0/0 0x00 0", "MAC 9 IN 0@0 OUT 0@0 8/0/0 0x00 0"});
+    row("a tab or nothing before the index",
+        Rule + QByteArray(";   Device\t1 MAC ID 5\nVENDOR_ID 7\n;   Device2\tMAC ID 9\nVENDOR_ID 8\n"),
+        {"MAC 5 IN 0@0 OUT 0@0 7/0/0 0x00 0", "MAC 9 IN 0@0 OUT 0@0 8/0/0 0x00 0"});
     row("a comment about devices", Rule + QByteArray(";   Devices by MAC ID 5\n; Device 1 MAC ID 5\n"), {});
 }
 
