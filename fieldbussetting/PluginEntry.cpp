@@ -1,5 +1,6 @@
 #include "PluginEntry.h"
 
+#include "ControllerCopies.h"
 #include "FieldbusSettingLib.h"
 #include "MainWidget.h"
 #include "ZelCustomData.h"
@@ -9,7 +10,8 @@ namespace {
 // The library object has no owner but the plug-in; it goes when the plug-in is unloaded.
 struct LibraryRelease
 {
-    LibraryRelease() = default;
+    // What the library lets go of last is made first, so that it is still there.
+    LibraryRelease() { ControllerCopies::instance(); }
     LibraryRelease(const LibraryRelease&) = delete;
     LibraryRelease& operator=(const LibraryRelease&) = delete;
     ~LibraryRelease() { FieldbusSettingLib::destroy(); }
