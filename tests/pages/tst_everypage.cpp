@@ -669,6 +669,47 @@ private slots:
         QVERIFY(change());
     }
 
+    void keysRestWhileItIsAtWork_data() { eachPage(); }
+
+    // Struck again and again while the page loads, saves and restarts the robot, keys do nothing.
+    void keysRestWhileItIsAtWork()
+    {
+        QVERIFY(openUpTo());
+        QTimer keys;
+        int struck = 0;
+        QObject::connect(&keys, &QTimer::timeout, this, [&] {
+            const QWidget* menu = find("FbMainWidget");
+            if (!menu || !menu->testAttribute(Qt::WA_TransparentForMouseEvents) ||
+                QApplication::activeModalWidget())
+                return;
+            ++struck;
+            for (QWidget* button : {findOn(page().widget, page().save), find("configBtn"), find("exitBtn")}) {
+                if (button)
+                    QTest::keyClick(button, Qt::Key_Space);
+            }
+        });
+        keys.start(3);
+        QVERIFY(fail(QStringLiteral("fetch-fails:2:") + page().files.front().path));
+        QVERIFY(show());
+        QCOMPARE(messages(), QStringList());
+        QCOMPARE(traffic().stores(), QStringList());
+
+        controller().faults().clearAll();
+        QStringList sent;
+        for (const PageFile& file : page().files)
+            sent << file.path;
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+        QVERIFY(change());
+        QVERIFY(save());
+        if (page().saved == Restart)
+            QTRY_VERIFY(!isOpen());
+        QVERIFY(settle());
+        QCOMPARE(messages().count(page().question), 1);
+        QCOMPARE(traffic().stores(), sent);
+        QVERIFY(traffic().restartRequests() <= int(page().saved != Saved));
+        QVERIFY(struck > 0 || page().saved != Restart);
+    }
+
     void tickWithoutChangeCostsNothing_data()
     {
         const Rows<int> row = eachPage();
