@@ -82,9 +82,8 @@ void PartnerTab::addPartner(QGridLayout* grid, Partner* partner, const QString& 
     row.port->setValue(partner->port());
     // Who calls the robot finds the port where the robot has it.
     row.port->setEnabled(partner->port() != 0);
-    connect(row.on, &QCheckBox::toggled, this, [this, partner, port = row.port](bool on) {
-        if (on && port->isEnabled())
-            partner->setPort(port->value());
+    connect(row.port, QOverload<int>::of(&QSpinBox::valueChanged), partner, &Partner::setPort);
+    connect(row.on, &QCheckBox::toggled, this, [this, partner](bool on) {
         if (on)
             partner->start();
         else
