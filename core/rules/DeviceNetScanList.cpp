@@ -1,32 +1,36 @@
 #include "DeviceNetScanList.h"
 
+#include "FieldRanges.h"
+
 #include <algorithm>
 
 namespace {
 
 using Device = DeviceNetMasterDevice;
 
-constexpr double MostBytes = 64;
-constexpr double LargestIdentity = 65535;
-constexpr double LargestFlag = 0xffff;
 constexpr int BitsInByte = 8;
 
 struct Cell
 {
     int Device::*member; // null: the configuration flag, which is text
-    double minimum;
-    double maximum;
+    FieldRange range;
 };
+
+template <int Device::*Member>
+constexpr Cell cellFor()
+{
+    return {Member, RangeOf<Member>};
+}
 
 // In the order of the editable columns.
 constexpr Cell Cells[] = {
-    {&Device::MAC_ID, 1, 63},
-    {&Device::inputBytes, 0, MostBytes},
-    {&Device::outputBytes, 0, MostBytes},
-    {&Device::VENDOR_ID, -LargestIdentity, LargestIdentity},
-    {&Device::PROD_CODE, -LargestIdentity, LargestIdentity},
-    {&Device::REVISION, -LargestIdentity, LargestIdentity},
-    {nullptr, 0, LargestFlag},
+    cellFor<&Device::MAC_ID>(),
+    cellFor<&Device::inputBytes>(),
+    cellFor<&Device::outputBytes>(),
+    cellFor<&Device::VENDOR_ID>(),
+    cellFor<&Device::PROD_CODE>(),
+    cellFor<&Device::REVISION>(),
+    {nullptr, RangeOf<&Device::CFG_FLAG>},
 };
 static_assert(std::size(Cells) == DeviceNetScanList::Connect - DeviceNetScanList::MacId);
 
@@ -49,8 +53,8 @@ QString flagText(int flag)
 
 DeviceNetScanList::Range DeviceNetScanList::rangeOf(int column)
 {
-    const Cell& cell = cellOf(column);
-    return {cell.minimum, cell.maximum, cell.member == nullptr};
+    const Cell& edited = cellOf(column);
+    return {edited.range.least, edited.range.most, edited.member == nullptr};
 }
 
 void DeviceNetScanList::load(const DeviceNetMasterConfig& config)
@@ -119,7 +123,7 @@ bool DeviceNetScanList::fits(int Device::*bytes, int limitBits, int row, int val
 DeviceNetScanList::Verdict DeviceNetScanList::set(int row, int column, double value)
 {
     const Cell& cell = cellOf(column);
-    const int number = static_cast<int>(qBound(cell.minimum, value, cell.maximum));
+    const int number = static_cast<int>(qBound(cell.range.least, value, cell.range.most));
     if (column == MacId && isTaken(number, row))
         return Verdict::DuplicateMacId;
     if (column == In && !fits(&Device::inputBytes, m_record.inputLimitBits, row, number))

@@ -1,5 +1,6 @@
 #include "HeartbeatDetectionWidget.h"
 
+#include "FieldRanges.h"
 #include "QTouchLineEdit.h"
 #include "ui_HeartbeatDetectionWidget.h"
 
@@ -44,7 +45,6 @@ constexpr std::array<Row, HeartbeatConfig::BusCount> Rows = {{
 }};
 
 constexpr int TimeoutDecimals = 3;
-constexpr double LongestTimeout = 9999.999; // seconds; what the keyboard lets through
 
 constexpr TransferTexts Texts = {MsgBox::Error};
 
@@ -72,7 +72,8 @@ void HeartbeatDetectionWidget::buildRows()
         auto* edit = new QTouchLineEdit(this);
         edit->setObjectName(QLatin1String(row.edit));
         edit->setCast(QTouchLineEdit::CastReal, TimeoutDecimals);
-        edit->setValueRange(0.0, LongestTimeout);
+        edit->setValueRange(RangeOf<&HeartbeatConfig::Mtcp_Timeout>.least,
+                            RangeOf<&HeartbeatConfig::Mtcp_Timeout>.most);
         edit->setProperty("unit", tr("s"));
         auto* light = new QLabel(this);
         light->setObjectName(QLatin1String(row.light));

@@ -1,14 +1,12 @@
 #include "MesSettingWidget.h"
 
+#include "FieldRanges.h"
 #include "MesPortRules.h"
 #include "NetworkPorts.h"
 #include "Poll.h"
 #include "ui_MesSettingWidget.h"
 
 namespace {
-
-constexpr int HighestPort = 99999;    // of the keyboard; what is no port the controller does not listen on
-constexpr int LongestInterval = 9999; // ms
 
 constexpr Poll::Rule MonitorChange = {16, 100}; // 1.6 s in all
 
@@ -24,9 +22,10 @@ MesSettingWidget::MesSettingWidget()
     m_connected->show(StatusLight::Red);
     ui->IP_Edit->setEnabled(false);
     ui->port_edit->setCast(QTouchLineEdit::CastUnsigned);
-    ui->port_edit->setValueRange(0, HighestPort);
+    ui->port_edit->setValueRange(RangeOf<&MesServerConfig::Port>.least, RangeOf<&MesServerConfig::Port>.most);
     ui->IntervalTime_edit->setCast(QTouchLineEdit::CastUnsigned);
-    ui->IntervalTime_edit->setValueRange(0, LongestInterval);
+    ui->IntervalTime_edit->setValueRange(RangeOf<&MesServerConfig::IntervalTime>.least,
+                                         RangeOf<&MesServerConfig::IntervalTime>.most);
     applyStyle();
     scheduleOnce(1, &MesSettingWidget::slotGetFileToUi);
 }

@@ -1,18 +1,15 @@
 #include "DeviceNetMasterSetting.h"
 
 #include "BusFileDataManager.h"
-#include "RoleTable.h"
+#include "FieldRanges.h"
 #include "QTouchLineEdit.h"
+#include "RoleTable.h"
 #include "ZelFunctions.h"
 #include "ui_DeviceNetMasterSetting.h"
 
 namespace {
 
 using List = DeviceNetScanList;
-
-constexpr double HighestStation = 63;
-constexpr double ShortestScan = 1; // ms
-constexpr double LongestScan = 255;
 
 const char* refusalText(List::Verdict verdict)
 {
@@ -62,15 +59,16 @@ DeviceNetMasterSetting::~DeviceNetMasterSetting() = default;
 // The settings reach the record as they are made; what is filled in from a file does not come back.
 void DeviceNetMasterSetting::connectSettings()
 {
-    const auto connectEdit = [this](QTouchLineEdit* edit, double minimum, double maximum,
+    const auto connectEdit = [this](QTouchLineEdit* edit, FieldRange range,
                                     int DeviceNetMasterConfig::*member) {
         edit->setCast(QTouchLineEdit::CastUnsigned);
-        edit->setValueRange(minimum, maximum);
+        edit->setValueRange(range.least, range.most);
         connect(edit, &QTouchLineEdit::valueSetted, this,
                 [this, member](const QString& text) { m_list.settings().*member = text.toInt(); });
     };
-    connectEdit(ui->le_wsid, 0, HighestStation, &DeviceNetMasterConfig::WS_ID);
-    connectEdit(ui->le_ratio, ShortestScan, LongestScan, &DeviceNetMasterConfig::PACHET_RATIO);
+    connectEdit(ui->le_wsid, RangeOf<&DeviceNetMasterConfig::WS_ID>, &DeviceNetMasterConfig::WS_ID);
+    connectEdit(ui->le_ratio, RangeOf<&DeviceNetMasterConfig::PACHET_RATIO>,
+                &DeviceNetMasterConfig::PACHET_RATIO);
     connect(ui->cbb_endian, qOverload<int>(&QComboBox::activated), this,
             [this](int index) { m_list.settings().ENDIAN = ui->cbb_endian->itemText(index); });
     connect(ui->cbb_baudrate, qOverload<int>(&QComboBox::activated), this,

@@ -1,5 +1,6 @@
 #include "MasterTablePage.h"
 
+#include "FieldRanges.h"
 #include "FieldbusModule.h"
 #include "MasterSlaveList.h"
 #include "ui_MasterSettingsPanel.h"
@@ -8,8 +9,6 @@
 #include <QTableWidget>
 
 namespace {
-
-constexpr double LongestTimeout = 999999;
 
 // The device table beside the settings, in pixels.
 constexpr int DeviceTableLeastWidth = 420;
@@ -39,10 +38,12 @@ MasterTablePage::MasterTablePage(const Master& master)
     m_settings->setupUi(m_settingsPanel);
     m_settings->dynalm_checkbox->setObjectName(QLatin1String(master.dynamicAlarmBox));
     m_settings->lineEdit_slave_count->setCast(QTouchLineEdit::CastUnsigned);
-    m_settings->lineEdit_slave_count->setValueRange(0, Positions);
+    m_settings->lineEdit_slave_count->setValueRange(RangeOf<&MasterSlaveTable::SlaveNum>.least,
+                                                    RangeOf<&MasterSlaveTable::SlaveNum>.most);
     for (QTouchLineEdit* edit : {m_settings->lineEdit_disable_timeout, m_settings->lineEdit_enable_timeout}) {
         edit->setCast(QTouchLineEdit::CastUnsigned);
-        edit->setValueRange(0, LongestTimeout);
+        edit->setValueRange(RangeOf<&MasterSlaveTable::DisableTimeout>.least,
+                            RangeOf<&MasterSlaveTable::DisableTimeout>.most);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "MtcpMasterSetting.h"
 
 #include "BusFileDataManager.h"
+#include "FieldRanges.h"
 #include "ui_MtcpMasterSetting.h"
 
 #include <QSignalBlocker>
@@ -42,11 +43,7 @@ constexpr const char* ByteOrderNames[] = {
     "LITTLE_ENDIAN_32", "MIDDLE_BIG_ENDIAN_32", "MIDDLE_LITTLE_ENDIAN_32",
 };
 
-constexpr int HighestPort = 65535;
-constexpr int HighestUnitId = 125;
 constexpr int TimeoutDecimals = 3;
-constexpr double ShortestTimeout = 0.1; // seconds
-constexpr double LongestTimeout = 10.0;
 
 constexpr TransferTexts Texts = {
     MsgBox::Warning, QT_TRANSLATE_NOOP("MtcpMasterSetting", "Failed to get mtcp_master.xml file."),
@@ -102,11 +99,14 @@ void MtcpMasterSetting::prepareFields()
 {
     ui->le_masterIp->setCast(QTouchLineEdit::CastIpAddress);
     ui->le_masterPort->setCast(QTouchLineEdit::CastInteger);
-    ui->le_masterPort->setValueRange(0, HighestPort);
+    ui->le_masterPort->setValueRange(RangeOf<&MtcpMasterConfig::SlavePort>.least,
+                                     RangeOf<&MtcpMasterConfig::SlavePort>.most);
     ui->le_masterId->setCast(QTouchLineEdit::CastInteger);
-    ui->le_masterId->setValueRange(0, HighestUnitId);
+    ui->le_masterId->setValueRange(RangeOf<&MtcpMasterConfig::SlaveId>.least,
+                                   RangeOf<&MtcpMasterConfig::SlaveId>.most);
     ui->le_timeout->setCast(QTouchLineEdit::CastReal, TimeoutDecimals);
-    ui->le_timeout->setValueRange(ShortestTimeout, LongestTimeout);
+    ui->le_timeout->setValueRange(RangeOf<&MtcpMasterConfig::TimeOut>.least,
+                                  RangeOf<&MtcpMasterConfig::TimeOut>.most);
     ui->le_timeout->setProperty("unit", tr("s"));
     for (const auto& order : ByteOrders) {
         for (const char* name : ByteOrderNames)

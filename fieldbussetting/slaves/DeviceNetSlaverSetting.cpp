@@ -1,14 +1,12 @@
 #include "DeviceNetSlaverSetting.h"
 
+#include "FieldRanges.h"
 #include "QTouchLineEdit.h"
 #include "ui_DeviceNetSlaverSetting.h"
 
 #include <QRegularExpression>
 
 namespace {
-
-constexpr double LowestMacId = 1;
-constexpr double HighestMacId = 63;
 
 constexpr int DeviceNetLinkBit = 32; // of the communication state
 
@@ -30,7 +28,8 @@ DeviceNetSlaverSetting::DeviceNetSlaverSetting()
 {
     ui->setupUi(this);
     ui->le_macid->setCast(QTouchLineEdit::CastUnsigned);
-    ui->le_macid->setValueRange(LowestMacId, HighestMacId);
+    ui->le_macid->setValueRange(RangeOf<&DeviceNetSlaveConfig::Dns_MACID>.least,
+                                RangeOf<&DeviceNetSlaveConfig::Dns_MACID>.most);
     m_light.emplace(ui->led_status);
     connect(ui->le_macid, &QTouchLineEdit::valueSetted, this, &DeviceNetSlaverSetting::slotCheckMACIDFormat);
     applyStyle();

@@ -1,13 +1,12 @@
 #include "Pfb_PfnSettingWidget.h"
 
+#include "FieldRanges.h"
 #include "FieldbusModule.h"
 #include "ui_Pfb_PfnSettingWidget.h"
 
 namespace {
 
 constexpr int ProfinetBus = 3;
-constexpr int LowestAddress = 0;
-constexpr int HighestAddress = 125;
 
 } // namespace
 
@@ -18,7 +17,8 @@ Pfb_PfnSettingWidget::Pfb_PfnSettingWidget()
     ui->setupUi(this);
     bind(ui->led_status, ui->cBox, ui->cbb_largeSmall);
     ui->pfbAddressLE->setCast(QTouchLineEdit::CastInteger);
-    ui->pfbAddressLE->setValueRange(LowestAddress, HighestAddress);
+    ui->pfbAddressLE->setValueRange(RangeOf<&PfbSlaveConfig::ProfibusAddress>.least,
+                                    RangeOf<&PfbSlaveConfig::ProfibusAddress>.most);
     applyStyle();
     scheduleOnce(0, &Pfb_PfnSettingWidget::slotGetFileToUi);
 }

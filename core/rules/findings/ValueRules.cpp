@@ -1,3 +1,4 @@
+#include "FieldRanges.h"
 #include "Rules.h"
 
 #include <type_traits>
@@ -12,8 +13,7 @@ struct Range
     RoleId role;
     FileId file;
     const char* name; // element or keyword
-    double least;
-    double most;
+    FieldRange range;
     QString (*text)(const Configuration& configuration);
 };
 
@@ -26,59 +26,60 @@ QString textOf(const Configuration& configuration)
         return configuration.*Record.*Member;
 }
 
+template <auto Record, auto Member>
+constexpr Range row(RoleId role, FileId file, const char* name)
+{
+    return {role, file, name, RangeOf<Member>, textOf<Record, Member>};
+}
+
 using C = Configuration;
 constexpr Range Ranges[] = {
-    {RoleId::ModbusTcpMaster, FileId::MtcpMaster, "SlaveId", 0, 125,
-     textOf<&C::mtcpMaster, &MtcpMasterConfig::SlaveId>},
-    {RoleId::ModbusTcpMaster, FileId::MtcpMaster, "TimeOut", 0.1, 10,
-     textOf<&C::mtcpMaster, &MtcpMasterConfig::TimeOut>},
-    {RoleId::ModbusTcpMaster, FileId::MtcpMaster, "ReadEndian", 0, 3,
-     textOf<&C::mtcpMaster, &MtcpMasterConfig::ReadEndian>},
-    {RoleId::ModbusTcpMaster, FileId::MtcpMaster, "WriteEndian", 0, 3,
-     textOf<&C::mtcpMaster, &MtcpMasterConfig::WriteEndian>},
-    {RoleId::Mes, FileId::MesServer, "Mode", 0, 1, textOf<&C::mes, &MesServerConfig::Mode>},
-    {RoleId::Mes, FileId::MesServer, "Protocol", 0, 1, textOf<&C::mes, &MesServerConfig::Protocol>},
-    {RoleId::Mes, FileId::MesServer, "IntervalTime", 0, 9999,
-     textOf<&C::mes, &MesServerConfig::IntervalTime>},
-    {RoleId::Mes, FileId::MesServer, "IpPortIndex", 0, 1, textOf<&C::mes, &MesServerConfig::IpPortIndex>},
-    {RoleId::FinsTcp, FileId::FinsClient, "AutoConnect", 0, 1,
-     textOf<&C::fins, &FinsClientConfig::AutoConnect>},
-    {RoleId::FinsTcp, FileId::FinsClient, "IpPortIndex", 0, 1,
-     textOf<&C::fins, &FinsClientConfig::IpPortIndex>},
-    {RoleId::EtherNetIPMaster, FileId::EipMaster, "DisableTimeout", 0, 999999,
-     textOf<&C::eipMaster, &MasterSlaveTable::DisableTimeout>},
-    {RoleId::EtherNetIPMaster, FileId::EipMaster, "EnableTimeout", 0, 999999,
-     textOf<&C::eipMaster, &MasterSlaveTable::EnableTimeout>},
-    {RoleId::ProfinetMaster, FileId::PfnMaster, "DisableTimeout", 0, 999999,
-     textOf<&C::pfnMaster, &MasterSlaveTable::DisableTimeout>},
-    {RoleId::ProfinetMaster, FileId::PfnMaster, "EnableTimeout", 0, 999999,
-     textOf<&C::pfnMaster, &MasterSlaveTable::EnableTimeout>},
-    {RoleId::ProfinetSlave, FileId::PfbSlave, "PROFIBUS_ADDRESS", 0, 125,
-     textOf<&C::pfbSlave, &PfbSlaveConfig::ProfibusAddress>},
-    {RoleId::DeviceNetMaster, FileId::DeviceNetMaster, "WS_ID", 0, 63,
-     textOf<&C::deviceNetMaster, &DeviceNetMasterConfig::WS_ID>},
-    {RoleId::DeviceNetMaster, FileId::DeviceNetMaster, "PACHET_RATIO", 1, 255,
-     textOf<&C::deviceNetMaster, &DeviceNetMasterConfig::PACHET_RATIO>},
+    row<&C::mtcpMaster, &MtcpMasterConfig::SlaveId>(RoleId::ModbusTcpMaster, FileId::MtcpMaster, "SlaveId"),
+    row<&C::mtcpMaster, &MtcpMasterConfig::TimeOut>(RoleId::ModbusTcpMaster, FileId::MtcpMaster, "TimeOut"),
+    row<&C::mtcpMaster, &MtcpMasterConfig::ReadEndian>(RoleId::ModbusTcpMaster, FileId::MtcpMaster,
+                                                       "ReadEndian"),
+    row<&C::mtcpMaster, &MtcpMasterConfig::WriteEndian>(RoleId::ModbusTcpMaster, FileId::MtcpMaster,
+                                                        "WriteEndian"),
+    row<&C::mes, &MesServerConfig::Mode>(RoleId::Mes, FileId::MesServer, "Mode"),
+    row<&C::mes, &MesServerConfig::Protocol>(RoleId::Mes, FileId::MesServer, "Protocol"),
+    row<&C::mes, &MesServerConfig::IntervalTime>(RoleId::Mes, FileId::MesServer, "IntervalTime"),
+    row<&C::mes, &MesServerConfig::IpPortIndex>(RoleId::Mes, FileId::MesServer, "IpPortIndex"),
+    row<&C::fins, &FinsClientConfig::AutoConnect>(RoleId::FinsTcp, FileId::FinsClient, "AutoConnect"),
+    row<&C::fins, &FinsClientConfig::IpPortIndex>(RoleId::FinsTcp, FileId::FinsClient, "IpPortIndex"),
+    row<&C::eipMaster, &MasterSlaveTable::DisableTimeout>(RoleId::EtherNetIPMaster, FileId::EipMaster,
+                                                          "DisableTimeout"),
+    row<&C::eipMaster, &MasterSlaveTable::EnableTimeout>(RoleId::EtherNetIPMaster, FileId::EipMaster,
+                                                         "EnableTimeout"),
+    row<&C::pfnMaster, &MasterSlaveTable::DisableTimeout>(RoleId::ProfinetMaster, FileId::PfnMaster,
+                                                          "DisableTimeout"),
+    row<&C::pfnMaster, &MasterSlaveTable::EnableTimeout>(RoleId::ProfinetMaster, FileId::PfnMaster,
+                                                         "EnableTimeout"),
+    row<&C::pfbSlave, &PfbSlaveConfig::ProfibusAddress>(RoleId::ProfinetSlave, FileId::PfbSlave,
+                                                        "PROFIBUS_ADDRESS"),
+    row<&C::deviceNetMaster, &DeviceNetMasterConfig::WS_ID>(RoleId::DeviceNetMaster, FileId::DeviceNetMaster,
+                                                            "WS_ID"),
+    row<&C::deviceNetMaster, &DeviceNetMasterConfig::PACHET_RATIO>(RoleId::DeviceNetMaster,
+                                                                   FileId::DeviceNetMaster, "PACHET_RATIO"),
 };
 
-void check(const Range& range, const Configuration& configuration, FindingList& found)
+void check(const Range& field, const Configuration& configuration, FindingList& found)
 {
-    const QString text = range.text(configuration);
+    const QString text = field.text(configuration);
     bool isNumber = false;
     const double value = text.trimmed().toDouble(&isNumber);
-    if (isNumber && value >= range.least && value <= range.most)
+    if (isNumber && value >= field.range.least && value <= field.range.most)
         return;
-    const QString name = QLatin1String(range.name);
-    const bool isXml = KnownFiles::of(range.file).root;
+    const QString name = QLatin1String(field.name);
+    const bool isXml = KnownFiles::of(field.file).root;
     const FindingList::About about{
-        range.role, range.file, {isXml ? '<' + QByteArray(range.name) : '\n' + QByteArray(range.name)}};
-    const std::vector<Evidence> facts{FindingList::fact(name, range.file, text)};
+        field.role, field.file, {isXml ? '<' + QByteArray(field.name) : '\n' + QByteArray(field.name)}};
+    const std::vector<Evidence> facts{FindingList::fact(name, field.file, text)};
     if (!isNumber)
-        found.add(FindingCode::ValueNoNumber, about, {name, titleOf(range.role), text}, facts);
+        found.add(FindingCode::ValueNoNumber, about, {name, titleOf(field.role), text}, facts);
     else
         found.add(FindingCode::ValueOutside, about,
-                  {name, titleOf(range.role), text, QString::number(range.least),
-                   QString::number(range.most, 'f', 0)},
+                  {name, titleOf(field.role), text, QString::number(field.range.least),
+                   QString::number(field.range.most, 'f', 0)},
                   facts);
 }
 
