@@ -695,7 +695,8 @@ void TestUsbImport::formerFilesOutliveALaterImport()
     leaveUnfinished(pendant);
     const UsbPendant::Bytes mixture = pendant.configuration();
     pendant.declined << Unfinished;
-    QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/fixed/dns_fixed.cfg", "another"));
+    QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/fixed/dns_fixed.cfg",
+                  "; another\nRUN_ALWAYS\n"));
     pendant.controller().faults().set(Faults::SendFails, 1, QString(), 1);
     QVERIFY(pendant.runImport().endsWith(PutBack));
     QVERIFY(pendant.configuration() == mixture);
