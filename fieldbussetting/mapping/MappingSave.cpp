@@ -1,6 +1,7 @@
 #include "MappingSave.h"
 
 #include "BusFileDataManager.h"
+#include "ControllerCopies.h"
 #include "ControllerVariables.h"
 #include "SysSettingApi.h"
 #include "UpdateState.h"
@@ -48,6 +49,7 @@ void MappingSave::sent(const QString& path, bool success)
     if (!isUnderWay() || path != QLatin1String(FileLocations::FieldbusConfigXml))
         return;
     if (success) {
+        ControllerCopies::instance().changed(path);
         // The answer to the save before, which was rejected or came too late, is not the one to this save.
         changeUpdateBits(UpdateState::Taken | UpdateState::Rejected, UpdateState::Announced);
         m_waiting = true;

@@ -1,6 +1,7 @@
 #include "SwitchSave.h"
 
 #include "BusFileDataManager.h"
+#include "ControllerCopies.h"
 #include "ControllerVariables.h"
 #include "SwitchBoard.h"
 #include "SwitchRules.h"
@@ -202,6 +203,7 @@ void SwitchSave::finish(bool sent)
             end();
         return;
     }
+    ControllerCopies::instance().changed(QLatin1String(FileLocations::FieldbusXml));
     if (SwitchRules::losesPerformance(lib()->get_ifidbus_performance_switch(), m_board.switchedOn()))
         lib()->set_ifidbus_performance_switch(0);
     switch (m_page.tell(MsgBox::Information,

@@ -101,6 +101,51 @@ private slots:
         QCOMPARE(cell("Mtcp", 1, 1), QString("16"));
     }
 
+    // Opened before an import, which lets the service read its file anew.
+    void followsTheController()
+    {
+        QVERIFY(show());
+        const QByteArray before = controllerFile(FilePath);
+        const auto changeTo = [&](const QString& quantity) {
+            QVERIFY(openPage("heartbeatBtn"));
+            QVERIFY(put(FilePath, QByteArray(before).replace("256", quantity.toLatin1())));
+            BusFileDataManager::getInstance()->emitGetFieldbusCfg();
+            QVERIFY(settle());
+        };
+        QCOMPARE(cell("Mtcp", 1, 1), QString("256"));
+        changeTo("128");
+        QVERIFY(showAgain());
+        QCOMPARE(cell("Mtcp", 1, 1), QString("128"));
+        // What is being edited goes only if the operator wants that.
+        for (const bool reload : {false, true}) {
+            if (!isEditing())
+                QVERIFY(press("bt_EditOrSave"));
+            QVERIFY(enterCell("Mtcp", 1, 1, "16"));
+            changeTo(reload ? "64" : "32");
+            MsgBoxScript::answerNext(reload ? MsgBox::Confirmed : MsgBox::Second);
+            QVERIFY(showAgain());
+            QCOMPARE(messages().constLast(),
+                     QString("Changed on the controller since it was read.\nReload?"));
+            QCOMPARE(isEditing(), !reload);
+            QCOMPARE(cell("Mtcp", 1, 1), QString(reload ? "64" : "16"));
+        }
+    }
+
+    // What was never read is not edited, but read first.
+    void editsOnlyWhatWasRead()
+    {
+        QVERIFY(fail("fetch-fails:-1:" + FilePath));
+        QVERIFY(show());
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+        QVERIFY(press("bt_EditOrSave") && settle());
+        QCOMPARE(messages(), QStringList("Failed to get file."));
+        controller().faults().clearAll();
+        QVERIFY(press("bt_EditOrSave") && settle());
+        QCOMPARE(messages().constLast(), QString("Loaded now. Look at the settings, then save."));
+        QVERIFY(!isEditing());
+        QCOMPARE(cell("Mtcp", 1, 1), QString("256"));
+    }
+
     // One entry in the table of each editable bus, saved together.
     void editsEveryBus()
     {

@@ -383,6 +383,13 @@ void TestBusSwitch::afterTheSave()
     QCOMPARE(pendant.find("exitBtn")->isEnabled(), mayExit);
     if (mayExit)
         return;
+    // Whatever a later save brings.
+    pendant.controller().faults().setFromText("send-fails");
+    MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+    QVERIFY(pendant.choose({{"mesSwitch", 0}}) && pendant.save());
+    QCOMPARE(pendant.messages().constLast(), QString("Failed to write file."));
+    pendant.tick();
+    QVERIFY(!pendant.find("exitBtn")->isEnabled());
     // Not for longer than the page lives.
     UserSession::instance().setUserLevel(1);
     QTRY_VERIFY(!pendant.isOpen());
@@ -552,8 +559,11 @@ void TestBusSwitch::changesAndCancel()
                             {"mesSwitch", 1},
                             {"freeBusSwitch", 0},
                             {"eipMSwitch", 1}}));
+    const auto* saveButton = pendant.find<QPushButton>("saveBusBt");
+    QCOMPARE(saveButton->text(), QString("Save (4)"));
     pendant.answer({MsgBox::Second});
     QVERIFY(pendant.save());
+    QCOMPARE(saveButton->text(), QString("Save"));
     QCOMPARE(pendant.combo("ethnetSwitch")->currentIndex(), 1);
     QCOMPARE(pendant.combo("mesSwitch")->currentIndex(), 0);
     QCOMPARE(pendant.combo("freeBusSwitch")->currentIndex(), 1);
@@ -654,11 +664,21 @@ void TestBusSwitch::overrideNotLoaded()
     QCOMPARE(pendant.combo("ethcatSwitch")->currentIndex(), 0);
     QCOMPARE(pendant.combo("mesSwitch")->currentIndex(), 1);
 
-    // The file is there again with the next load.
+    // What is not known keeps its role, in the file and for the controller.
+    pendant.controller().setRestartAllowed(false);
+    QVERIFY(pendant.choose({{"mesSwitch", 0}}));
+    QVERIFY(pendant.save());
+    QCOMPARE(pendant.messages().constLast(), Saved);
+    QCOMPARE(pendant.controllerFile(FieldbusXml), fieldbusWith({"EtherCatSlave"}));
+    QVERIFY(pendant.written().contains("ethcat_enable=1"));
+
+    // The file is there again: it is loaded, and nothing saved unseen.
     pendant.controller().faults().clearAll();
     pendant.controller().files().write(OverridePath, overrideWith(true));
-    pendant.answer({MsgBox::Second});
+    pendant.controller().traffic().clear();
     QVERIFY(pendant.save());
+    QCOMPARE(pendant.messages().constLast(), QString("Loaded now. Look at the settings, then save."));
+    QVERIFY(pendant.controller().traffic().stores().isEmpty());
     QVERIFY(pendant.combo("ethcatSwitch")->isEnabled());
     QCOMPARE(pendant.combo("ethcatSwitch")->currentIndex(), 1);
 }

@@ -1,5 +1,6 @@
 #include "ImportTransfer.h"
 
+#include "ControllerCopies.h"
 #include "ControllerFiles.h"
 #include "DataAccess.h"
 #include "DurableFiles.h"
@@ -56,10 +57,12 @@ Back putBackOne(const ImportEntry& entry, bool mayBeAnything)
     } else if (fetched != Fetched::Absent) {
         return Back::Failed;
     }
-    const bool isBack = wasThere ? lib()->sendFileToCtrl(file.kept(), file.controller) &&
-                                       isThere(file.controller, file.kept())
-                                 : SysSettingApi::removeRemoteFile(file.controller);
-    return isBack ? Back::Done : Back::Failed;
+    if (wasThere)
+        return lib()->sendFileToCtrl(file.kept(), file.controller) && isThere(file.controller, file.kept())
+                   ? Back::Done
+                   : Back::Failed;
+    ControllerCopies::instance().changed(file.controller);
+    return SysSettingApi::removeRemoteFile(file.controller) ? Back::Done : Back::Failed;
 }
 
 Back putBackTried(const ImportEntry& entry, bool mayBeAnything)
