@@ -114,6 +114,8 @@ void ConfigWidget::slotGetFileToUi()
     m_busNames = switchedOnBuses();
     m_loaded = true;
     m_outdated = false;
+    // The service forgets what it has told when the controller restarts; what was read stays so.
+    m_isRead = m_isRead || service()->isFuncInfoNotified(QStringLiteral("fieldbusCfg"));
     enableTabs();
     showAll();
 }
@@ -256,8 +258,8 @@ void ConfigWidget::refuse(const Message& message)
 void ConfigWidget::on_bt_EditOrSave_clicked()
 {
     if (!m_editing) {
-        // What the service has never read is nobody's configuration.
-        if (service()->isFuncInfoNotified(QStringLiteral("fieldbusCfg"))) {
+        // What was never read is nobody's configuration.
+        if (m_isRead) {
             setEditing(true);
         } else {
             m_reading = true;

@@ -92,6 +92,7 @@ private:
     QStringList m_busNames; // switched on when the quantities were loaded
     std::vector<BusMappingTab*> m_tabs;
     bool m_loaded = false;
+    bool m_isRead = false;   // the service had read its file when the page was filled
     bool m_outdated = false; // the service has read another configuration while this one was edited
     bool m_reading = false;  // the service was asked to read its file for this page
     bool m_editing = false;

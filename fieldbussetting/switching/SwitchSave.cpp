@@ -7,6 +7,8 @@
 #include "SwitchRules.h"
 #include "SysSettingApi.h"
 
+#include <QComboBox>
+
 #include <algorithm>
 
 using namespace BusSwitches;
