@@ -11,7 +11,7 @@ add_test(
   NAME sdk_build
   COMMAND
     ${CMAKE_CTEST_COMMAND} --build-and-test ${CMAKE_SOURCE_DIR} ${CMAKE_CURRENT_BINARY_DIR}/sdk/build --build-generator
-    ${CMAKE_GENERATOR} --build-makeprogram ${CMAKE_MAKE_PROGRAM} --build-target all --build-options
+    ${CMAKE_GENERATOR} --build-makeprogram ${CMAKE_MAKE_PROGRAM} --build-target fieldbussetting --build-options
     -DPENDANT_SDK_DIR=${sdk} -DFIELDBUS_WERROR=ON -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0
     -DCMAKE_CXX_COMPILER=${CMAKE_CXX_COMPILER})
 set_tests_properties(sdk_build PROPERTIES TIMEOUT 900 LABELS build)
