@@ -22,11 +22,11 @@ void append(Group& group, const Cell<Record> (&cells)[Size], const Record& recor
 
 /// Reads a file whose record is all of one role. `blank` is what a file that says nothing leaves.
 template <typename Record, std::size_t Size>
-std::optional<std::vector<Group>> ofRecord(RoleId role, bool (*read)(const QByteArray&, Record&),
+std::optional<std::vector<Group>> ofRecord(RoleId role, bool (*read)(const QByteArray&, Record&, bool*),
                                            const QByteArray& bytes, const Cell<Record> (&cells)[Size],
                                            Record blank = {})
 {
-    if (!read(bytes, blank))
+    if (!read(bytes, blank, nullptr))
         return std::nullopt;
     Group group = groupOf(role);
     append(group, cells, blank);

@@ -103,9 +103,8 @@ std::optional<std::vector<Group>> overrides(const QByteArray& bytes)
 {
     OverrideRecord slaves;
     OverrideRecord masters;
-    MasterDevicesInUse inUse;
-    OverrideFile::readSlaves(bytes, slaves, inUse);
-    OverrideFile::readMasters(bytes, masters);
+    OverrideFile::read(bytes, OverrideSlot::SlaveModule, slaves);
+    OverrideFile::read(bytes, OverrideSlot::Masters, masters);
     std::vector<Group> groups;
     appendDevices(groups, slaves, &RoleTable::of(RoleId::EtherCatSlave));
     appendDevices(groups, masters, nullptr);
