@@ -7,7 +7,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -117,8 +116,6 @@ int SwitchBoard::markDifferences() const
         const QString text = tr(rows()[i].label);
         label->setProperty("differs", isMarked);
         label->setText(isMarked ? tr("%1 \u25CF").arg(text) : text);
-        label->style()->unpolish(label);
-        label->style()->polish(label);
     }
     return differences;
 }
