@@ -412,7 +412,7 @@ void TestDeviceNetFiles::aNewPathTakesTheLocalHeader()
 // The controller's own file and ours have one layout.
 void TestDeviceNetFiles::thePlantsFileComesThroughUnchanged()
 {
-    const QByteArray plant = LibFixture::get(QFINDTESTDATA("../../controller/plant/fa/dnmst0.cfg"));
+    const QByteArray plant = LibFixture::get(":/plant/fa/dnmst0.cfg");
     QVERIFY(LibFixture::put(Path, plant));
     FieldbusSettingLib& lib = LibFixture::lib();
     QVERIFY(lib.readDeviceNetMasterFile(Path));
