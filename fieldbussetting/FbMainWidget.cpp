@@ -201,28 +201,32 @@ void FbMainWidget::showPage(int id)
 
 PageBase* FbMainWidget::pageOf(int id)
 {
-    const auto index = static_cast<std::size_t>(id);
-    const Entry& entry = PageRegistry::entries()[index];
-    if (m_pages[index] || m_pageInTheMaking == id)
-        return m_pages[index];
+    PageBase*& page = m_pages[static_cast<std::size_t>(id)];
+    if (page)
+        return m_pageInPreparation == id ? nullptr : page;
 
-    // A page may fetch its file while it is built: the application may be closed, or the page asked for
-    // again, before it is there.
-    const QPointer<FbMainWidget> self(this);
-    const int outerPage = std::exchange(m_pageInTheMaking, id);
-    std::unique_ptr<PageBase> page(PageBase::make(entry.create, this));
-    if (!self)
-        return nullptr;
-    m_pageInTheMaking = outerPage;
+    const Entry& entry = PageRegistry::entries()[static_cast<std::size_t>(id)];
+    page = entry.create();
     if (entry.blocksInput)
-        connect(page.get(), &PageBase::mouseEventSignal, this, &FbMainWidget::mouseEventTransParentSlot);
+        connect(page, &PageBase::mouseEventSignal, this, &FbMainWidget::mouseEventTransParentSlot);
     else // these pages leave the menu page as it is for fingers, which are stopped all the same
-        connect(page.get(), &PageBase::mouseEventSignal, &m_inputBlock, &InputBlock::count);
+        connect(page, &PageBase::mouseEventSignal, &m_inputBlock, &InputBlock::count);
+    if (QAbstractButton* button = m_menuButtons->button(id))
+        connect(page, &PageBase::editedChanged, button, [button, caption = tr(entry.caption)](bool edited) {
+            button->setText(edited ? tr("%1 \u25CF").arg(caption) : caption);
+        });
     if (entry.needsFreeMode)
         page->setFreeConfiguration(BusFileDataManager::getInstance()->isOpenFreeBus());
-    ui->fieldbusSetSWidget->addWidget(page.get());
-    m_pages[index] = page.release();
-    return m_pages[index];
+    ui->fieldbusSetSWidget->addWidget(page);
+    // It may fetch its file first: the application may be closed, or the page asked for again, before it is
+    // done.
+    const QPointer<FbMainWidget> self(this);
+    const int outerPage = std::exchange(m_pageInPreparation, id);
+    page->prepare();
+    if (!self)
+        return nullptr;
+    m_pageInPreparation = outerPage;
+    return page;
 }
 
 void FbMainWidget::mouseEventTransParentSlot(bool status)

@@ -60,9 +60,9 @@ private:
     QButtonGroup* m_menuButtons;
     int m_mouseBlockCount = 0;
     InputBlock m_inputBlock{this};
-    int m_chosenPage = -1;      // id of the page that was asked for last, -1 before the first
-    int m_pageInTheMaking = -1; // id of the page whose constructor is running, -1 for none
-    QStringList m_busNames;     // switched on
+    int m_chosenPage = -1;        // id of the page that was asked for last, -1 before the first
+    int m_pageInPreparation = -1; // id of the page that prepares itself to be shown, -1 for none
+    QStringList m_busNames;       // switched on
     std::array<PageBase*, PageRegistry::PageCount> m_pages{};
     std::unique_ptr<ProgressBarWidget> m_progressBar;
     int m_notificationCount = 0;

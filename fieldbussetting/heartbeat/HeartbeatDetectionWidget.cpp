@@ -1,6 +1,7 @@
 #include "HeartbeatDetectionWidget.h"
 
 #include "FieldRanges.h"
+#include "OutsideMark.h"
 #include "QTouchLineEdit.h"
 #include "ui_HeartbeatDetectionWidget.h"
 
@@ -88,27 +89,27 @@ void HeartbeatDetectionWidget::buildRows()
 
         m_switches.push_back(checkBox);
         m_timeouts.push_back(edit);
-        m_lights.emplace_back(light);
+        m_lights.emplace_back(light, StatusLight::Face::ImageGreyAgain);
+        edits().add(checkBox);
+        edits().add(edit);
+        connect(edit, &QLineEdit::textChanged, edit, [edit] { OutsideMark::show(edit, false, {}); });
     }
 }
 
-void HeartbeatDetectionWidget::slotGetFileToUi()
+std::vector<PageBase::PageFile> HeartbeatDetectionWidget::files() const
 {
-    Busy busy(this);
-    if (fetchAndRead(ConfigFile::Heartbeat, plain(&FieldbusSettingLib::readHeartbeatDetectionFile), Texts) ==
-        Outcome::Gone)
-        return;
-    busy.release();
-    fillFromRecord();
+    return {{ConfigFile::Heartbeat, plain(&FieldbusSettingLib::readHeartbeatDetectionFile), Texts}};
 }
 
 void HeartbeatDetectionWidget::on_saveButton_clicked()
 {
+    if (!isReadyToSave())
+        return;
     switch (ask(tr("Are you sure to save the data ?"))) {
     case Answer::Confirmed:
         break;
     case Answer::Second:
-        fillFromRecord();
+        refill();
         return;
     default:
         return;
@@ -132,13 +133,17 @@ void HeartbeatDetectionWidget::refreshStatus()
     }
 }
 
-void HeartbeatDetectionWidget::fillFromRecord()
+void HeartbeatDetectionWidget::fill()
 {
     const HeartbeatConfig& record = lib()->heartbeat;
     for (std::size_t i = 0; i < m_switches.size(); ++i) {
         const HeartbeatConfig::Field& field = HeartbeatConfig::fields()[i];
         m_switches[i]->setChecked(record.*field.nodSwitch);
         m_timeouts[i]->setText(HeartbeatConfig::timeoutText(record.*field.timeout));
+        const double timeout = record.*field.timeout;
+        OutsideMark::show(m_timeouts[i],
+                          !(timeout >= 0.0 && timeout <= RangeOf<&HeartbeatConfig::Mtcp_Timeout>.most),
+                          QString::number(timeout));
     }
 }
 

@@ -25,13 +25,15 @@ public:
 
     void refreshStatus() override;
 
+protected:
+    std::vector<PageFile> files() const override;
+    void fill() override;
+
 private slots:
-    void slotGetFileToUi();
     void on_saveButton_clicked();
 
 private:
     void buildRows();
-    void fillFromRecord();
     void storeToRecord();
 
     std::unique_ptr<Ui::HeartbeatDetectionWidget> ui;

@@ -5,6 +5,21 @@
 
 namespace {
 
+using Form = Ui_FinsTcpSettingWidget;
+using Record = FinsClientConfig;
+
+constexpr FormField<Form, Record> Fields[] = {
+    {&Form::serverIP_Edit, &Record::ServerIP},
+    {&Form::serverPort_edit, &Record::ServerPort},
+    {&Form::clientNode_edit, &Record::ClientNode},
+    // Never shown; what the file says is kept in it and saved again.
+    {&Form::autoConnectCB, &Record::AutoConnect},
+    {&Form::readAddress_edit, &Record::ReadDmAddress},
+    {&Form::writeAddress_edit, &Record::WriteDmAddress},
+    // Last: a change of the port replaces the node that the file gave.
+    {&Form::interfaceCB, &Record::IpPortIndex},
+};
+
 // The controller follows a switch of its client no faster.
 constexpr int SwitchPauseMs = 3000;
 
@@ -18,20 +33,26 @@ FinsTcpSettingWidget::FinsTcpSettingWidget()
     m_connection.emplace(ui->led_finsConnect);
     StatusLight(ui->led_finsError).show(StatusLight::Red);
     showError(false);
-    // Never shown; what the file says is kept in it and saved again.
     ui->autoConnectLb->hide();
     ui->autoConnectCB->hide();
     ui->serverIP_Edit->setCast(QTouchLineEdit::CastIpAddress);
     for (QTouchLineEdit* edit : {ui->serverPort_edit, ui->readAddress_edit, ui->writeAddress_edit})
         edit->setCast(QTouchLineEdit::CastInteger, -1);
-
-    if (fetchAndRead(ConfigFile::FinsClient, plain(&FieldbusSettingLib::readFinsTcpFile)) == Outcome::Gone)
-        return;
-    fillFromRecord();
-    applyStyle();
+    m_fields.bind(*ui, lib()->finsClient, Fields, edits());
 }
 
 FinsTcpSettingWidget::~FinsTcpSettingWidget() = default;
+
+void FinsTcpSettingWidget::prepare()
+{
+    if (load(Input::Free) != Outcome::Gone)
+        applyStyle();
+}
+
+std::vector<PageBase::PageFile> FinsTcpSettingWidget::files() const
+{
+    return {{ConfigFile::FinsClient, plain(&FieldbusSettingLib::readFinsTcpFile)}};
+}
 
 // The node is the host number of the port's address, also while the page is filled.
 void FinsTcpSettingWidget::on_interfaceCB_currentIndexChanged(int index)
@@ -56,9 +77,9 @@ void FinsTcpSettingWidget::changeBtnEnableStatus()
 
 void FinsTcpSettingWidget::on_saveFinsButton_clicked()
 {
-    if (!confirmed(tr("Are you sure to save?")))
+    if (!isReadyToSave() || !confirmed(tr("Are you sure to save?")))
         return;
-    storeToRecord();
+    m_fields.store();
     if (writeAndSend(ConfigFile::FinsClient, plain(&FieldbusSettingLib::writeFinsTcpFile)) != Outcome::Done)
         return;
     lib()->set_ifins_tcp_bupdate_cfg(true);
@@ -85,29 +106,4 @@ void FinsTcpSettingWidget::showError(bool error)
 {
     ui->label_error->setVisible(error);
     ui->led_finsError->setVisible(error);
-}
-
-void FinsTcpSettingWidget::fillFromRecord()
-{
-    const FinsClientConfig& record = lib()->finsClient;
-    ui->serverIP_Edit->setText(record.ServerIP);
-    ui->serverPort_edit->setText(record.ServerPort);
-    ui->clientNode_edit->setText(QString::number(record.ClientNode));
-    ui->autoConnectCB->setCurrentIndex(record.AutoConnect);
-    ui->readAddress_edit->setText(QString::number(record.ReadDmAddress));
-    ui->writeAddress_edit->setText(QString::number(record.WriteDmAddress));
-    // Last: a change of the port replaces the node that the file gave.
-    ui->interfaceCB->setCurrentIndex(record.IpPortIndex);
-}
-
-void FinsTcpSettingWidget::storeToRecord()
-{
-    FinsClientConfig& record = lib()->finsClient;
-    record.ServerIP = ui->serverIP_Edit->text();
-    record.ServerPort = ui->serverPort_edit->text();
-    record.ClientNode = ui->clientNode_edit->text().toInt();
-    record.AutoConnect = ui->autoConnectCB->currentIndex();
-    record.ReadDmAddress = ui->readAddress_edit->text().toInt();
-    record.WriteDmAddress = ui->writeAddress_edit->text().toInt();
-    record.IpPortIndex = ui->interfaceCB->currentIndex();
 }

@@ -8,6 +8,18 @@
 
 namespace {
 
+using Form = Ui_MesSettingWidget;
+using Record = MesServerConfig;
+
+constexpr FormField<Form, Record> Fields[] = {
+    {&Form::port_edit, &Record::Port, numberEntry(QTouchLineEdit::CastUnsigned, RangeOf<&Record::Port>)},
+    {&Form::mode_comboBox, &Record::Mode},
+    {&Form::protocal_comboBox, &Record::Protocol},
+    {&Form::IntervalTime_edit, &Record::IntervalTime,
+     numberEntry(QTouchLineEdit::CastUnsigned, RangeOf<&Record::IntervalTime>)},
+    {&Form::localPortIpCB, &Record::IpPortIndex},
+};
+
 constexpr Poll::Rule MonitorChange = {16, 100}; // 1.6 s in all
 
 } // namespace
@@ -21,24 +33,22 @@ MesSettingWidget::MesSettingWidget()
     m_connected.emplace(ui->led_connect);
     m_connected->show(StatusLight::Red);
     ui->IP_Edit->setEnabled(false);
-    ui->port_edit->setCast(QTouchLineEdit::CastUnsigned);
-    ui->port_edit->setValueRange(RangeOf<&MesServerConfig::Port>.least, RangeOf<&MesServerConfig::Port>.most);
-    ui->IntervalTime_edit->setCast(QTouchLineEdit::CastUnsigned);
-    ui->IntervalTime_edit->setValueRange(RangeOf<&MesServerConfig::IntervalTime>.least,
-                                         RangeOf<&MesServerConfig::IntervalTime>.most);
+    m_fields.bind(*ui, lib()->mesServer, Fields, edits());
     applyStyle();
     scheduleOnce(1, &MesSettingWidget::slotGetFileToUi);
 }
 
 MesSettingWidget::~MesSettingWidget() = default;
 
-void MesSettingWidget::slotGetFileToUi()
+std::vector<PageBase::PageFile> MesSettingWidget::files() const
 {
-    Busy busy(this);
-    if (fetchAndRead(ConfigFile::MesServer, plain(&FieldbusSettingLib::readMesSetFile)) == Outcome::Gone)
-        return;
-    busy.release();
-    fillFromRecord();
+    return {{ConfigFile::MesServer, plain(&FieldbusSettingLib::readMesSetFile)}};
+}
+
+void MesSettingWidget::fill()
+{
+    m_fields.show();
+    ui->IP_Edit->setText(NetworkPorts::addressOf(lib()->mesServer.IpPortIndex));
 }
 
 void MesSettingWidget::on_localPortIpCB_currentIndexChanged(int index)
@@ -48,13 +58,15 @@ void MesSettingWidget::on_localPortIpCB_currentIndexChanged(int index)
 
 void MesSettingWidget::on_saveButton_clicked()
 {
+    if (!isReadyToSave())
+        return;
     if (const char* service = conflictingService(ui->port_edit->text().toInt())) {
         tell(MsgBox::Warning, tr("The set port conflicts with %1 default port.").arg(QLatin1String(service)));
         return;
     }
     if (!confirmed(tr("Are you sure to save?")))
         return;
-    storeToRecord();
+    m_fields.store();
     if (writeAndSend(ConfigFile::MesServer, plain(&FieldbusSettingLib::writeMesSetFile)) != Outcome::Done)
         return;
     lib()->set_imes_update_tcp_server_cfg(true);
@@ -68,7 +80,7 @@ void MesSettingWidget::on_monitorButton_clicked()
     lib()->set_imes_tcp_server_listen(true); // one request for both: the controller toggles the server
     // What the server is started with is what the page is to show.
     if (!m_active)
-        fillFromRecord();
+        refill();
     const auto changed = [before] { return lib()->get_imes_tcp_server_active() != before; };
     const auto delay = [](unsigned msec) { lib()->delay_MSec(msec); };
     if (Poll::wait(MonitorChange, this, delay, changed) != Poll::Answer::Gone)
@@ -92,25 +104,4 @@ void MesSettingWidget::showServerState()
                                                     ui->protocal_comboBox, ui->saveButton};
     for (QWidget* widget : locked)
         widget->setEnabled(!m_active);
-}
-
-void MesSettingWidget::fillFromRecord()
-{
-    const MesServerConfig& record = lib()->mesServer;
-    ui->port_edit->setText(record.Port);
-    ui->mode_comboBox->setCurrentIndex(record.Mode);
-    ui->protocal_comboBox->setCurrentIndex(record.Protocol);
-    ui->IntervalTime_edit->setText(QString::number(record.IntervalTime));
-    ui->localPortIpCB->setCurrentIndex(record.IpPortIndex);
-    ui->IP_Edit->setText(NetworkPorts::addressOf(record.IpPortIndex));
-}
-
-void MesSettingWidget::storeToRecord()
-{
-    MesServerConfig& record = lib()->mesServer;
-    record.Port = ui->port_edit->text();
-    record.Mode = ui->mode_comboBox->currentIndex();
-    record.Protocol = ui->protocal_comboBox->currentIndex();
-    record.IntervalTime = ui->IntervalTime_edit->text().toInt();
-    record.IpPortIndex = ui->localPortIpCB->currentIndex();
 }

@@ -1,6 +1,7 @@
 #ifndef MESSETTINGWIDGET_H
 #define MESSETTINGWIDGET_H
 
+#include "FormFields.h"
 #include "PageBase.h"
 #include "StatusLight.h"
 
@@ -27,14 +28,16 @@ private slots:
     void on_saveButton_clicked();
     void on_monitorButton_clicked();
     void on_localPortIpCB_currentIndexChanged(int index);
-    void slotGetFileToUi();
+
+protected:
+    std::vector<PageFile> files() const override;
+    void fill() override;
 
 private:
     void showServerState();
-    void fillFromRecord();
-    void storeToRecord();
 
     std::unique_ptr<Ui::MesSettingWidget> ui;
+    FormFields m_fields;
     bool m_active = false; // as last seen
     std::optional<StatusLight> m_connected;
 };

@@ -38,6 +38,17 @@ void choose(QComboBox* combo, const QString& text)
         combo->setCurrentIndex(index);
 }
 
+// What the operator entered for the devices.
+QString listSummary(const List& list)
+{
+    QStringList cells(QString::number(list.count()));
+    for (int row = 0; row < list.count(); ++row) {
+        for (int column = List::MacId; column < List::Connect; ++column)
+            cells << list.text(row, column);
+    }
+    return cells.join(QLatin1Char(' '));
+}
+
 } // namespace
 
 DeviceNetMasterSetting::DeviceNetMasterSetting()
@@ -49,6 +60,9 @@ DeviceNetMasterSetting::DeviceNetMasterSetting()
     connect(ui->deviceTable, &QTableWidget::cellClicked, this,
             &DeviceNetMasterSetting::slotDeviceTableClicked, Qt::QueuedConnection);
     connectSettings();
+    for (QWidget* field : settingFields())
+        edits().add(field);
+    edits().add([this] { return listSummary(m_list); });
     setEditing(false);
     applyStyle();
     scheduleOnce(1, &DeviceNetMasterSetting::slotGetFileToUi);
@@ -75,16 +89,22 @@ void DeviceNetMasterSetting::connectSettings()
             [this](int index) { m_list.settings().BAUDRATE = ui->cbb_baudrate->itemText(index).toInt(); });
 }
 
-void DeviceNetMasterSetting::slotGetFileToUi()
+std::vector<PageBase::PageFile> DeviceNetMasterSetting::files() const
 {
-    Busy busy(this);
-    if (fetchAndRead(ConfigFile::DeviceNetMaster, plain(&FieldbusSettingLib::readDeviceNetMasterFile)) ==
-        Outcome::Gone)
-        return;
-    busy.release();
+    return {{ConfigFile::DeviceNetMaster, plain(&FieldbusSettingLib::readDeviceNetMasterFile)}};
+}
+
+void DeviceNetMasterSetting::fill()
+{
     m_list.load(lib()->deviceNetMaster);
     fillSettings();
     ui->deviceTable->showList(m_list);
+    ui->btn_add->setEnabled(!m_list.isFull());
+}
+
+std::array<QWidget*, 4> DeviceNetMasterSetting::settingFields() const
+{
+    return {ui->le_wsid, ui->le_ratio, ui->cbb_endian, ui->cbb_baudrate};
 }
 
 void DeviceNetMasterSetting::fillSettings()
@@ -103,9 +123,8 @@ void DeviceNetMasterSetting::setEditing(bool on)
     ui->btn_add->setVisible(on);
     ui->btn_delete->setVisible(on);
     ui->btn_add->setEnabled(!m_list.isFull());
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{ui->le_wsid, ui->le_ratio, ui->cbb_endian, ui->cbb_baudrate})
-        widget->setEnabled(on);
+    for (QWidget* field : settingFields())
+        field->setEnabled(on);
 }
 
 void DeviceNetMasterSetting::on_btn_add_clicked()
@@ -114,6 +133,7 @@ void DeviceNetMasterSetting::on_btn_add_clicked()
     ui->deviceTable->showRow(m_list, m_list.count() - 1);
     ui->deviceTable->scrollToBottom();
     ui->btn_add->setEnabled(!m_list.isFull());
+    edits().check();
 }
 
 void DeviceNetMasterSetting::on_btn_delete_clicked()
@@ -121,6 +141,7 @@ void DeviceNetMasterSetting::on_btn_delete_clicked()
     m_list.removeLast();
     ui->deviceTable->setRowCount(m_list.count());
     ui->btn_add->setEnabled(!m_list.isFull());
+    edits().check();
 }
 
 void DeviceNetMasterSetting::slotDeviceTableClicked(int row, int column)
@@ -147,10 +168,12 @@ void DeviceNetMasterSetting::slotSetValue(double value)
     // The mapping may have been changed on its own page since the last value.
     takeLimits();
     const List::Verdict verdict = m_list.set(m_row, m_column, value);
-    if (verdict == List::Verdict::Stored)
+    if (verdict == List::Verdict::Stored) {
         ui->deviceTable->showRow(m_list, m_row);
-    else
+        edits().check();
+    } else {
         tell(MsgBox::Warning, tr(refusalText(verdict)));
+    }
 }
 
 // The master reads its devices' inputs from the read-only area of the bus; the areas hold Bools, a bit each.
@@ -169,6 +192,8 @@ void DeviceNetMasterSetting::takeLimits()
 
 void DeviceNetMasterSetting::on_btn_edit_clicked()
 {
+    if (!isReadyToSave())
+        return;
     if (m_editing)
         save();
     else

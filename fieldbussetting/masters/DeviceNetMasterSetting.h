@@ -4,6 +4,7 @@
 #include "DeviceNetScanList.h"
 #include "PageBase.h"
 
+#include <array>
 #include <memory>
 
 namespace Ui {
@@ -22,8 +23,11 @@ public:
 
     void refreshStatus() override;
 
+protected:
+    std::vector<PageFile> files() const override;
+    void fill() override;
+
 private slots:
-    void slotGetFileToUi();
     void slotDeviceTableClicked(int row, int column);
     /// Result of the numeric keyboard for the cell that was pressed last.
     void slotSetValue(double value);
@@ -33,6 +37,7 @@ private slots:
 
 private:
     void connectSettings();
+    std::array<QWidget*, 4> settingFields() const;
     void fillSettings();
     void setEditing(bool on);
     void takeLimits();

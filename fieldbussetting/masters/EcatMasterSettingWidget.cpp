@@ -10,6 +10,18 @@ bool writeRecord(const QString& localPath)
                                                                  static_cast<int>(OverrideMode::WriteRecord));
 }
 
+// Whether the servo is on does not matter here: what is saved takes effect with a restart only.
+const FunctionTable::Section& section()
+{
+    static const FunctionTable::Section master = {
+        &FieldbusSettingLib::etherCatMasterOverride,
+        &FieldbusSettingLib::readEtherCatMFile,
+        writeRecord,
+        PageBase::SaveWhen::RestartAllowed,
+    };
+    return master;
+}
+
 } // namespace
 
 EcatMasterSettingWidget::EcatMasterSettingWidget()
@@ -17,31 +29,9 @@ EcatMasterSettingWidget::EcatMasterSettingWidget()
     , ui(std::make_unique<Ui::EcatMasterSettingWidget>())
 {
     ui->setupUi(this);
-    m_devices = std::make_unique<DeviceTable>(ui->ecatTableWidget);
+    m_functions.emplace(this, ui->ecatTableWidget, section());
     applyStyle();
     scheduleOnce(0, &EcatMasterSettingWidget::slotGetFileToUi);
 }
 
 EcatMasterSettingWidget::~EcatMasterSettingWidget() = default;
-
-void EcatMasterSettingWidget::on_btn_reset_clicked()
-{
-    m_devices->showFlags(lib()->etherCatMasterOverride);
-}
-
-// Whether the servo is on does not matter here: what is saved takes effect with a restart only.
-void EcatMasterSettingWidget::on_saveBt_Ecat_clicked()
-{
-    if (!Restart::isAllowed() || !confirmed(tr("Are you sure to save?")))
-        return;
-    m_devices->storeFlags(lib()->etherCatMasterOverride);
-    if (writeAndSend(ConfigFile::Override, writeRecord) == Outcome::Done)
-        offerRestart(Restart::Way::WhenAllowed);
-}
-
-void EcatMasterSettingWidget::slotGetFileToUi()
-{
-    const Busy busy(this);
-    if (fetchAndRead(ConfigFile::Override, plain(&FieldbusSettingLib::readEtherCatMFile)) != Outcome::Gone)
-        m_devices->fill(lib()->etherCatMasterOverride);
-}

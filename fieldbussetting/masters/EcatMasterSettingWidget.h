@@ -1,10 +1,10 @@
 #ifndef ECATMASTERSETTINGWIDGET_H
 #define ECATMASTERSETTINGWIDGET_H
 
-#include "DeviceTable.h"
-#include "PageBase.h"
+#include "FunctionTable.h"
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class EcatMasterSettingWidget;
@@ -19,14 +19,17 @@ public:
     EcatMasterSettingWidget();
     ~EcatMasterSettingWidget() override;
 
+protected:
+    std::vector<PageFile> files() const override { return {m_functions->file()}; }
+    void fill() override { m_functions->fill(); }
+
 private slots:
-    void on_btn_reset_clicked();
-    void on_saveBt_Ecat_clicked();
-    void slotGetFileToUi();
+    void on_btn_reset_clicked() { m_functions->reset(); }
+    void on_saveBt_Ecat_clicked() { m_functions->save(); }
 
 private:
     std::unique_ptr<Ui::EcatMasterSettingWidget> ui;
-    std::unique_ptr<DeviceTable> m_devices;
+    std::optional<FunctionTable> m_functions;
 };
 
 #endif

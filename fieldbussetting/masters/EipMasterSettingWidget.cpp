@@ -1,11 +1,14 @@
 #include "EipMasterSettingWidget.h"
 
-#include "ui_EipMasterSettingWidget.h"
+#include <QAbstractButton>
 
 const MasterTablePage::Master& EipMasterSettingWidget::master()
 {
     static const Master description = {
         "EipMasterSettingWidget",
+        QT_TRANSLATE_NOOP("EipMasterSettingWidget", "EthernetIP Master Setting"),
+        "saveBt_EipM",
+        "eipMTableWidget",
         "dynalm_checkbox_",
         {"fixeip_checkbox_%1", "dyneip_checkbox_%1", "eipConnectStatLb_%1", "eipCouplingStatLb_%1",
          "eipDecouplingStatLb_%1"},
@@ -33,13 +36,11 @@ const MasterTablePage::Master& EipMasterSettingWidget::master()
 
 EipMasterSettingWidget::EipMasterSettingWidget()
     : MasterTablePage(master())
-    , ui(std::make_unique<Ui::EipMasterSettingWidget>())
 {
-    ui->setupUi(this);
-    build(ui->eipMTableWidget, ui->devicesLayout, ui->pageLayout);
+    connect(saveButton(), &QAbstractButton::clicked, this, &EipMasterSettingWidget::on_saveBt_EipM_clicked);
+    connect(dynamicAlarmBox(), &QAbstractButton::clicked, this,
+            &EipMasterSettingWidget::on_dynalm_checkbox__clicked);
 }
-
-EipMasterSettingWidget::~EipMasterSettingWidget() = default;
 
 void EipMasterSettingWidget::on_saveBt_EipM_clicked()
 {

@@ -3,10 +3,6 @@
 
 #include "MasterTablePage.h"
 
-namespace Ui {
-class EipMasterSettingWidget;
-}
-
 /// The page of the EtherNet/IP master.
 class EipMasterSettingWidget : public MasterTablePage
 {
@@ -14,7 +10,6 @@ class EipMasterSettingWidget : public MasterTablePage
 
 public:
     EipMasterSettingWidget();
-    ~EipMasterSettingWidget() override;
 
 private slots:
     void on_saveBt_EipM_clicked();
@@ -23,8 +18,6 @@ private slots:
 
 private:
     static const Master& master();
-
-    std::unique_ptr<Ui::EipMasterSettingWidget> ui;
 };
 
 #endif

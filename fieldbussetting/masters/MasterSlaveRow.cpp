@@ -1,5 +1,7 @@
 #include "MasterSlaveRow.h"
 
+#include "EditWatch.h"
+
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -74,6 +76,12 @@ void MasterSlaveRow::store(MasterSlaveTable& record) const
 {
     record.*m_position.fixed = m_fixed->isChecked();
     record.*m_position.dynamic = m_dynamic->isChecked();
+}
+
+void MasterSlaveRow::watch(EditWatch& edits) const
+{
+    edits.add(m_fixed);
+    edits.add(m_dynamic);
 }
 
 void MasterSlaveRow::showConnected(bool connected)

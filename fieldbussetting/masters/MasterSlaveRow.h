@@ -8,6 +8,7 @@
 
 #include <array>
 
+class EditWatch;
 class QCheckBox;
 class QGridLayout;
 
@@ -38,6 +39,7 @@ public:
 
     void fill(const MasterSlaveTable& record);
     void store(MasterSlaveTable& record) const;
+    void watch(EditWatch& edits) const;
 
     void showConnected(bool connected);
     /// States as the controller gives them: 0 nothing, 1 done, any other failed.

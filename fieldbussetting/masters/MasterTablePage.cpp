@@ -4,11 +4,25 @@
 #include "FieldbusModule.h"
 #include "MasterSlaveList.h"
 #include "ui_MasterSettingsPanel.h"
+#include "ui_MasterTablePage.h"
 
 #include <QHeaderView>
 #include <QTableWidget>
 
 namespace {
+
+using Form = Ui_MasterSettingsPanel;
+using Record = MasterSlaveTable;
+
+constexpr NumberEntry Count = numberEntry(QTouchLineEdit::CastUnsigned, RangeOf<&Record::SlaveNum>);
+constexpr NumberEntry Timeout = numberEntry(QTouchLineEdit::CastUnsigned, RangeOf<&Record::DisableTimeout>);
+
+// The files carry numbers.
+constexpr FormField<Form, Record> Fields[] = {
+    {&Form::lineEdit_slave_count, &Record::SlaveNum, Count, Typed::WholeNumber},
+    {&Form::lineEdit_disable_timeout, &Record::DisableTimeout, Timeout, Typed::WholeNumber},
+    {&Form::lineEdit_enable_timeout, &Record::EnableTimeout, Timeout, Typed::WholeNumber},
+};
 
 // The device table beside the settings, in pixels.
 constexpr int DeviceTableLeastWidth = 420;
@@ -21,54 +35,68 @@ constexpr int SlavesFirst = 100; // share of the height, against 1 of the device
 
 constexpr TransferTexts DeviceTexts = {MsgBox::Error};
 
-// The files carry numbers: what is none is written as 0.
-QString wholeNumber(const QLineEdit* edit)
-{
-    return QString::number(edit->text().trimmed().toInt());
-}
-
 } // namespace
 
 MasterTablePage::MasterTablePage(const Master& master)
     : PageBase(master.className)
     , m_master(master)
+    , ui(std::make_unique<Ui::MasterTablePage>())
     , m_settings(std::make_unique<Ui::MasterSettingsPanel>())
-    , m_settingsPanel(new QWidget(this))
 {
-    m_settings->setupUi(m_settingsPanel);
+    ui->setupUi(this);
+    setObjectName(QLatin1String(master.className));
+    ui->label_title->setText(translated(master.title));
+    ui->saveButton->setObjectName(QLatin1String(master.saveButton));
+    ui->deviceTable->setObjectName(QLatin1String(master.deviceTable));
+    prepareTable();
+
+    auto* panel = new QWidget(this);
+    m_settings->setupUi(panel);
     m_settings->dynalm_checkbox->setObjectName(QLatin1String(master.dynamicAlarmBox));
-    m_settings->lineEdit_slave_count->setCast(QTouchLineEdit::CastUnsigned);
-    m_settings->lineEdit_slave_count->setValueRange(RangeOf<&MasterSlaveTable::SlaveNum>.least,
-                                                    RangeOf<&MasterSlaveTable::SlaveNum>.most);
-    for (QTouchLineEdit* edit : {m_settings->lineEdit_disable_timeout, m_settings->lineEdit_enable_timeout}) {
-        edit->setCast(QTouchLineEdit::CastUnsigned);
-        edit->setValueRange(RangeOf<&MasterSlaveTable::DisableTimeout>.least,
-                            RangeOf<&MasterSlaveTable::DisableTimeout>.most);
-    }
+    m_fields.bind(*m_settings, slaves(), Fields, edits());
+    panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    ui->devicesLayout->addWidget(panel, 0, Qt::AlignTop);
+
+    applyStyle();
+    addSlaves();
+    connect(ui->btn_reset, &QPushButton::clicked, this, &MasterTablePage::on_btn_reset_clicked);
+    scheduleOnce(1, &MasterTablePage::slotGetFileToUi);
 }
 
 MasterTablePage::~MasterTablePage() = default;
 
-void MasterTablePage::build(QTableWidget* deviceTable, QBoxLayout* besideTable, QBoxLayout* page)
+void MasterTablePage::prepareTable()
 {
-    m_deviceTable = deviceTable;
-    m_devices = std::make_unique<DeviceTable>(deviceTable);
-    QHeaderView* columns = deviceTable->horizontalHeader();
+    QTableWidget* table = ui->deviceTable;
+    m_devices = std::make_unique<DeviceTable>(table);
+    QHeaderView* columns = table->horizontalHeader();
     columns->setSectionResizeMode(QHeaderView::ResizeToContents);
     columns->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     columns->setSectionResizeMode(ActivateColumn, QHeaderView::Fixed);
     columns->resizeSection(ActivateColumn, ActivateWidth);
-    deviceTable->setMinimumSize(DeviceTableLeastWidth, DeviceTableLeastHeight);
-    besideTable->setStretch(0, 1);
-    m_settingsPanel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    besideTable->addWidget(m_settingsPanel, 0, Qt::AlignTop);
-    applyStyle();
+    table->setMinimumSize(DeviceTableLeastWidth, DeviceTableLeastHeight);
+    ui->devicesLayout->setStretch(0, 1);
+}
+
+void MasterTablePage::addSlaves()
+{
     m_slaveList = new MasterSlaveList(m_master.rowNames, this);
-    page->addWidget(m_slaveList, SlavesFirst);
-    page->setStretchFactor(besideTable, 1);
-    page->addStretch();
+    for (int index = 0; index < Positions; ++index)
+        m_slaveList->row(index).watch(edits());
+    ui->pageLayout->addWidget(m_slaveList, SlavesFirst);
+    ui->pageLayout->setStretchFactor(ui->devicesLayout, 1);
+    ui->pageLayout->addStretch();
     showPositions(0);
-    scheduleOnce(1, &MasterTablePage::slotGetFileToUi);
+}
+
+QAbstractButton* MasterTablePage::saveButton() const
+{
+    return ui->saveButton;
+}
+
+QAbstractButton* MasterTablePage::dynamicAlarmBox() const
+{
+    return m_settings->dynalm_checkbox;
 }
 
 bool MasterTablePage::usesDevices() const
@@ -76,14 +104,22 @@ bool MasterTablePage::usesDevices() const
     return !m_master.yieldsToProfisafe || !FieldbusModule::isProfisafePresent();
 }
 
-void MasterTablePage::slotGetFileToUi()
+void MasterTablePage::beginLoad()
 {
-    const Busy busy(this);
-    if (usesDevices() &&
-        fetchAndRead(ConfigFile::Override, plain(m_master.readDevices), DeviceTexts) == Outcome::Gone)
-        return;
-    if (fetchAndRead(m_master.slaveFile, plain(m_master.readSlaves), m_master.slaveTexts) == Outcome::Gone)
-        return;
+    m_showsDevices = usesDevices();
+}
+
+std::vector<PageBase::PageFile> MasterTablePage::files() const
+{
+    std::vector<PageFile> files;
+    if (m_showsDevices)
+        files.push_back({ConfigFile::Override, plain(m_master.readDevices), DeviceTexts});
+    files.push_back({m_master.slaveFile, plain(m_master.readSlaves), m_master.slaveTexts});
+    return files;
+}
+
+void MasterTablePage::fill()
+{
     fillDevices();
     fillSlaves();
 }
@@ -91,10 +127,12 @@ void MasterTablePage::slotGetFileToUi()
 // The table is no higher than its rows.
 void MasterTablePage::fillDevices()
 {
+    QTableWidget* table = ui->deviceTable;
     m_devices->fill(devices());
-    const int height = m_deviceTable->horizontalHeader()->height() +
-                       m_deviceTable->verticalHeader()->length() + 2 * m_deviceTable->frameWidth();
-    m_deviceTable->setMaximumHeight(qMax(height, DeviceTableLeastHeight));
+    m_devices->watch(edits());
+    const int height =
+        table->horizontalHeader()->height() + table->verticalHeader()->length() + 2 * table->frameWidth();
+    table->setMaximumHeight(qMax(height, DeviceTableLeastHeight));
 }
 
 void MasterTablePage::on_btn_reset_clicked()
@@ -105,8 +143,8 @@ void MasterTablePage::on_btn_reset_clicked()
 
 void MasterTablePage::save()
 {
-    const bool allowed = m_master.saveWhen == SaveWhen::ServoOff ? checkServoOff() : Restart::isAllowed();
-    if (!allowed || !confirmed(translated(QT_TRANSLATE_NOOP("PageBase", "Are you sure to save?"))))
+    if (!isReadyToSave() || !mayBeSaved(m_master.saveWhen) ||
+        !confirmed(translated(QT_TRANSLATE_NOOP("PageBase", "Are you sure to save?"))))
         return;
     if (usesDevices()) {
         m_devices->storeFlags(devices());
@@ -135,22 +173,17 @@ void MasterTablePage::switchDynamicAlarm()
 void MasterTablePage::fillSlaves()
 {
     const MasterSlaveTable& record = slaves();
-    m_settings->lineEdit_slave_count->setText(record.SlaveNum);
-    m_settings->lineEdit_disable_timeout->setText(record.DisableTimeout);
-    m_settings->lineEdit_enable_timeout->setText(record.EnableTimeout);
+    m_fields.show();
     // No file has this one: it is what the controller holds.
     m_settings->dynalm_checkbox->setChecked((lib()->*m_master.dynamicAlarm)());
     m_slaveList->fill(record);
     refreshStatus();
 }
 
-void MasterTablePage::storeSlaves() const
+void MasterTablePage::storeSlaves()
 {
-    MasterSlaveTable& record = slaves();
-    record.SlaveNum = wholeNumber(m_settings->lineEdit_slave_count);
-    record.DisableTimeout = wholeNumber(m_settings->lineEdit_disable_timeout);
-    record.EnableTimeout = wholeNumber(m_settings->lineEdit_enable_timeout);
-    m_slaveList->store(record);
+    m_fields.store();
+    m_slaveList->store(slaves());
 }
 
 void MasterTablePage::refreshStatus()
@@ -167,8 +200,7 @@ void MasterTablePage::refreshStatus()
 
 int MasterTablePage::shownCount() const
 {
-    return static_cast<int>(
-        qBound(0.0, m_settings->lineEdit_slave_count->text().trimmed().toDouble(), double(Positions)));
+    return qBound(0, FormFields::wholeNumber(m_settings->lineEdit_slave_count->text()), Positions);
 }
 
 void MasterTablePage::showPositions(int count)

@@ -2,21 +2,23 @@
 #define MASTERTABLEPAGE_H
 
 #include "DeviceTable.h"
+#include "FormFields.h"
 #include "MasterSlaveRow.h"
 #include "PageBase.h"
 
 #include <memory>
 
 class MasterSlaveList;
-class QBoxLayout;
+class QAbstractButton;
 
 namespace Ui {
 class MasterSettingsPanel;
-}
+class MasterTablePage;
+} // namespace Ui
 
 /// What the pages of the EtherNet/IP and the PROFINET master are: the devices of the override file, the
-/// number of slaves and the time-outs, and the slave positions with their lights. A page is a form with the
-/// title, the buttons and the device table, and a description of its master.
+/// number of slaves and the time-outs, and the slave positions with their lights. A page is a description of
+/// its master, and the slots of its buttons.
 class MasterTablePage : public PageBase
 {
     Q_OBJECT
@@ -27,14 +29,19 @@ public:
     void refreshStatus() override;
 
 protected:
-    /// What must hold before anything is saved.
-    enum class SaveWhen { ServoOff, RestartAllowed };
+    void beginLoad() override;
+    std::vector<PageFile> files() const override;
+    void fill() override;
 
     /// A master and the differences of its page.
     struct Master
     {
         const char* className;
-        const char* dynamicAlarmBox; ///< object name
+        const char* title;
+        // Object names.
+        const char* saveButton;
+        const char* deviceTable;
+        const char* dynamicAlarmBox;
         MasterSlaveRow::Names rowNames;
 
         OverrideRecord FieldbusSettingLib::*devices;
@@ -58,12 +65,11 @@ protected:
         bool yieldsToProfisafe;
     };
 
-    /// Makes what the page's form does not have, so that slots of the page find it by name when the form is
-    /// built. `master` must live as long as the page.
+    /// `master` must live as long as the page. Save button and dynamic alarm are the slots' of the page,
+    /// which connects them: they have other names on each.
     explicit MasterTablePage(const Master& master);
-    /// To be called when the form is built: sets up its device table and adds the settings beside it and the
-    /// slave positions below.
-    void build(QTableWidget* deviceTable, QBoxLayout* besideTable, QBoxLayout* page);
+    QAbstractButton* saveButton() const;
+    QAbstractButton* dynamicAlarmBox() const;
 
     void save();
     /// Hands the check box to the controller, at once.
@@ -71,26 +77,28 @@ protected:
 
 private slots:
     void on_btn_reset_clicked();
-    void slotGetFileToUi();
 
 private:
     static constexpr int Positions = MasterSlaveTable::PositionCount;
 
+    void prepareTable();
+    void addSlaves();
     bool usesDevices() const;
     OverrideRecord& devices() const { return lib()->*m_master.devices; }
     MasterSlaveTable& slaves() const { return lib()->*m_master.slaves; }
     void fillDevices();
     void fillSlaves();
-    void storeSlaves() const;
+    void storeSlaves();
     /// Slave count of the page, within what can be shown.
     int shownCount() const;
     void showPositions(int count);
 
     const Master& m_master;
+    std::unique_ptr<Ui::MasterTablePage> ui;
     std::unique_ptr<Ui::MasterSettingsPanel> m_settings;
-    QWidget* m_settingsPanel;
-    QTableWidget* m_deviceTable = nullptr;
+    FormFields m_fields;
     std::unique_ptr<DeviceTable> m_devices;
+    bool m_showsDevices = true;
     MasterSlaveList* m_slaveList = nullptr;
     int m_count = -1; ///< slave positions in sight
 };

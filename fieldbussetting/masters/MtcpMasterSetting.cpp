@@ -2,6 +2,7 @@
 
 #include "BusFileDataManager.h"
 #include "FieldRanges.h"
+#include "OutsideMark.h"
 #include "ui_MtcpMasterSetting.h"
 
 #include <QSignalBlocker>
@@ -85,7 +86,7 @@ MtcpMasterSetting::MtcpMasterSetting()
     , m_goodPort(lib()->mtcpMaster.SlavePort)
 {
     ui->setupUi(this);
-    m_connection.emplace(ui->label_conStatus);
+    m_connection.emplace(ui->label_conStatus, StatusLight::Face::Enabled);
     prepareFields();
     applyStyle();
     scheduleOnce(1, &MtcpMasterSetting::slotGetFileToUi);
@@ -111,18 +112,23 @@ void MtcpMasterSetting::prepareFields()
     for (const auto& order : ByteOrders) {
         for (const char* name : ByteOrderNames)
             (ui.get()->*order.combo)->addItem(QLatin1String(name));
+        QComboBox* combo = ui.get()->*order.combo;
+        edits().add(combo);
+        connect(combo, qOverload<int>(&QComboBox::activated), combo,
+                [combo] { OutsideMark::show(combo, false, {}); });
     }
+    for (const auto& field : Fields)
+        edits().add(ui.get()->*field.edit);
 }
 
-void MtcpMasterSetting::slotGetFileToUi()
+std::vector<PageBase::PageFile> MtcpMasterSetting::files() const
 {
-    Busy busy(this);
-    if (fetchAndRead(ConfigFile::MtcpMaster, plain(&FieldbusSettingLib::readMtcpFile), Texts) ==
-        Outcome::Gone)
-        return;
-    busy.release();
-    fillFromRecord();
+    return {{ConfigFile::MtcpMaster, plain(&FieldbusSettingLib::readMtcpFile), Texts}};
+}
 
+void MtcpMasterSetting::fill()
+{
+    fillFromRecord();
     const bool automatic = lib()->get_ifidbus_mbc_autoCon();
     const QSignalBlocker blocker(ui->cBox_autoCon);
     ui->cBox_autoCon->setChecked(automatic);
@@ -137,8 +143,12 @@ void MtcpMasterSetting::fillFromRecord()
     m_saved = record;
     for (const auto& field : Fields)
         (ui.get()->*field.edit)->setText(record.*field.value);
-    for (const auto& order : ByteOrders)
-        (ui.get()->*order.combo)->setCurrentIndex(shownByteOrder(record.*order.value));
+    for (const auto& order : ByteOrders) {
+        QComboBox* combo = ui.get()->*order.combo;
+        const QString& value = record.*order.value;
+        combo->setCurrentIndex(shownByteOrder(value));
+        OutsideMark::show(combo, QString::number(combo->currentIndex()) != value.trimmed(), value);
+    }
     m_goodIp = record.SlaveIp;
     m_goodPort = record.SlavePort;
 }
@@ -155,7 +165,7 @@ MtcpMasterConfig MtcpMasterSetting::entered() const
 
 void MtcpMasterSetting::on_btn_save_clicked()
 {
-    if (!confirmed(tr("Are you sure to save?")))
+    if (!isReadyToSave() || !confirmed(tr("Are you sure to save?")))
         return;
     for (const auto& field : Fields) {
         if ((ui.get()->*field.edit)->text().trimmed().isEmpty()) {

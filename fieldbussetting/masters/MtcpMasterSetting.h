@@ -1,8 +1,8 @@
 #ifndef MTCPMASTERSETTING_H
 #define MTCPMASTERSETTING_H
 
-#include "LinkLight.h"
 #include "PageBase.h"
+#include "StatusLight.h"
 
 #include <memory>
 #include <optional>
@@ -23,13 +23,16 @@ public:
 
     void refreshStatus() override;
 
+protected:
+    std::vector<PageFile> files() const override;
+    void fill() override;
+
 private slots:
     void on_btn_save_clicked();
     /// Puts the last good address back when `text` is none.
     void slotCheckIpFormat(const QString& text);
     /// Puts the last good port back when `text` is the port of another service.
     void slotCheckPortEffect(const QString& text);
-    void slotGetFileToUi();
     void on_btn_connect_clicked();
     void on_cBox_autoCon_clicked(bool checked);
 
@@ -39,7 +42,7 @@ private:
     MtcpMasterConfig entered() const;
 
     std::unique_ptr<Ui::MtcpMasterSetting> ui;
-    std::optional<LinkLight> m_connection;
+    std::optional<StatusLight> m_connection;
     MtcpMasterConfig m_saved; ///< what the controller has, as far as this page knows
     QString m_goodIp;
     QString m_goodPort;

@@ -1,11 +1,14 @@
 #include "PfnMasterSetting.h"
 
-#include "ui_PfnMasterSetting.h"
+#include <QAbstractButton>
 
 const MasterTablePage::Master& PfnMasterSetting::master()
 {
     static const Master description = {
         "PfnMasterSetting",
+        QT_TRANSLATE_NOOP("PfnMasterSetting", "Profinet Master Setting"),
+        "btn_save",
+        "pfnMasterTableWdt",
         "dynalm_checkbox",
         {"fix_checkbox_%1", "dyn_checkbox_%1", "connectStatLb_%1", "couplingStatLb_%1",
          "decouplingStatLb_%1"},
@@ -34,13 +37,11 @@ const MasterTablePage::Master& PfnMasterSetting::master()
 
 PfnMasterSetting::PfnMasterSetting()
     : MasterTablePage(master())
-    , ui(std::make_unique<Ui::PfnMasterSetting>())
 {
-    ui->setupUi(this);
-    build(ui->pfnMasterTableWdt, ui->devicesLayout, ui->pageLayout);
+    connect(saveButton(), &QAbstractButton::clicked, this, &PfnMasterSetting::on_btn_save_clicked);
+    connect(dynamicAlarmBox(), &QAbstractButton::clicked, this,
+            &PfnMasterSetting::on_dynalm_checkbox_clicked);
 }
-
-PfnMasterSetting::~PfnMasterSetting() = default;
 
 void PfnMasterSetting::on_btn_save_clicked()
 {

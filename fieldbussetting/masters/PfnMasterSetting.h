@@ -3,10 +3,6 @@
 
 #include "MasterTablePage.h"
 
-namespace Ui {
-class PfnMasterSetting;
-}
-
 /// The page of the PROFINET master.
 class PfnMasterSetting : public MasterTablePage
 {
@@ -14,7 +10,6 @@ class PfnMasterSetting : public MasterTablePage
 
 public:
     PfnMasterSetting();
-    ~PfnMasterSetting() override;
 
 private slots:
     void on_btn_save_clicked();
@@ -22,8 +17,6 @@ private slots:
 
 private:
     static const Master& master();
-
-    std::unique_ptr<Ui::PfnMasterSetting> ui;
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "DeviceTable.h"
 
+#include "EditWatch.h"
 #include "TouchTable.h"
 
 #include <QCheckBox>
@@ -118,6 +119,14 @@ void DeviceTable::showFlags(const OverrideRecord& record)
     for (std::size_t row = 0; row < m_boxes.size(); ++row) {
         if (m_boxes[row])
             m_boxes[row]->setChecked(record.entries[row].off);
+    }
+}
+
+void DeviceTable::watch(EditWatch& edits) const
+{
+    for (QCheckBox* box : m_boxes) {
+        if (box)
+            edits.add(box);
     }
 }
 

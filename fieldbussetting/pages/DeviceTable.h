@@ -5,6 +5,7 @@
 
 #include <array>
 
+class EditWatch;
 class QCheckBox;
 class QTableWidget;
 
@@ -27,6 +28,9 @@ public:
     void showFlags(const OverrideRecord& record);
     /// Takes the check boxes over into the record. An entry without a check box keeps its flag.
     void storeFlags(OverrideRecord& record) const;
+
+    /// Has the check boxes watched; those of the fill before are gone.
+    void watch(EditWatch& edits) const;
 
     /// The check box of a row, 0 to RowCount - 1; null when the row has none.
     QCheckBox* box(int row) const { return m_boxes[static_cast<std::size_t>(row)]; }

@@ -1,15 +1,13 @@
 #include "PageBase.h"
 
 #include "DataAccess.h"
+#include "PageHead.h"
 #include "ZelFunctions.h"
 
 #include <QCoreApplication>
-
-#include <utility>
+#include <QLabel>
 
 namespace {
-
-QWidget* makerOfNextPage = nullptr;
 
 QString fileName(ConfigFile file)
 {
@@ -18,31 +16,17 @@ QString fileName(ConfigFile file)
 
 } // namespace
 
-class PageBase::Presence
-{
-public:
-    explicit Presence(PageBase* page)
-        : m_page(page)
-    {
-    }
-    /// A page that is not put anywhere yet is being made.
-    explicit operator bool() const { return m_page && (m_page->parentWidget() || m_page->m_maker); }
-
-private:
-    QPointer<PageBase> m_page;
-};
-
 PageBase::PageBase(const char* className)
     : m_className(className)
-    , m_maker(std::exchange(makerOfNextPage, nullptr))
 {
+    connect(&m_edits, &EditWatch::changed, this, [this](bool edited) {
+        if (m_head)
+            m_head->showEdited(edited);
+        emit editedChanged(edited);
+    });
 }
 
-PageBase* PageBase::make(PageBase* (*create)(), QWidget* maker)
-{
-    makerOfNextPage = maker;
-    return create();
-}
+PageBase::~PageBase() = default;
 
 PageBase::Busy::Busy(PageBase* page)
     : m_page(page)
@@ -64,6 +48,11 @@ PageBase::FileOperation PageBase::plain(PlainOperation operation)
 
 void PageBase::applyStyle()
 {
+    QLabel* title = findChild<QLabel*>(QStringLiteral("label_title"));
+    if (title && showsFiles()) {
+        m_head = new PageHead(title);
+        m_head->showProvenance(m_provenance);
+    }
     ZelSetUIStyleSheet(this, QLatin1String("fieldbussetting/") + QLatin1String(m_className));
 }
 
@@ -75,14 +64,10 @@ QString PageBase::translated(const char* text) const
 }
 
 // The box is the page's child, so that it goes when the page does; it may be gone before `exec` returns.
-// While the page is made nobody owns it, and the box is its maker's.
-PageBase::Answer PageBase::runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons, bool grave)
+PageBase::Answer PageBase::runBox(MsgBox* made)
 {
-    const Presence self(this);
-    if (!self)
-        return Answer::Gone;
-    const QPointer<MsgBox> box(new MsgBox(kind, text, parentWidget() ? this : m_maker.data(), buttons));
-    box->setProperty("grave", grave);
+    const QPointer<PageBase> self(this);
+    const QPointer<MsgBox> box(made);
     const int result = box->exec();
     delete box.data();
     return self ? static_cast<Answer>(result) : Answer::Gone;
@@ -90,12 +75,12 @@ PageBase::Answer PageBase::runBox(MsgBox::Kind kind, const QString& text, MsgBox
 
 PageBase::Answer PageBase::tell(MsgBox::Kind kind, const QString& text)
 {
-    return runBox(kind, text, MsgBox::Ok);
+    return runBox(new MsgBox(kind, text, this, MsgBox::Ok));
 }
 
 PageBase::Answer PageBase::ask(const QString& text, MsgBox::Buttons buttons)
 {
-    return runBox(MsgBox::Information, text, buttons);
+    return runBox(new MsgBox(MsgBox::Information, text, this, buttons));
 }
 
 Outcome PageBase::failed(const TransferTexts& texts, const char* text, const QString& file)
@@ -104,9 +89,14 @@ Outcome PageBase::failed(const TransferTexts& texts, const char* text, const QSt
     return tell(texts.kind, message) == Answer::Gone ? Outcome::Gone : Outcome::Failed;
 }
 
+Outcome PageBase::sayUnread(const PageFile& file)
+{
+    return failed(file.texts, file.texts.readFailed, FileLocations::of(file.file).local);
+}
+
 Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const TransferTexts& texts)
 {
-    const Presence self(this);
+    const QPointer<PageBase> self(this);
     const FileLocation& location = FileLocations::of(file);
     const bool fetched = lib()->getFileFromCtrl(location.local, location.controller);
     if (!self)
@@ -120,31 +110,46 @@ Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const
 
 Outcome PageBase::write(ConfigFile file, const FileOperation& operation, const TransferTexts& texts)
 {
-    const Presence self(this);
+    const QPointer<PageBase> self(this);
     Busy busy(this);
     const bool written = operation(FileLocations::of(file).local);
     if (!self)
         return Outcome::Gone;
     busy.release();
-    return written ? Outcome::Done : failed(texts, texts.writeFailed, fileName(file));
+    if (written)
+        return Outcome::Done;
+    if (file == ConfigFile::Override && !files().empty() &&
+        lib()->writeProblem() == WriteProblem::ChangedOnController)
+        return giveWay();
+    return failed(texts, texts.writeFailed, fileName(file));
 }
 
 Outcome PageBase::send(ConfigFile file, const TransferTexts& texts)
 {
-    const Presence self(this);
+    const QPointer<PageBase> self(this);
     const FileLocation& location = FileLocations::of(file);
     Busy busy(this);
     const bool sent = lib()->sendFileToCtrl(location.local, location.controller);
     if (!self)
         return Outcome::Gone;
     busy.release();
-    return sent ? Outcome::Done : failed(texts, texts.sendFailed, fileName(file));
+    // Also what was not sent is no newer than the page: it may have left anything behind.
+    m_provenance.accept(file);
+    if (!sent)
+        return failed(texts, texts.sendFailed, fileName(file));
+    noteSent(file);
+    return Outcome::Done;
 }
 
 Outcome PageBase::writeAndSend(ConfigFile file, const FileOperation& operation, const TransferTexts& texts)
 {
     const Outcome written = write(file, operation, texts);
     return written == Outcome::Done ? send(file, texts) : written;
+}
+
+bool PageBase::mayBeSaved(SaveWhen when)
+{
+    return when == SaveWhen::ServoOff ? checkServoOff() : Restart::isAllowed();
 }
 
 bool PageBase::checkServoOff()
@@ -157,10 +162,14 @@ bool PageBase::checkServoOff()
 
 PageBase::Answer PageBase::askRestart()
 {
-    return runBox(MsgBox::Information,
-                  translated(QT_TRANSLATE_NOOP(
-                      "PageBase", "Save successfully, Are you sure to restart robot to make it effect?")),
-                  MsgBox::OkCancel, true);
+    auto* box =
+        new MsgBox(MsgBox::Information,
+                   translated(QT_TRANSLATE_NOOP(
+                       "PageBase", "Save successfully, Are you sure to restart robot to make it effect?")),
+                   this, MsgBox::OkCancel);
+    // Its "yes" is kept from under a hand that only goes on pressing, where the host can.
+    box->setProperty("grave", true);
+    return runBox(box);
 }
 
 PageBase::Answer PageBase::tellRestarted(bool stopped)

@@ -1,9 +1,11 @@
 #ifndef PAGEBASE_H
 #define PAGEBASE_H
 
+#include "EditWatch.h"
 #include "FieldbusSettingLib.h"
 #include "FileLocations.h"
 #include "MsgBox.h"
+#include "Provenance.h"
 #include "Restart.h"
 
 #include <QPointer>
@@ -12,6 +14,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 /// What happened in a step that showed a box or waited. While it did, events were processed: the page may
 /// have been closed. `Gone` says so; the caller then returns at once without touching the page.
@@ -29,7 +32,14 @@ struct TransferTexts
     const char* sendFailed = QT_TRANSLATE_NOOP("PageBase", "Failed to send file.");
 };
 
+class PageHead;
+
 /// Base of the bus pages: the steps that every page makes, so that a page is only what is particular to it.
+///
+/// A page says which files it shows (`files`) and how it shows their records (`fill`); it is then loaded when
+/// it is made, and again when it is shown and the controller has newer files than it read. What the operator
+/// can change is watched. Under the title it says where its contents came from, and no save gets past
+/// `isReadyToSave` with contents that were not read.
 ///
 /// Any box and any fetch processes events, so the page can be destroyed inside these calls. They return an
 /// `Outcome` or an `Answer` that says so.
@@ -41,27 +51,6 @@ class PageBase : public QWidget
     Q_OBJECT
 
 public:
-    /// `className` is the key of the page's style sheet and the context of its texts.
-    explicit PageBase(const char* className);
-
-    /// Makes a page for `maker`, which owns it once it has been put into it. A page that waits in its
-    /// constructor counts as gone when `maker` goes meanwhile: it shows nothing more and is to be deleted.
-    static PageBase* make(PageBase* (*create)(), QWidget* maker);
-
-    /// Called on each idle tick of the host while the page is visible or at work.
-    virtual void refreshStatus() {}
-    /// Whether a save is under way that the idle ticks carry on, also while the page is hidden.
-    virtual bool isAtWork() const { return false; }
-    /// Told once, right after construction, whether free bus configuration is switched on.
-    virtual void setFreeConfiguration(bool open) { Q_UNUSED(open) }
-
-signals:
-    /// True: a long operation begins, the menu page blocks input; false: it has ended. In pairs, may nest.
-    void mouseEventSignal(bool);
-
-public:
-    // The steps of a page, for itself and for the members that it is composed of.
-
     /// Third is an answer that some hosts give to a box that asks nothing.
     enum class Answer { Dismissed, Confirmed, Second, Third, Gone };
 
@@ -87,6 +76,36 @@ public:
     /// An operation of the library that takes nothing but the path.
     static FileOperation plain(PlainOperation operation);
 
+    /// A file that a page shows: how its local copy is read into the library's record, and what is said when
+    /// it cannot be had.
+    struct PageFile
+    {
+        ConfigFile file;
+        FileOperation read;
+        TransferTexts texts = {};
+    };
+
+    /// `className` is the key of the page's style sheet and the context of its texts.
+    explicit PageBase(const char* className);
+    ~PageBase() override;
+
+    /// Called on each idle tick of the host while the page is visible or at work.
+    virtual void refreshStatus() {}
+    /// Whether a save is under way that the idle ticks carry on, also while the page is hidden.
+    virtual bool isAtWork() const { return false; }
+    /// Told once, right after construction, whether free bus configuration is switched on.
+    virtual void setFreeConfiguration(bool open) { Q_UNUSED(open) }
+    /// Called once when the page has its place in the menu page, before it is shown: time for what a page
+    /// fetches before it is seen. The page may be gone afterwards.
+    virtual void prepare() {}
+
+    /// Whether the form differs from what was loaded or saved last.
+    bool isEdited() const { return m_edits.isEdited(); }
+    /// Fields that the operator changes and a save takes over.
+    EditWatch& edits() { return m_edits; }
+
+    // The steps of a page, for itself and for the members that it is composed of.
+
     static FieldbusSettingLib* lib() { return FieldbusSettingLib::getInstance(); }
 
     /// A text in the operator's language: by the page's own translation, else by the one that all pages
@@ -99,15 +118,31 @@ public:
     Answer ask(const QString& text, MsgBox::Buttons buttons = MsgBox::OkCancel);
     bool confirmed(const QString& text) { return ask(text) == Answer::Confirmed; }
 
+    enum class Input { Blocked, Free };
+    /// Fetches the files of the page, reads them into the library's records, shows what failed, and fills the
+    /// page in any case. Failed when one of them was not read, or while the page loads already.
+    Outcome load(Input input = Input::Blocked);
+    /// The first step of a save, and of an edit mode: true when the page shows what the controller holds.
+    /// Otherwise it has loaded the page, or said why it cannot, and the save ends here. The page may be gone
+    /// after a false.
+    bool isReadyToSave();
+
     /// Fetches the file and reads it into the library's record; a failure is shown to the operator.
     Outcome fetchAndRead(ConfigFile file, const FileOperation& read, const TransferTexts& texts = {});
     /// Writes the record to the local file. Input is blocked meanwhile: a writer that needs the controller's
     /// present file fetches it.
     Outcome write(ConfigFile file, const FileOperation& operation, const TransferTexts& texts = {});
-    /// Sends the local file.
+    /// Sends the local file. When all files of the page are sent, what stands on it counts as saved.
     Outcome send(ConfigFile file, const TransferTexts& texts = {});
     Outcome writeAndSend(ConfigFile file, const FileOperation& operation, const TransferTexts& texts = {});
 
+    /// What must hold before anything is saved.
+    enum class SaveWhen {
+        ServoOff,      ///< as `checkServoOff`
+        RestartAllowed ///< the service allows a restart now; when it does not, nothing is said
+    };
+    /// The page may be gone after a false.
+    bool mayBeSaved(SaveWhen when);
     /// True when the robot stands still and its servo is off; otherwise says so and answers false. The page
     /// may be gone after a false.
     bool checkServoOff();
@@ -121,23 +156,64 @@ public:
     /// afterwards.
     void restart(Restart::Way way);
 
+signals:
+    /// True: a long operation begins, the menu page blocks input; false: it has ended. In pairs, may nest.
+    void mouseEventSignal(bool);
+    /// The form differs from what was loaded or saved last, or does so no more.
+    void editedChanged(bool edited);
+
 protected:
-    /// Applies the page's style sheet; to be called when the form is built.
+    /// The files that the page shows now, in the order in which they are fetched; a page may have other ones
+    /// at each load.
+    virtual std::vector<PageFile> files() const { return {}; }
+    /// Comes first in a load: the page decides what it shows.
+    virtual void beginLoad() {}
+    /// Whether its contents come from the controller, so that it says when they were read.
+    virtual bool showsFiles() const { return !files().empty(); }
+    /// Fetches what the page shows and reads it into the records; it shows what failed.
+    virtual Outcome fetch();
+    /// Shows the records, whether or not they were read just now. What it shows counts as not edited.
+    virtual void fill() {}
+
+    /// Applies the page's style sheet and puts the line on the origin of the contents under the title; to be
+    /// called when the form is built.
     void applyStyle();
     /// Runs `slot` once after `msec` milliseconds, unless the page is gone by then.
     template <typename Page>
     void scheduleOnce(int msec, void (Page::*slot)());
 
+    /// Whether the load that runs is one that the operator waits for, to save.
+    bool isAskedFor() const { return m_isAskedFor; }
+    /// Shows the records again; what they hold counts as not edited.
+    void refill();
+
+    void showEvent(QShowEvent* event) override;
+
+protected slots:
+    virtual void slotGetFileToUi() { load(); }
+
+private slots:
+    void catchUpWhenShown();
+
 private:
-    /// Looks after the page while events are processed: false when the page is gone.
-    class Presence;
+    /// Loads the page again; with edits on it, if the operator wants that. The page may be gone afterwards.
+    void catchUp();
+    Answer askReload();
+    void noteSent(ConfigFile file);
+    Outcome giveWay();
+    Outcome sayUnread(const PageFile& file);
 
     Outcome failed(const TransferTexts& texts, const char* text, const QString& file);
-    /// A `grave` question's "yes" is kept from under a hand that only goes on pressing, where the host can.
-    Answer runBox(MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons, bool grave = false);
+    Answer runBox(MsgBox* made);
 
     const char* m_className;
-    QPointer<QWidget> m_maker;
+    EditWatch m_edits;
+    Provenance m_provenance;
+    std::vector<ConfigFile> m_unsent; ///< files of the page that a save has still to send
+    bool m_loading = false;
+    bool m_isAskedFor = false;
+    PageHead* m_head = nullptr; ///< none on a page without a title
+    std::optional<Busy> m_catchingUp;
 };
 
 template <typename Page>

@@ -4,9 +4,16 @@
 #include "QTouchLineEdit.h"
 #include "ui_DeviceNetSlaverSetting.h"
 
-#include <QRegularExpression>
-
 namespace {
+
+using Form = Ui_DeviceNetSlaverSetting;
+using Record = DeviceNetSlaveConfig;
+
+constexpr FormField<Form, Record> Fields[] = {
+    {&Form::cbb_baud, &Record::Dns_BAUDRATE},
+    {&Form::le_macid, &Record::Dns_MACID,
+     numberEntry(QTouchLineEdit::CastUnsigned, RangeOf<&Record::Dns_MACID>)},
+};
 
 constexpr int DeviceNetLinkBit = 32; // of the communication state
 
@@ -27,10 +34,8 @@ DeviceNetSlaverSetting::DeviceNetSlaverSetting()
     , m_handshake(FirstHandshake, this)
 {
     ui->setupUi(this);
-    ui->le_macid->setCast(QTouchLineEdit::CastUnsigned);
-    ui->le_macid->setValueRange(RangeOf<&DeviceNetSlaveConfig::Dns_MACID>.least,
-                                RangeOf<&DeviceNetSlaveConfig::Dns_MACID>.most);
-    m_light.emplace(ui->led_status);
+    m_fields.bind(*ui, lib()->deviceNetSlave, Fields, edits());
+    m_light.emplace(ui->led_status, StatusLight::Face::Enabled);
     connect(ui->le_macid, &QTouchLineEdit::valueSetted, this, &DeviceNetSlaverSetting::slotCheckMACIDFormat);
     applyStyle();
     scheduleOnce(1, &DeviceNetSlaverSetting::slotGetFileToUi);
@@ -38,18 +43,15 @@ DeviceNetSlaverSetting::DeviceNetSlaverSetting()
 
 DeviceNetSlaverSetting::~DeviceNetSlaverSetting() = default;
 
-void DeviceNetSlaverSetting::slotGetFileToUi()
+std::vector<PageBase::PageFile> DeviceNetSlaverSetting::files() const
 {
-    Busy busy(this);
-    if (fetchAndRead(ConfigFile::DeviceNetSlave, plain(&FieldbusSettingLib::readDeviceNetFile)) ==
-        Outcome::Gone)
-        return;
-    busy.release();
-    const DeviceNetSlaveConfig& record = lib()->deviceNetSlave;
-    const QString baudRate = QString(record.Dns_BAUDRATE).remove(QRegularExpression(QStringLiteral("\\s")));
-    ui->cbb_baud->setCurrentIndex(qMax(0, ui->cbb_baud->findText(baudRate, Qt::MatchFixedString)));
-    ui->le_macid->setText(record.Dns_MACID);
-    m_acceptedMacId = record.Dns_MACID;
+    return {{ConfigFile::DeviceNetSlave, plain(&FieldbusSettingLib::readDeviceNetFile)}};
+}
+
+void DeviceNetSlaverSetting::fill()
+{
+    m_fields.show();
+    m_acceptedMacId = lib()->deviceNetSlave.Dns_MACID;
 }
 
 // Only what is entered is checked: an odd MAC ID of the file is shown, and saved, as it stands.
@@ -68,9 +70,9 @@ void DeviceNetSlaverSetting::refreshStatus()
 
 void DeviceNetSlaverSetting::on_btn_save_clicked()
 {
-    if (!confirmed(tr("Are you sure to save?")))
+    if (!isReadyToSave() || !confirmed(tr("Are you sure to save?")))
         return;
-    lib()->deviceNetSlave = {ui->cbb_baud->currentText(), ui->le_macid->text()};
+    m_fields.store();
     if (writeAndSend(ConfigFile::DeviceNetSlave, plain(&FieldbusSettingLib::writeDeviceNetFile)) ==
         Outcome::Done)
         beginHandshake();

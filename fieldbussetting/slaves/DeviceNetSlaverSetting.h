@@ -1,9 +1,10 @@
 #ifndef DEVICENETSLAVERSETTING_H
 #define DEVICENETSLAVERSETTING_H
 
-#include "LinkLight.h"
+#include "FormFields.h"
 #include "PageBase.h"
 #include "Poll.h"
+#include "StatusLight.h"
 
 #include <memory>
 #include <optional>
@@ -29,14 +30,18 @@ private slots:
     void slotCheckMACIDFormat(const QString& text);
     /// A poll of the handshake, while one runs.
     void getFileSaveStatus();
-    void slotGetFileToUi();
+
+protected:
+    std::vector<PageFile> files() const override;
+    void fill() override;
 
 private:
     void beginHandshake();
     void endHandshake(bool taken);
 
     std::unique_ptr<Ui::DeviceNetSlaverSetting> ui;
-    std::optional<LinkLight> m_light;
+    FormFields m_fields;
+    std::optional<StatusLight> m_light;
     Poll m_handshake;
     QString m_acceptedMacId; ///< comes back when another one is refused
     bool m_firstSave = true;

@@ -19,6 +19,17 @@ const QString& littleEndianText()
     return text;
 }
 
+const FunctionTable::Section& section()
+{
+    static const FunctionTable::Section slave = {
+        &FieldbusSettingLib::etherCatSlaveOverride,
+        &FieldbusSettingLib::readEtherCatFile,
+        PageBase::plain(&FieldbusSettingLib::writeEtherCatFile),
+        PageBase::SaveWhen::ServoOff,
+    };
+    return slave;
+}
+
 } // namespace
 
 EtherCatSettingWidget::EtherCatSettingWidget()
@@ -26,36 +37,23 @@ EtherCatSettingWidget::EtherCatSettingWidget()
     , ui(std::make_unique<Ui::EtherCatSettingWidget>())
 {
     ui->setupUi(this);
-    m_devices = std::make_unique<DeviceTable>(ui->ecatTableWidget);
+    m_functions.emplace(this, ui->ecatTableWidget, section());
+    edits().add(ui->cbb_Endian);
     applyStyle();
     scheduleOnce(0, &EtherCatSettingWidget::slotGetFileToUi);
 }
 
 EtherCatSettingWidget::~EtherCatSettingWidget() = default;
 
-void EtherCatSettingWidget::on_btn_reset_clicked()
-{
-    m_devices->showFlags(lib()->etherCatSlaveOverride);
-}
-
-void EtherCatSettingWidget::on_saveBt_Ecat_clicked()
-{
-    if (!checkServoOff() || !confirmed(tr("Are you sure to save?")))
-        return;
-    m_devices->storeFlags(lib()->etherCatSlaveOverride);
-    if (writeAndSend(ConfigFile::Override, plain(&FieldbusSettingLib::writeEtherCatFile)) == Outcome::Done)
-        offerRestart(Restart::Way::WhenAllowed);
-}
-
 void EtherCatSettingWidget::on_btn_saveFbECAT_clicked()
 {
-    if (!checkServoOff())
+    if (!isReadyToSave() || !checkServoOff())
         return;
     switch (ask(tr("Are you sure to save?"))) {
     case Answer::Confirmed:
         break;
     case Answer::Second:
-        showByteOrder();
+        refill();
         return;
     default:
         return;
@@ -73,41 +71,60 @@ void EtherCatSettingWidget::on_btn_saveFbECAT_clicked()
         return;
     }
     m_endian = endian;
+    edits().settle();
     offerRestart(Restart::Way::WhenAllowed);
 }
 
 void EtherCatSettingWidget::BtnsClicxkedSlot()
 {
-    if (const QCheckBox* box = m_devices->box(DirectFunctionRow))
+    if (const QCheckBox* box = m_functions->box(DirectFunctionRow))
         lib()->set_ifidbus_ethcat_state(box->isChecked());
 }
 
-void EtherCatSettingWidget::slotGetFileToUi()
+void EtherCatSettingWidget::beginLoad()
 {
-    const Busy busy(this);
-    if (lib()->get_ifidbus_anybus_fm() == FieldbusModule::EtherCat) {
-        loadByteOrder();
+    m_isModule = lib()->get_ifidbus_anybus_fm() == FieldbusModule::EtherCat;
+    if (!m_isModule)
+        ui->stackedWidget->setCurrentWidget(ui->page_fbOther);
+}
+
+std::vector<PageBase::PageFile> EtherCatSettingWidget::files() const
+{
+    return m_isModule ? std::vector<PageFile>() : std::vector<PageFile>{m_functions->file()};
+}
+
+Outcome EtherCatSettingWidget::fetch()
+{
+    return m_isModule ? fetchByteOrder() : PageBase::fetch();
+}
+
+void EtherCatSettingWidget::fill()
+{
+    if (m_isModule) {
+        showByteOrder();
+        ui->stackedWidget->setCurrentWidget(ui->page_fbECAT);
         return;
     }
-    ui->stackedWidget->setCurrentWidget(ui->page_fbOther);
-    if (fetchAndRead(ConfigFile::Override, plain(&FieldbusSettingLib::readEtherCatFile)) == Outcome::Gone)
-        return;
-    m_devices->fill(lib()->etherCatSlaveOverride);
-    if (const QCheckBox* box = m_devices->box(DirectFunctionRow))
+    m_functions->fill();
+    if (const QCheckBox* box = m_functions->box(DirectFunctionRow))
         connect(box, &QCheckBox::clicked, this, &EtherCatSettingWidget::BtnsClicxkedSlot);
 }
 
-// A failed read says nothing and shows the byte order that was known before, or big endian.
-void EtherCatSettingWidget::loadByteOrder()
+// The byte order that was known before stays, or big endian. A failed read says so only when it was asked
+// for.
+Outcome EtherCatSettingWidget::fetchByteOrder()
 {
     const QPointer<EtherCatSettingWidget> self(this);
     QString endian = m_endian;
-    BusFileDataManager::getInstance()->getAndReadFbslave(endian);
+    const bool read = BusFileDataManager::getInstance()->getAndReadFbslave(endian);
     if (!self)
-        return;
+        return Outcome::Gone;
     m_endian = endian;
-    showByteOrder();
-    ui->stackedWidget->setCurrentWidget(ui->page_fbECAT);
+    if (read)
+        return Outcome::Done;
+    if (isAskedFor() && tell(MsgBox::Warning, tr("Failed to get file.")) == Answer::Gone)
+        return Outcome::Gone;
+    return Outcome::Failed;
 }
 
 void EtherCatSettingWidget::showByteOrder()

@@ -1,10 +1,10 @@
 #ifndef ETHERCATSETTINGWIDGET_H
 #define ETHERCATSETTINGWIDGET_H
 
-#include "DeviceTable.h"
-#include "PageBase.h"
+#include "FunctionTable.h"
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class EtherCatSettingWidget;
@@ -20,21 +20,28 @@ public:
     EtherCatSettingWidget();
     ~EtherCatSettingWidget() override;
 
+protected:
+    void beginLoad() override;
+    bool showsFiles() const override { return true; }
+    std::vector<PageFile> files() const override;
+    Outcome fetch() override;
+    void fill() override;
+
 private slots:
-    void on_btn_reset_clicked();
-    void on_saveBt_Ecat_clicked();
+    void on_btn_reset_clicked() { m_functions->reset(); }
+    void on_saveBt_Ecat_clicked() { m_functions->save(); }
     void on_btn_saveFbECAT_clicked();
     /// The fifth function is switched at once, without a save.
     void BtnsClicxkedSlot();
-    void slotGetFileToUi();
 
 private:
-    void loadByteOrder();
+    Outcome fetchByteOrder();
     void showByteOrder();
 
     std::unique_ptr<Ui::EtherCatSettingWidget> ui;
-    std::unique_ptr<DeviceTable> m_devices;
-    QString m_endian; ///< as last read or saved: "littleEndian" or "bigEndian", empty before
+    std::optional<FunctionTable> m_functions;
+    bool m_isModule = false; ///< the face: the module's, or the functions'
+    QString m_endian;        ///< as last read or saved: "littleEndian" or "bigEndian", empty before
 };
 
 #endif

@@ -10,7 +10,25 @@
 
 namespace {
 
-constexpr int EtherNetIpBus = 2;
+using Form = Ui_EtherNetSettingWidget;
+using Record = EipSlaveConfig;
+
+constexpr TextFileSlave::Role EtherNetIp = {
+    2,
+    ConfigFile::EipSlave,
+    ConfigFile::EipSlaveFree,
+    ConfigFile::EipSlaveFixed,
+    &FieldbusSettingLib::readEtherNetFile,
+    &FieldbusSettingLib::writeEtherNetFile,
+    &FieldbusSettingLib::writeEtherNetDnsFile,
+};
+
+constexpr FormField<Form, Record> Fields[] = {
+    {&Form::IP_Edit, &Record::IPADDR},
+    {&Form::netmaskEdit, &Record::NETMASK},
+    {&Form::cbb_largeSmall, &Record::EipEndian},
+};
+
 // The entry after the ports.
 constexpr int NoAdapter = NetworkPorts::Count;
 
@@ -24,31 +42,25 @@ bool hasAddress(const NetworkPort& port)
 } // namespace
 
 EtherNetSettingWidget::EtherNetSettingWidget()
-    : TextFileSlavePage(role())
+    : PageBase("EtherNetSettingWidget")
     , ui(std::make_unique<Ui::EtherNetSettingWidget>())
 {
     ui->setupUi(this);
-    bind(ui->led_status, ui->cBox, ui->cbb_largeSmall);
+    m_slave.emplace(this, EtherNetIp, ui->led_status, ui->cBox, ui->cbb_largeSmall);
+    m_fields.bind(*ui, lib()->eipSlave, Fields, edits());
     ui->localPortIpCB->setCurrentIndex(NoAdapter);
     ui->info_label->hide();
-    performanceBox().load();
+    m_slave->performanceBox().load();
     applyStyle();
     scheduleOnce(0, &EtherNetSettingWidget::slotGetFileToUi);
 }
 
 EtherNetSettingWidget::~EtherNetSettingWidget() = default;
 
-const TextFileSlavePage::Role& EtherNetSettingWidget::role()
+void EtherNetSettingWidget::showEvent(QShowEvent* event)
 {
-    static const Role etherNetIp = {"EtherNetSettingWidget",
-                                    EtherNetIpBus,
-                                    ConfigFile::EipSlave,
-                                    ConfigFile::EipSlaveFree,
-                                    ConfigFile::EipSlaveFixed,
-                                    &FieldbusSettingLib::readEtherNetFile,
-                                    &FieldbusSettingLib::writeEtherNetFile,
-                                    &FieldbusSettingLib::writeEtherNetDnsFile};
-    return etherNetIp;
+    m_slave->performanceBox().pageShown();
+    PageBase::showEvent(event);
 }
 
 void EtherNetSettingWidget::on_localPortIpCB_currentIndexChanged(int index)
@@ -68,35 +80,25 @@ void EtherNetSettingWidget::on_localPortIpCB_currentIndexChanged(int index)
 
 void EtherNetSettingWidget::on_saveButton_clicked()
 {
-    if (!confirmed(tr("Are you sure to save?")))
+    if (!isReadyToSave() || !confirmed(tr("Are you sure to save?")))
         return;
-    lib()->eipSlave = {ui->IP_Edit->text(), ui->netmaskEdit->text(), ui->cbb_largeSmall->currentText()};
-    saveFiles();
+    m_fields.store();
+    m_slave->save();
 }
 
 void EtherNetSettingWidget::on_cBox_clicked(bool checked)
 {
-    performanceBox().clicked(checked);
+    m_slave->performanceBox().clicked(checked);
 }
 
-void EtherNetSettingWidget::slotGetFileToUi()
+void EtherNetSettingWidget::fill()
 {
-    const Busy busy(this);
-    if (load() != Outcome::Gone)
-        fillFromRecord();
-}
-
-void EtherNetSettingWidget::fillFromRecord()
-{
-    const EipSlaveConfig record = lib()->eipSlave;
-    showAddress({record.IPADDR, record.NETMASK});
-    showEndian(ui->cbb_largeSmall, record.EipEndian);
-
+    m_fields.show();
     const auto ports = NetworkPorts::read();
     for (int index = 0; index < NetworkPorts::Count; ++index)
         offer(index, hasAddress(ports[static_cast<std::size_t>(index)]));
 
-    const QString address = record.IPADDR.trimmed();
+    const QString address = lib()->eipSlave.IPADDR.trimmed();
     const auto used = std::find_if(ports.begin(), ports.end(), [&address](const NetworkPort& port) {
         return !address.isEmpty() && port.ip == address;
     });

@@ -6,72 +6,76 @@
 
 namespace {
 
-constexpr int ProfinetBus = 3;
+using Form = Ui_Pfb_PfnSettingWidget;
+using Record = PfbSlaveConfig;
+
+constexpr TextFileSlave::Role Profinet = {
+    3,
+    ConfigFile::PfbSlave,
+    ConfigFile::PfbFree,
+    ConfigFile::PfbFixed,
+    &FieldbusSettingLib::readPfbCfgFile,
+    &FieldbusSettingLib::writePfbCfgFile,
+    &FieldbusSettingLib::writePfbFreeFixFile,
+};
+
+constexpr FormField<Form, Record> Fields[] = {
+    {&Form::pfbAddressLE, &Record::ProfibusAddress,
+     numberEntry(QTouchLineEdit::CastInteger, RangeOf<&Record::ProfibusAddress>)},
+    {&Form::pfbAlarmSwitchCB, &Record::ComAlarmEnabled},
+    {&Form::cbb_largeSmall, &Record::ProfibusEndian},
+};
 
 } // namespace
 
 Pfb_PfnSettingWidget::Pfb_PfnSettingWidget()
-    : TextFileSlavePage(role())
+    : PageBase("Pfb_PfnSettingWidget")
     , ui(std::make_unique<Ui::Pfb_PfnSettingWidget>())
 {
     ui->setupUi(this);
-    bind(ui->led_status, ui->cBox, ui->cbb_largeSmall);
-    ui->pfbAddressLE->setCast(QTouchLineEdit::CastInteger);
-    ui->pfbAddressLE->setValueRange(RangeOf<&PfbSlaveConfig::ProfibusAddress>.least,
-                                    RangeOf<&PfbSlaveConfig::ProfibusAddress>.most);
+    m_slave.emplace(this, Profinet, ui->led_status, ui->cBox, ui->cbb_largeSmall);
+    m_fields.bind(*ui, lib()->pfbSlave, Fields, edits());
     applyStyle();
     scheduleOnce(0, &Pfb_PfnSettingWidget::slotGetFileToUi);
 }
 
 Pfb_PfnSettingWidget::~Pfb_PfnSettingWidget() = default;
 
-const TextFileSlavePage::Role& Pfb_PfnSettingWidget::role()
+void Pfb_PfnSettingWidget::showEvent(QShowEvent* event)
 {
-    static const Role profinet = {"Pfb_PfnSettingWidget",
-                                  ProfinetBus,
-                                  ConfigFile::PfbSlave,
-                                  ConfigFile::PfbFree,
-                                  ConfigFile::PfbFixed,
-                                  &FieldbusSettingLib::readPfbCfgFile,
-                                  &FieldbusSettingLib::writePfbCfgFile,
-                                  &FieldbusSettingLib::writePfbFreeFixFile};
-    return profinet;
+    m_slave->performanceBox().pageShown();
+    PageBase::showEvent(event);
 }
 
-void Pfb_PfnSettingWidget::on_saveBt_clicked()
+void Pfb_PfnSettingWidget::beginLoad()
 {
-    if (!confirmed(tr("Are you sure to save?")))
-        return;
-    lib()->pfbSlave = {ui->pfbAddressLE->text(), ui->pfbAlarmSwitchCB->currentIndex(),
-                       ui->cbb_largeSmall->currentText()};
-    saveFiles();
-}
-
-void Pfb_PfnSettingWidget::slotGetFileToUi()
-{
-    Busy busy(this);
     m_profisafeActive = FieldbusModule::isProfisafePresent();
     ui->groupBox_set->setVisible(!m_profisafeActive);
     // Without the settings there is nothing to save: what the record holds was never fetched.
     ui->saveBt->setVisible(!m_profisafeActive);
-    if (!m_profisafeActive) {
-        if (load() == Outcome::Gone)
-            return;
-        fillFromRecord();
-    }
-    busy.release();
-    performanceBox().load();
+}
+
+std::vector<PageBase::PageFile> Pfb_PfnSettingWidget::files() const
+{
+    return m_profisafeActive ? std::vector<PageFile>() : std::vector<PageFile>{m_slave->file()};
+}
+
+void Pfb_PfnSettingWidget::fill()
+{
+    if (!m_profisafeActive)
+        m_fields.show();
+    m_slave->performanceBox().load();
+}
+
+void Pfb_PfnSettingWidget::on_saveBt_clicked()
+{
+    if (!isReadyToSave() || !confirmed(tr("Are you sure to save?")))
+        return;
+    m_fields.store();
+    m_slave->save();
 }
 
 void Pfb_PfnSettingWidget::on_cBox_clicked(bool checked)
 {
-    performanceBox().clicked(checked);
-}
-
-void Pfb_PfnSettingWidget::fillFromRecord()
-{
-    const PfbSlaveConfig& record = lib()->pfbSlave;
-    ui->pfbAddressLE->setText(record.ProfibusAddress);
-    ui->pfbAlarmSwitchCB->setCurrentIndex(record.ComAlarmEnabled);
-    showEndian(ui->cbb_largeSmall, record.ProfibusEndian);
+    m_slave->performanceBox().clicked(checked);
 }

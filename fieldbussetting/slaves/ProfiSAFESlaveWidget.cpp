@@ -106,7 +106,7 @@ void ProfiSAFESlaveWidget::buildRow(Block& block, int row)
     light->setProperty("light", true);
     layout->addWidget(light, 0, Qt::AlignCenter);
     table->setCellWidget(row, block.firstColumn + LightColumn, cell);
-    block.lights.emplace_back(light, LightSize);
+    block.lights.emplace_back(light, StatusLight::Face::Enabled, LightSize);
 }
 
 void ProfiSAFESlaveWidget::showEvent(QShowEvent* event)

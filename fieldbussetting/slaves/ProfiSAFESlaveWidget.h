@@ -1,8 +1,8 @@
 #ifndef PROFISAFESLAVEWIDGET_H
 #define PROFISAFESLAVEWIDGET_H
 
-#include "LinkLight.h"
 #include "PageBase.h"
+#include "StatusLight.h"
 
 #include <QMap>
 
@@ -50,7 +50,7 @@ private:
     {
         int firstColumn;
         QMap<int, QString> descriptions; // of the bits
-        std::vector<LinkLight> lights;   // by row, which is the bit
+        std::vector<StatusLight> lights; // by row, which is the bit
     };
 
     void buildTable();

@@ -14,6 +14,10 @@ namespace {
 
 using namespace Texts;
 
+const QString LoadedNow("Loaded now. Look at the settings, then save.");
+const QString Changed("Changed on the controller since it was read");
+const QString NotRead("Not read from the controller: these are not its settings");
+
 // What an override file, of which any text is one, cannot be: longer than the pendant takes.
 constexpr int TooLongBytes = 17 * 1024 * 1024;
 constexpr int EtherCatModule = 13;
@@ -33,6 +37,8 @@ struct PageFile
     QStringList between = {};
     // The controller's present file is fetched for a save.
     bool isTemplate = false;
+    // Faults that bring a file with nothing of its own in it: only who wants to save is told.
+    QString unrecognised = {};
 };
 
 const QStringList GoesOn{"(it does not look)"};
@@ -97,6 +103,7 @@ PageFile overrideFile()
 {
     PageFile file{"/FA/override.cfg", "override.cfg", "too-long"};
     file.isTemplate = true;
+    file.unrecognised = "fetch-empty fetch-garbage";
     return file;
 }
 
@@ -370,6 +377,10 @@ public:
                 pressOn(m_page->widget, m_page->edit)) &&
                Finger::press(findOn(m_page->widget, m_page->save));
     }
+    /// The button alone, whatever it does.
+    bool pressSave() { return Finger::press(findOn(m_page->widget, m_page->save)); }
+    QString source() const { return findOn<QLabel>(m_page->widget, "label_source")->text(); }
+    bool hasDot() const { return !findOn(m_page->widget, "label_edited")->isHidden(); }
     /// What can be entered on the page, as it stands there.
     QStringList entries() const
     {
@@ -431,7 +442,8 @@ private slots:
                 const PageFile& file = page.files[number];
                 if (file.getText.isEmpty())
                     continue;
-                for (const QString& fault : ("fetch-fails " + file.unreadable).split(' ', Qt::SkipEmptyParts))
+                for (const QString& fault : ("fetch-fails " + file.unreadable + " " + file.unrecognised)
+                                                .split(' ', Qt::SkipEmptyParts))
                     row(QStringLiteral("%1: %2, %3").arg(page.name, file.path, fault), index, number, fault);
             }
         }
@@ -449,20 +461,81 @@ private slots:
             QVERIFY(fail(fault + ":-1:" + file.path));
         MsgBoxScript::answerByDefault(MsgBox::Confirmed);
         QVERIFY(show());
-        QCOMPARE(messages(), QStringList(fault == "fetch-fails" ? file.getText : file.readText));
-        QCOMPARE(MsgBoxScript::shown().constLast().kind, page().kind);
-        QCOMPARE(traffic().stores(), QStringList());
-        QVERIFY(!page().announced || writesOf(page().announced).isEmpty());
+        const QStringList said(fault == "fetch-fails" ? file.getText : file.readText);
+        QCOMPARE(messages(), file.unrecognised.contains(fault) ? QStringList() : said);
+        QCOMPARE(source(), NotRead);
 
-        // The page is usable: with the cause gone a save goes through, but for one that would send what is no
-        // file.
+        // A save tries to load first, and says why it cannot.
+        MsgBoxScript::clear();
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+        QVERIFY(pressSave() && settle());
+        QCOMPARE(messages(), said);
+        QCOMPARE(MsgBoxScript::shown().constLast().kind, page().kind);
+        // With the cause gone it loads, and the next one saves.
         controller().faults().clearAll();
         QVERIFY(put(file.path, sound));
-        change(); // of a table that could not be loaded there is nothing to change
+        QVERIFY(pressSave() && settle());
+        QCOMPARE(messages().constLast(), LoadedNow);
+        QVERIFY(source().startsWith("Read from the controller "));
+        QCOMPARE(traffic().stores(), QStringList());
+        QVERIFY(!page().announced || writesOf(page().announced).isEmpty());
+        QVERIFY(change());
         answer({MsgBox::Confirmed, MsgBox::Second});
         QVERIFY(save());
-        QTRY_COMPARE(messages().constLast(), page().needsItsCopy ? file.writeText : page().saved);
-        QCOMPARE(traffic().stores().contains(file.path), !page().needsItsCopy);
+        QTRY_COMPARE(messages().constLast(), page().saved);
+        QVERIFY(traffic().stores().contains(file.path));
+    }
+
+    void isNeverOlderThanTheController_data()
+    {
+        const Rows<int> row;
+        for (int index = 0; index < int(pages().size()); ++index) {
+            if (!pages()[index].files.front().getText.isEmpty())
+                row(pages()[index].name, index);
+        }
+    }
+
+    // Another page, an import or a put-back sends one of its files while it is not in sight.
+    void isNeverOlderThanTheController()
+    {
+        constexpr int StartPage = 5;
+        const PageFile& last = page().files.back();
+        const QString path = last.getText.isEmpty() ? page().files.front().path : last.path;
+        const QString copy = "../Application/sent-elsewhere";
+        const struct
+        {
+            const char* name;
+            bool isChanged;
+            int answer;
+            bool isLoaded;
+        } cases[] = {{"nothing entered", false, MsgBox::Confirmed, true},
+                     {"kept", true, MsgBox::Second, false},
+                     {"reloaded", false, MsgBox::Confirmed, true}};
+        QVERIFY(openUpTo());
+        QVERIFY(show() && tick());
+        const auto loaded = entries();
+        for (const auto& row : cases) {
+            QVERIFY(!row.isChanged || change());
+            QCOMPARE(hasDot(), row.name != cases[0].name);
+            const bool isEdited = hasDot();
+            const auto entered = entries();
+            QVERIFY(selectPage(StartPage));
+            QFile file(copy);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(controllerFile(path)) >= 0);
+            file.close();
+            QVERIFY(FieldbusSettingLib::getInstance()->sendFileToCtrl(copy, path));
+            traffic().clear();
+            MsgBoxScript::clear();
+            MsgBoxScript::answerByDefault(row.answer);
+            QVERIFY(show() && settle() && tick());
+            QCOMPARE(messages(), isEdited ? QStringList(Changed) : QStringList());
+            QCOMPARE(traffic().fetches().contains(path), row.isLoaded);
+            QVERIFY2(entries() == (row.isLoaded ? loaded : entered), row.name);
+            QCOMPARE(hasDot(), !row.isLoaded);
+            // Answered once.
+            QVERIFY(selectPage(StartPage) && show() && settle());
+            QCOMPARE(messages().size(), int(isEdited));
+        }
     }
 
     void whatStopsASave_data() { eachPage(); }

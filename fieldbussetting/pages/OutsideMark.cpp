@@ -1,0 +1,15 @@
+#include "OutsideMark.h"
+
+#include <QStyle>
+#include <QWidget>
+
+// The style sheet looks at the property; the field is touched only when it changes.
+void OutsideMark::show(QWidget* field, bool isOutside, const QString& value)
+{
+    if (field->property("outside").toBool() == isOutside)
+        return;
+    field->setProperty("outside", isOutside);
+    field->setToolTip(isOutside ? value : QString());
+    field->style()->unpolish(field);
+    field->style()->polish(field);
+}
