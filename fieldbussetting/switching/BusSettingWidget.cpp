@@ -59,7 +59,9 @@ Outcome BusSettingWidget::reload()
     if (read == Outcome::Gone)
         return read;
     m_overrideRead = read == Outcome::Done;
-    m_board.showRunning(m_overrideRead);
+    // What was chosen is to be saved all the same when nothing more is known than before.
+    if (m_overrideRead || !m_keepsChoices)
+        m_board.showRunning(m_overrideRead);
     showDifferences();
     return read;
 }
@@ -175,11 +177,15 @@ void BusSettingWidget::on_saveBusBt_clicked()
     if (!m_transfer.isSaveAllowed() || !checkServoOff())
         return;
     // What was not known yet is looked at before it is saved; what cannot be known keeps its role.
+    m_keepsChoices = true;
     const Outcome read = m_overrideRead ? Outcome::Failed : reloadBlocked();
+    if (read == Outcome::Gone)
+        return;
+    m_keepsChoices = false;
     if (read == Outcome::Done)
         tell(MsgBox::Information,
              translated(QT_TRANSLATE_NOOP("PageBase", "Loaded now. Look at the settings, then save.")));
-    else if (read == Outcome::Failed)
+    else
         m_save.begin();
 }
 

@@ -84,6 +84,7 @@ private:
     SwitchBoard m_board{this};
     std::unique_ptr<Ui::BusSettingWidget> ui;
     bool m_overrideRead = true;
+    bool m_keepsChoices = false; ///< a load that fails leaves the switches as they were chosen
     QQueue<SwitchWarning> m_warnings;
     bool m_showingWarnings = false;
     Poll m_moduleCheck{{70, 10}, this};

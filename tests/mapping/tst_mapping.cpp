@@ -108,11 +108,11 @@ private slots:
         const QByteArray before = controllerFile(FilePath);
         const auto changeTo = [&](const QString& quantity) {
             QVERIFY(openPage("heartbeatBtn"));
-            QVERIFY(put(FilePath, QByteArray(before).replace("256", quantity.toLatin1())));
+            QVERIFY(put(FilePath, QByteArray(before).replace("512", quantity.toLatin1())));
             BusFileDataManager::getInstance()->emitGetFieldbusCfg();
             QVERIFY(settle());
         };
-        QCOMPARE(cell("Mtcp", 1, 1), QString("256"));
+        QCOMPARE(cell("Mtcp", 1, 1), QString("512"));
         changeTo("128");
         QVERIFY(showAgain());
         QCOMPARE(cell("Mtcp", 1, 1), QString("128"));
@@ -143,7 +143,7 @@ private slots:
         QVERIFY(press("bt_EditOrSave") && settle());
         QCOMPARE(messages().constLast(), QString("Loaded now. Look at the settings, then save."));
         QVERIFY(!isEditing());
-        QCOMPARE(cell("Mtcp", 1, 1), QString("256"));
+        QCOMPARE(cell("Mtcp", 1, 1), QString("512"));
     }
 
     // One entry in the table of each editable bus, saved together.

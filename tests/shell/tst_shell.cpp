@@ -75,8 +75,10 @@ private slots:
         const auto [fault] = Rows<QString>::current();
         QVERIFY(fail(fault));
         MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-        QVERIFY(open());
-        QVERIFY(visibleButtons().contains("exitBtn"));
+        // Without the list of roles no page is shown.
+        window().openApplication("fieldbussetting");
+        const auto isMenuShown = [this] { return isOpen() && visibleButtons().contains("exitBtn"); };
+        QVERIFY(QTest::qWaitFor(isMenuShown, 10000) && settle());
         for (const QWidget* window : QApplication::topLevelWidgets())
             QVERIFY(!(window->isVisible() && window->inherits("ProgressBarWidget")));
     }
