@@ -5,6 +5,8 @@
 
 #include <QRegularExpression>
 
+#include <limits>
+
 namespace {
 
 QString textOf(const std::variant<QString*, int*>& value)
@@ -29,7 +31,9 @@ QString FormFields::Field::entered() const
 
 int FormFields::wholeNumber(const QString& text)
 {
-    return static_cast<int>(text.trimmed().toDouble());
+    constexpr double Most = std::numeric_limits<int>::max();
+    const double number = text.trimmed().toDouble();
+    return number >= -Most && number <= Most ? static_cast<int>(number) : 0;
 }
 
 bool FormFields::Field::isInRange(const QString& text) const
@@ -92,7 +96,8 @@ void FormFields::show(Field& field)
 void FormFields::store()
 {
     for (Field& field : m_fields) {
-        if (field.touched || field.entered() != field.shown)
+        // What is saved as a whole number is made one, also when nobody typed it.
+        if (field.touched || field.entered() != field.shown || field.typed == Typed::WholeNumber)
             store(field);
         field.touched = false;
         field.shown = field.entered();

@@ -134,7 +134,7 @@ private slots:
         bool inSight = false;
         MsgBoxScript::answerByDefault(MsgBox::Confirmed);
         MsgBoxScript::onShown([&inSight](const MsgBox* box) {
-            inSight = box->isVisible() && box->parentWidget() && box->parentWidget()->isVisible();
+            inSight = box->isVisible() && box->parentWidget() && box->parentWidget()->window()->isVisible();
         });
         QTimer::singleShot(200, &window(), [this] { Shortcut(window(), QStringLiteral("finsPage")).show(); });
         QVERIFY(showAgain());
@@ -232,7 +232,7 @@ private slots:
         const Rows<QByteArray, QString, QString, QString> row;
         row("the first port leaves the node", "<AutoConnect>1</AutoConnect>", "22", "ETH2", "1 0");
         row("the second port gives its own", "<IpPortIndex>1</IpPortIndex>", "77", "ETH3", "0 1");
-        row("no such port", "<IpPortIndex>2</IpPortIndex>", "77", "", "0 -1");
+        row("no such port", "<IpPortIndex>2</IpPortIndex>", "77", "", "0 2");
     }
 
     void showsTheFile()

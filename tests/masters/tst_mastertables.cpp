@@ -229,7 +229,8 @@ private slots:
         row("below none", 0, "-3", 0, "-3");
         row("blanks around", 1, "  3 ", 3, "3");
         row("no number", 0, "many", 0, "0");
-        row("beyond a number", 1, "99999999999", 9, "0");
+        row("in another form", 0, "3.0", 3, "3");
+        row("beyond a number", 1, "99999999999", 0, "0");
         row("nothing", 0, "", 0, "0");
     }
 
