@@ -19,6 +19,7 @@
 #include <QTableWidget>
 #include <QTcpServer>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 namespace {
 
@@ -272,7 +273,7 @@ private slots:
         int at = 24;
         int frames = 0;
         for (const LoggedFrame& frame : cell.controller.frames().frames()) {
-            const int size = *reinterpret_cast<const qint32*>(bytes.constData() + at + 8);
+            const int size = qFromUnaligned<qint32>(bytes.constData() + at + 8);
             const QByteArray packet = bytes.mid(at + 16, size);
             QCOMPARE(packet.size(), size);
             QCOMPARE(int(ModbusFrame::wordAt(packet, 2)), size);
