@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <sys/stat.h>
 
 namespace {
 
@@ -29,7 +30,11 @@ void removeTemporaries(const QString& directory)
 
 bool UnfinishedImport::exists()
 {
-    return !TransferUnderWay::current() && ImportJournal::isThere(keptDirectory());
+    // Asked on every idle tick, so without an allocation: an empty journal says that nothing is unfinished.
+    static const QByteArray journal = QFile::encodeName(ImportJournal::pathIn(keptDirectory()));
+    struct stat status = {};
+    return !TransferUnderWay::current() && ::stat(journal.constData(), &status) == 0 &&
+           (!S_ISREG(status.st_mode) || status.st_size > 0);
 }
 
 UnfinishedImport UnfinishedImport::find()
