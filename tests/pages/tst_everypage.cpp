@@ -747,9 +747,6 @@ private slots:
     // Struck again and again while the page loads, saves and restarts the robot, keys do nothing.
     void keysRestWhileItIsAtWork()
     {
-        // To be found out: with keys struck meanwhile the application is still open after the module's save.
-        if (page().name == QLatin1String("EtherCAT slave, module"))
-            QSKIP("the application stays open after its save; why is not known yet");
         QVERIFY(openUpTo());
         QTimer keys;
         int struck = 0;
@@ -777,6 +774,11 @@ private slots:
         MsgBoxScript::answerByDefault(MsgBox::Confirmed);
         QVERIFY(change());
         QVERIFY(save());
+        // What could not be fetched at first is loaded by the first Save, and saved by the next.
+        if (messages().contains(LoadedNow)) {
+            QVERIFY(change());
+            QVERIFY(save());
+        }
         if (page().saved == Restart)
             QTRY_VERIFY(!isOpen());
         QVERIFY(settle());
