@@ -52,6 +52,10 @@ constexpr Description Descriptions[] = {
     {"modbus-garbage", None, "the Modbus TCP server answers with bytes that are no frame"},
     {"modbus-exception", "code", "the Modbus TCP server answers with this exception", 2},
     {"modbus-wrong-unit", "unit", "the Modbus TCP server answers under this unit id", 99},
+    {"mes-silent", None, "the MES client does not call"},
+    {"mes-slow", "milliseconds", "the MES client calls so much later", 1000},
+    {"mes-drops", "milliseconds", "the MES client hangs up so long after it was connected", 1000},
+    {"mes-garbage", None, "the MES client sends bytes that are no text, four times a second"},
 };
 static_assert(std::size(Descriptions) == Faults::FaultCount, "a row a fault");
 

@@ -41,6 +41,10 @@ public:
         ModbusGarbage,
         ModbusException,
         ModbusWrongUnit,
+        MesSilent,
+        MesSlow,
+        MesDrops,
+        MesGarbage,
         FaultCount
     };
 

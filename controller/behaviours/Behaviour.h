@@ -63,6 +63,9 @@ protected:
     /// Does `action` once, `msec` from now, at the behaviour's pace unless told otherwise; a second call with
     /// the same key replaces the first.
     void later(const QString& key, int msec, std::function<void()> action, std::optional<Pace> pace = {});
+    /// As `later`, for what is done when nobody answered for `msec`. A program that stood still that long,
+    /// with the answer waiting in the socket, looks at it first.
+    void whenUnanswered(const QString& key, int msec, std::function<void()> action);
     void drop(const QString& key);
 
 private:

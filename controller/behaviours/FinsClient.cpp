@@ -81,7 +81,7 @@ void FinsClient::start()
         return;
     }
     enter(State::Connecting);
-    later(QLatin1String(PatienceAction), PatienceMs, [this] { fail(QStringLiteral("timed out")); });
+    whenUnanswered(QLatin1String(PatienceAction), PatienceMs, [this] { fail(QStringLiteral("timed out")); });
     m_socket.call(m_settings.server.toString(), m_settings.port);
 }
 
@@ -180,7 +180,7 @@ void FinsClient::readNextWord()
 void FinsClient::sendAndAwait(const FinsFrame& frame)
 {
     m_awaiting = true;
-    later(QLatin1String(PatienceAction), PatienceMs, [this] { fail(QStringLiteral("timed out")); });
+    whenUnanswered(QLatin1String(PatienceAction), PatienceMs, [this] { fail(QStringLiteral("timed out")); });
     m_socket.send(frame.bytes());
 }
 

@@ -104,7 +104,7 @@ void ModbusMaster::begin()
     }
     m_trying = true;
     m_complaint = QStringLiteral("no answer in time");
-    later(Patience, m_settings->timeoutMs, [this] { giveUp(); });
+    whenUnanswered(Patience, m_settings->timeoutMs, [this] { giveUp(); });
     connectToSlave();
 }
 
@@ -122,7 +122,7 @@ void ModbusMaster::proveUnit()
 {
     ++m_transaction;
     m_awaiting = true;
-    later(Answer, m_settings->timeoutMs, [this] { failed(QStringLiteral("no answer in time")); });
+    whenUnanswered(Answer, m_settings->timeoutMs, [this] { failed(QStringLiteral("no answer in time")); });
     m_socket.send(
         ModbusFrame{m_transaction, 0, static_cast<quint8>(m_settings->unit), ModbusFrame::readRequest(0, 1)}
             .bytes());

@@ -26,7 +26,7 @@ ControllerPanel::ControllerPanel(SimulatedController& controller, const FinsPage
 {
     setObjectName(QStringLiteral("ControllerPanel"));
     setWindowTitle(tr("Simulated controller"));
-    resize(900, 700);
+    resize(1024, 700);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs);
 

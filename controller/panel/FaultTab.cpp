@@ -59,11 +59,13 @@ FaultTab::FaultTab(SimulatedController& simulated, QWidget* parent)
 
 void FaultTab::takeEdit(const QTableWidgetItem* item)
 {
-    const auto fault = static_cast<Faults::Fault>(item->row());
+    const auto text = [this, item](int column) { return m_table->item(item->row(), column)->text(); };
     bool isNumber = false;
-    const int times = m_table->item(item->row(), TimesColumn)->text().toInt(&isNumber);
-    if (isNumber && times >= -1)
-        controller().faults().set(fault, times, m_table->item(item->row(), TargetColumn)->text());
+    text(TimesColumn).toInt(&isNumber);
+    // What is refused, as a target that is no number where one is wanted, shows in the times that stay.
+    if (isNumber)
+        controller().faults().setFromText(
+            QStringList{text(FaultColumn), text(TimesColumn), text(TargetColumn)}.join(QLatin1Char(':')));
     refresh();
 }
 

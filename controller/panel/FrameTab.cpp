@@ -11,9 +11,12 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QSaveFile>
+#include <QSignalBlocker>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -36,6 +39,14 @@ void setRow(QTableWidget* table, int row, const QStringList& texts)
 {
     for (int column = 0; column < texts.size(); ++column)
         table->setItem(row, column, new QTableWidgetItem(texts[column]));
+    // The last one may be wider than its column.
+    table->item(row, texts.size() - 1)->setToolTip(texts.constLast());
+}
+
+bool isSame(const LoggedFrame& one, const LoggedFrame& other)
+{
+    return one.time == other.time && one.wire == other.wire && one.received == other.received &&
+           one.partnerPort == other.partnerPort && one.bytes == other.bytes;
 }
 
 } // namespace
@@ -48,6 +59,24 @@ FrameTab::FrameTab(SimulatedController& simulated, QWidget* parent)
                          {tr("Time"), tr("Protocol"), tr("From and to"), tr("Bytes"), tr("What")}))
     , m_fields(makeTable(QStringLiteral("fieldTable"), {tr("At"), tr("Bytes"), tr("What"), tr("Value")}))
 {
+    const int widths[] = {130, 90, 240, 60};
+    for (int column = 0; column < SummaryColumn; ++column)
+        m_frames->horizontalHeader()->resizeSection(column, widths[column]);
+    m_fields->horizontalHeader()->resizeSection(2, 240);
+    connect(m_frames, &QTableWidget::itemSelectionChanged, this, [this] {
+        const int row = m_frames->currentRow();
+        if (row >= 0 && row < m_shown.size())
+            show(m_shown[row]);
+    });
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(makeButtons());
+    layout->addWidget(m_frames, 3);
+    layout->addWidget(m_fields, 2);
+    refresh();
+}
+
+QLayout* FrameTab::makeButtons()
+{
     m_filter->setObjectName(QStringLiteral("frameFilter"));
     m_filter->addItem(tr("All protocols"));
     for (int wire = 0; wire < Wire::Count; ++wire)
@@ -55,51 +84,58 @@ FrameTab::FrameTab(SimulatedController& simulated, QWidget* parent)
     m_pause->setObjectName(QStringLiteral("pauseFrames"));
     auto* save = new QPushButton(tr("Save as capture ..."));
     auto* clear = new QPushButton(tr("Clear"));
-    const int widths[] = {130, 90, 240, 60};
-    for (int column = 0; column < SummaryColumn; ++column)
-        m_frames->horizontalHeader()->resizeSection(column, widths[column]);
-    m_fields->horizontalHeader()->resizeSection(2, 240);
-
     connect(m_filter, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &FrameTab::refresh);
     connect(save, &QPushButton::clicked, this, &FrameTab::askAndSave);
     connect(clear, &QPushButton::clicked, this, [this] {
         controller().frames().clear();
+        m_taken.clear();
         refresh();
     });
-    connect(m_frames, &QTableWidget::itemSelectionChanged, this, [this] {
-        const int row = m_frames->currentRow();
-        if (row >= 0 && row < m_shown.size())
-            show(m_shown[row]);
-    });
-
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(m_filter);
     buttons->addWidget(m_pause);
     buttons->addStretch();
     buttons->addWidget(save);
     buttons->addWidget(clear);
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(buttons);
-    layout->addWidget(m_frames, 3);
-    layout->addWidget(m_fields, 2);
-    refresh();
+    return buttons;
 }
 
 void FrameTab::refresh()
 {
-    if (m_pause->isChecked())
-        return;
+    if (!m_pause->isChecked())
+        m_taken = controller().frames().frames();
     QVector<LoggedFrame> wanted;
-    for (const LoggedFrame& frame : controller().frames().frames()) {
+    for (const LoggedFrame& frame : m_taken) {
         if (m_filter->currentIndex() == 0 || m_filter->currentIndex() == frame.wire + 1)
             wanted.append(frame);
     }
-    const auto isSame = [](const LoggedFrame& one, const LoggedFrame& other) {
-        return one.time == other.time && one.bytes == other.bytes && one.received == other.received;
-    };
     if (std::equal(wanted.begin(), wanted.end(), m_shown.begin(), m_shown.end(), isSame))
         return;
+    std::optional<LoggedFrame> chosen;
+    if (!m_frames->selectedItems().isEmpty() && m_frames->currentRow() < m_shown.size())
+        chosen = m_shown[m_frames->currentRow()];
     m_shown = std::move(wanted);
+    fill();
+    // The frame that was chosen stays chosen in its new row; with none, or when it is gone, the newest is
+    // shown.
+    const auto* const kept =
+        std::find_if(m_shown.cbegin(), m_shown.cend(),
+                     [&chosen](const LoggedFrame& frame) { return chosen && isSame(frame, *chosen); });
+    const QSignalBlocker blocker(m_frames);
+    m_frames->clearSelection();
+    if (kept != m_shown.cend()) {
+        m_frames->selectRow(static_cast<int>(kept - m_shown.cbegin()));
+        return;
+    }
+    m_frames->scrollToBottom();
+    m_fields->setRowCount(0);
+    if (!m_shown.isEmpty())
+        show(m_shown.constLast());
+}
+
+void FrameTab::fill()
+{
+    const QSignalBlocker blocker(m_frames); // a selection that loses its row chooses no other
     m_frames->setRowCount(m_shown.size());
     for (int row = 0; row < m_shown.size(); ++row) {
         const LoggedFrame& frame = m_shown[row];
@@ -110,10 +146,6 @@ void FrameTab::refresh()
                     .arg(frame.partnerPort),
                 QString::number(frame.bytes.size()), summaryOf(frame)});
     }
-    m_frames->scrollToBottom();
-    // The newest, as long as none is chosen.
-    if (!m_shown.isEmpty() && m_frames->selectedItems().isEmpty())
-        show(m_shown.constLast());
 }
 
 void FrameTab::show(const LoggedFrame& frame)

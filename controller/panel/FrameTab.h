@@ -21,6 +21,8 @@ public:
     bool save(const QString& path) const;
 
 private:
+    QLayout* makeButtons();
+    void fill();
     void show(const LoggedFrame& frame);
     void askAndSave();
 
@@ -28,6 +30,7 @@ private:
     QCheckBox* m_pause;
     QTableWidget* m_frames;
     QTableWidget* m_fields;
+    QVector<LoggedFrame> m_taken; ///< stands still during a pause
     QVector<LoggedFrame> m_shown; ///< a row each
 };
 

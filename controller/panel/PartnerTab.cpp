@@ -57,10 +57,10 @@ PartnerTab::PartnerTab(SimulatedController& simulated, QWidget* parent)
 {
     auto* grid = new QGridLayout;
     Partners& partners = controller().partners();
-    addPartner(grid, &partners.fins(), tr("FINS server"));
-    addPartner(grid, &partners.mes(), tr("MES client"));
-    addPartner(grid, &partners.modbusServer(), tr("Modbus TCP server"));
-    addPartner(grid, &partners.modbusClient(), tr("Modbus TCP client"));
+    addPartner(grid, &partners.fins(), tr("FINS server"), true);
+    addPartner(grid, &partners.mes(), tr("MES client"), false);
+    addPartner(grid, &partners.modbusServer(), tr("Modbus TCP server"), true);
+    addPartner(grid, &partners.modbusClient(), tr("Modbus TCP client"), false);
     grid->setColumnStretch(2, 1);
 
     auto* tables = new QHBoxLayout;
@@ -73,7 +73,7 @@ PartnerTab::PartnerTab(SimulatedController& simulated, QWidget* parent)
     refresh();
 }
 
-void PartnerTab::addPartner(QGridLayout* grid, Partner* partner, const QString& caption)
+void PartnerTab::addPartner(QGridLayout* grid, Partner* partner, const QString& caption, bool serves)
 {
     const Row row = {partner, new QCheckBox(caption), new QSpinBox, new QLabel};
     row.on->setObjectName(partner->name());
@@ -81,7 +81,8 @@ void PartnerTab::addPartner(QGridLayout* grid, Partner* partner, const QString& 
     row.port->setRange(0, HighestPort);
     row.port->setValue(partner->port());
     // Who calls the robot finds the port where the robot has it.
-    row.port->setEnabled(partner->port() != 0);
+    row.port->setEnabled(serves);
+    row.port->setSpecialValueText(serves ? tr("any") : tr("none"));
     connect(row.port, QOverload<int>::of(&QSpinBox::valueChanged), partner, &Partner::setPort);
     connect(row.on, &QCheckBox::toggled, this, [this, partner](bool on) {
         if (on)
@@ -146,10 +147,12 @@ QWidget* PartnerTab::makeFinsBox()
                     controller().faults().set(fault, value == 0 ? 0 : -1, QString::number(value));
                 });
         form->addRow(tr(code.caption), number);
+        m_codes.emplace_back(code.fault, number);
     }
     m_words->setObjectName(QStringLiteral("dmWords"));
     m_words->setHorizontalHeaderLabels({tr("DM word"), tr("Value")});
     m_words->verticalHeader()->hide();
+    m_words->horizontalHeader()->setStretchLastSection(true);
     for (int row = 0; row < ShownWords; ++row) {
         for (int column = 0; column < 2; ++column)
             m_words->setItem(row, column, new QTableWidgetItem);
@@ -196,6 +199,14 @@ void PartnerTab::refresh()
         // Not under the fingers of somebody who types.
         if (!row.port->hasFocus())
             row.port->setValue(row.partner->port());
+    }
+    const Faults& faults = controller().faults();
+    for (const auto& [fault, number] : m_codes) {
+        const int code = faults.isSet(fault) ? faults.numberOf(fault) : 0;
+        const QSignalBlocker blocker(number); // a fault that is set for some times is not set for good
+        // The same value again would spoil what is being typed.
+        if (number->value() != code)
+            number->setValue(code);
     }
     const QSignalBlocker blocker(m_words);
     for (int row = 0; row < ShownWords; ++row) {

@@ -1,8 +1,10 @@
 #ifndef CONTROLLER_PANEL_PARTNERTAB_H
 #define CONTROLLER_PANEL_PARTNERTAB_H
 
+#include "Faults.h"
 #include "PanelTab.h"
 
+#include <utility>
 #include <vector>
 
 class Partner;
@@ -32,13 +34,14 @@ private:
         QLabel* state;
     };
 
-    void addPartner(QGridLayout* grid, Partner* partner, const QString& caption);
+    void addPartner(QGridLayout* grid, Partner* partner, const QString& caption, bool serves);
     QWidget* makeActions();
     QWidget* makeFinsBox();
     QWidget* makeRegisterBox();
     void takeWord(int row);
 
     std::vector<Row> m_rows;
+    std::vector<std::pair<Faults::Fault, QSpinBox*>> m_codes; ///< 0 while the fault is not set
     QTableWidget* m_words;
     QTableWidget* m_registers;
 };

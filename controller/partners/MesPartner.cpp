@@ -9,6 +9,7 @@ namespace {
 constexpr int LookMs = 250;
 constexpr int MessageSize = 1000;
 constexpr int MostMessages = 10000;
+constexpr int GarbageSize = 64;
 constexpr auto Listen = "imes.tcp_server_listen";
 } // namespace
 
@@ -18,8 +19,15 @@ MesPartner::MesPartner(ControllerParts& controllerParts, const MesServer& server
     , m_socket(Wire::Mes, nullptr)
 {
     connect(&m_timer, &QTimer::timeout, this, &MesPartner::follow);
-    connect(&m_socket, &FramedSocket::connected, this,
-            [this] { note(QStringLiteral("connected to port %1").arg(m_server.port())); });
+    for (QTimer* const timer : {&m_late, &m_drop})
+        timer->setSingleShot(true);
+    connect(&m_late, &QTimer::timeout, this, &MesPartner::call);
+    connect(&m_drop, &QTimer::timeout, &m_socket, &FramedSocket::hangUp);
+    connect(&m_socket, &FramedSocket::connected, this, [this] {
+        note(QStringLiteral("connected to port %1").arg(m_server.port()));
+        if (const auto msec = parts().faults.strikesWith(Faults::MesDrops))
+            m_drop.start(*msec);
+    });
     connect(&m_socket, &FramedSocket::lost, this, [this](const QString& why) { note(why); });
 }
 
@@ -43,7 +51,8 @@ bool MesPartner::start()
 
 void MesPartner::stop()
 {
-    m_timer.stop();
+    for (QTimer* const timer : {&m_timer, &m_late, &m_drop})
+        timer->stop();
     m_socket.hangUp();
 }
 
@@ -64,6 +73,21 @@ void MesPartner::flood(int messages)
 void MesPartner::follow()
 {
     setPort(m_server.port());
-    if (!m_socket.isConnected() && m_server.port() != 0)
+    Faults& faults = parts().faults;
+    if (m_socket.isConnected()) {
+        if (faults.strikes(Faults::MesGarbage))
+            m_socket.send(QByteArray(GarbageSize, '\xff'));
+    } else if (m_server.port() != 0 && !m_late.isActive() && !faults.strikes(Faults::MesSilent)) {
+        m_drop.stop();
+        if (const auto msec = faults.strikesWith(Faults::MesSlow))
+            m_late.start(*msec);
+        else
+            call();
+    }
+}
+
+void MesPartner::call()
+{
+    if (m_server.port() != 0)
         m_socket.call(QStringLiteral("127.0.0.1"), m_server.port());
 }

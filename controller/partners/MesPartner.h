@@ -30,10 +30,13 @@ public:
 
 private:
     void follow();
+    void call();
 
     const MesServer& m_server;
     FramedSocket m_socket;
     QTimer m_timer;
+    QTimer m_late; ///< a call that a fault holds back
+    QTimer m_drop; ///< a connection that a fault cuts
 };
 
 #endif

@@ -12,8 +12,11 @@
 #include "TestMain.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QStandardPaths>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -148,6 +151,119 @@ private slots:
             QTRY_VERIFY2(cell.value(Master) == 1.0, fault);
         }
         QVERIFY(!Faults().setFromText("modbus-slow:-1:late"));
+    }
+
+    void mesFaults()
+    {
+        struct Row
+        {
+            const char* fault;
+            bool comes;
+            bool goes;
+            bool sends;
+        };
+        const Row rows[] = {{"mes-silent", false, false, false},
+                            {"mes-slow:-1:60000", false, false, false},
+                            {"mes-slow:1:300", true, false, false},
+                            {"mes-drops:-1:100", true, true, false},
+                            {"mes-garbage", true, false, true}};
+        std::vector<int> changes(std::size(rows));
+        std::vector<std::unique_ptr<Cell>> cells;
+        for (std::size_t i = 0; i < std::size(rows); ++i) {
+            cells.push_back(std::make_unique<Cell>());
+            QVERIFY2(cells[i]->controller.faults().setFromText(rows[i].fault), rows[i].fault);
+            connect(&cells[i]->controller.variables(), &VariableStore::changed, this,
+                    [&changes, i](const QString& name, int /*element*/, double /*value*/) {
+                        changes[i] += name == Mes ? 1 : 0;
+                    });
+            QVERIFY(cells[i]->partners().mes().start());
+        }
+        for (std::size_t i = 0; i < std::size(rows); ++i) {
+            Cell& cell = *cells[i];
+            QTRY_VERIFY2(cell.value("imes.tcp_server_active") == 1.0, rows[i].fault);
+            // A drop is seen when the connection comes back after it.
+            QTRY_VERIFY2(changes[i] >= (rows[i].goes ? 3 : rows[i].comes ? 1 : 0), rows[i].fault);
+            QTRY_VERIFY2(cell.controller.frames().frames().isEmpty() != rows[i].sends, rows[i].fault);
+        }
+        QTest::qWait(600); // two looks of the client
+        for (std::size_t i = 0; i < std::size(rows); ++i) {
+            QVERIFY2(rows[i].goes || changes[i] == (rows[i].comes ? 1 : 0), rows[i].fault);
+            cells[i]->partners().mes().stop();
+            cells[i]->controller.faults().clearAll();
+            QVERIFY(cells[i]->partners().mes().start());
+            QTRY_VERIFY2(cells[i]->value(Mes) == 1.0, rows[i].fault);
+        }
+    }
+
+    // The boxes tell what holds, whoever set it; a port counts as soon as it stands in its box.
+    void boxesFollow()
+    {
+        Cell cell;
+        ControllerPanel panel(cell.controller);
+        panel.findChild<QTabWidget*>()->setCurrentWidget(panel.findChild<QWidget*>("partnerTab"));
+        auto* const code = panel.findChild<QSpinBox*>("finsErrorCode");
+        QVERIFY(cell.controller.faults().setFromText("fins-error-code:2"));
+        QTRY_COMPARE(code->value(), 0x21);
+        QCOMPARE(cell.controller.faults().timesLeft(Faults::FinsErrorCode), 2);
+        cell.controller.faults().clearAll();
+        QTRY_COMPARE(code->value(), 0);
+        code->setValue(0x20);
+        QCOMPARE(cell.controller.faults().numberOf(Faults::FinsErrorCode), 0x20);
+
+        // A number that is none sets nothing.
+        auto* const faults = panel.findChild<QTableWidget*>("faultTable");
+        const struct
+        {
+            const char* target;
+            bool isTaken;
+        } edits[] = {{"late", false}, {"300", true}};
+        for (const auto& edit : edits) {
+            faults->item(Faults::ModbusSlow, 3)->setText(edit.target);
+            faults->item(Faults::ModbusSlow, 2)->setText("1");
+            QCOMPARE(cell.controller.faults().isSet(Faults::ModbusSlow), edit.isTaken);
+        }
+
+        QTcpServer probe;
+        QVERIFY(probe.listen(QHostAddress::LocalHost));
+        const int port = probe.serverPort();
+        probe.close();
+        auto* const box = panel.findChild<QSpinBox*>("fins-port");
+        box->selectAll();
+        QTest::keyClicks(box, QString::number(port));
+        panel.findChild<QCheckBox*>("fins")->click();
+        QCOMPARE(cell.partners().fins().servedPort(), port);
+    }
+
+    void pauseHoldsTheFrames()
+    {
+        Cell cell;
+        ControllerPanel panel(cell.controller);
+        auto* const tab = panel.findChild<FrameTab*>();
+        auto* const table = tab->findChild<QTableWidget*>("frameTable");
+        auto* const fields = tab->findChild<QTableWidget*>("fieldTable");
+        const auto arrive = [&cell, tab](Wire::Id wire, const QByteArray& bytes) {
+            cell.controller.frames().add({QDateTime::currentDateTime(), wire, true, true, 1, 2, bytes});
+            tab->refresh();
+        };
+        arrive(Wire::Mes, "first");
+        arrive(Wire::Mes, "second");
+        table->selectRow(1);
+        QCOMPARE(fields->rowCount(), 1);
+        // The chosen one moves up with the others, and is told as long as it is there.
+        for (int i = 0; i < FrameLog::MostFrames - 1; ++i)
+            arrive(Wire::Modbus, QByteArray::number(i));
+        QCOMPARE(table->currentRow(), 0);
+        QCOMPARE(table->selectedItems().size(), table->columnCount());
+        QCOMPARE(fields->item(0, 1)->text(), QString(QByteArray("second").toHex(' ')));
+        // The filter works on what is held.
+        tab->findChild<QCheckBox*>("pauseFrames")->setChecked(true);
+        arrive(Wire::Mes, "third");
+        tab->findChild<QComboBox*>("frameFilter")->setCurrentText("MES");
+        QCOMPARE(table->rowCount(), 1);
+        tab->findChild<QCheckBox*>("pauseFrames")->setChecked(false);
+        arrive(Wire::Mes, "fourth");
+        QCOMPARE(table->rowCount(), 2);
+        QCOMPARE(fields->item(0, 1)->text(), QString(QByteArray("fourth").toHex(' ')));
     }
 
     void documentTellsTheFaults()

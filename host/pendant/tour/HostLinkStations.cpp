@@ -59,6 +59,7 @@ bool Stations::partners(TourGuide& guide)
     seen = guide.openBy(
                QStringLiteral("the FINS client"),
                [&guide] { return Shortcut(guide.subject().window, QStringLiteral("finsPage")).show(); }) &&
+           guide.waitForVariable(QStringLiteral("ifins_tcp.connected"), 1.0) && guide.settle() &&
            guide.report(QStringLiteral("partners-fins")) && seen;
     if (QWidget* const panel = guide.subject().panel) {
         panel->show();
