@@ -20,7 +20,9 @@ function(fieldbus_pch name qt_module qt_header)
   target_link_libraries(${name} PRIVATE fieldbus_options ${qt_module})
   target_precompile_headers(${name} PRIVATE ${qt_header} <algorithm> <array> <functional> <memory> <optional> <vector>)
 endfunction()
-fieldbus_pch(fieldbus_pch_widgets Qt::Widgets <QtWidgets>)
+if(QT_VERSION_MAJOR EQUAL 5)
+  fieldbus_pch(fieldbus_pch_widgets Qt::Widgets <QtWidgets>)
+endif()
 fieldbus_pch(fieldbus_pch_core Qt::Core <QtCore>)
 
 # fieldbus_target(NAME LIBS...): the shared options, the precompiled header and the own folder as include path.

@@ -117,12 +117,13 @@ QString takenPortNotice(int port)
         .arg(port);
 }
 
-/// Those beside the program, and what the options add.
+/// Those of the system, those beside the program (where it was built), and what the options add.
 InstalledApplications installedApplications(const Options& options)
 {
     InstalledApplications installed;
-    installed.addFolder(
-        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("applications")));
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const char* folder : {INSTALLED_APPLICATIONS, "applications"})
+        installed.addFolder(QDir::cleanPath(program.filePath(QLatin1String(folder))));
     for (const QString& file : options.applications)
         installed.addFile(file);
     return installed;
@@ -185,7 +186,7 @@ int main(int argc, char* argv[])
     PendantApplication application(argc, argv);
     // Without those that Qt takes for itself.
     const Options options = Options::parse(QCoreApplication::arguments(), {Options::tr("see the end")});
-    QCoreApplication::setApplicationName(QStringLiteral("pendant"));
+    QCoreApplication::setApplicationName(QStringLiteral("fieldbus-pendant"));
     setUpLog(options.verbose);
     if (!options.problem.isEmpty())
         return refuse(options.problem);
