@@ -46,7 +46,9 @@ const char* escapeOf(Console::Tone tone)
 QString harmless(QString text)
 {
     for (QChar& c : text) {
-        if (c.category() == QChar::Other_Control && c != QLatin1Char('\n') && c != QLatin1Char('\t'))
+        const ushort code = c.unicode();
+        const bool isControl = code < 0x20 || (code >= 0x7f && code < 0xa0);
+        if (isControl && code != '\n' && code != '\t')
             c = QChar::ReplacementCharacter;
     }
     return text;

@@ -64,8 +64,18 @@ bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase)
     return text.size() == lowerCase.size() && TextTemplate::findIgnoringCase(text, lowerCase) == 0;
 }
 
+bool isAscii(const QByteArray& bytes)
+{
+    char all = 0; // without a way out of the loop, so that the compiler takes many bytes at a time
+    for (const char c : bytes)
+        all = static_cast<char>(all | c);
+    return (all & 0x80) == 0;
+}
+
 bool isUtf8(const QByteArray& bytes)
 {
+    if (isAscii(bytes))
+        return true;
     constexpr int Utf8Mib = 106;
     QTextCodec::ConverterState state;
     QTextCodec::codecForMib(Utf8Mib)->toUnicode(bytes.constData(), bytes.size(), &state);

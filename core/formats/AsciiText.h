@@ -46,6 +46,7 @@ std::string_view firstWord(std::string_view line, Between between);
 /// Without regard to case; `lowerCase` is ASCII and given in lower case.
 bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase);
 
+bool isAscii(const QByteArray& bytes);
 bool isUtf8(const QByteArray& bytes);
 
 /// A character a byte, so that `bytes` gives back any bytes that were read.

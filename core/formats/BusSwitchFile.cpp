@@ -40,6 +40,13 @@ bool BusSwitchFile::read(const QByteArray& content, BusSwitchSet& switches, bool
     pugi::xml_document document;
     if (!XmlFile::load(content, document))
         return false;
+    readFrom(document, switches, isImport, recognised);
+    return true;
+}
+
+void BusSwitchFile::readFrom(const pugi::xml_document& document, BusSwitchSet& switches, bool isImport,
+                             bool* recognised)
+{
     clearAllButProfinetMaster(switches);
     bool anyRole = false;
     QStringList enabledNames;
@@ -58,7 +65,6 @@ bool BusSwitchFile::read(const QByteArray& content, BusSwitchSet& switches, bool
     }
     if (recognised)
         *recognised = anyRole;
-    return true;
 }
 
 // The file is the controller's: its spelling and order stay, and only one entry is ever changed.

@@ -3,6 +3,10 @@
 
 #include <QByteArray>
 
+namespace pugi {
+class xml_document;
+}
+
 /// Switch flags of the bus roles as the controller's Fieldbus.cfg lists them, named as the file names the
 /// roles.
 struct BusSwitchSet
@@ -29,6 +33,9 @@ namespace BusSwitchFile {
 /// False, and the flags as they were, when `content` is no XML. `isImport`: also whether the Modbus TCP
 /// master is listed at all. `recognised`: whether any role is listed.
 bool read(const QByteArray& content, BusSwitchSet& switches, bool isImport, bool* recognised = nullptr);
+/// From a document that is parsed already.
+void readFrom(const pugi::xml_document& document, BusSwitchSet& switches, bool isImport,
+              bool* recognised = nullptr);
 
 /// The file with the PROFINET slave role switched off; empty when `content` is no XML.
 QByteArray rewritten(const QByteArray& content);

@@ -18,6 +18,11 @@ bool DeviceNetSlaveFile::read(const QByteArray& content, DeviceNetSlaveConfig& r
     return XmlRecord::read(content, Place, Fields, record, recognised);
 }
 
+void DeviceNetSlaveFile::readFrom(const pugi::xml_document& document, DeviceNetSlaveConfig& record)
+{
+    XmlRecord::read(XmlRecord::nodeAt(document, Place), Fields, record);
+}
+
 QByteArray DeviceNetSlaveFile::written(const DeviceNetSlaveConfig& record)
 {
     return XmlRecord::written(Place, Fields, record);

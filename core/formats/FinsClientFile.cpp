@@ -23,6 +23,11 @@ bool FinsClientFile::read(const QByteArray& content, FinsClientConfig& record, b
     return XmlRecord::read(content, Place, Fields, record, recognised);
 }
 
+void FinsClientFile::readFrom(const pugi::xml_document& document, FinsClientConfig& record)
+{
+    XmlRecord::read(XmlRecord::nodeAt(document, Place), Fields, record);
+}
+
 QByteArray FinsClientFile::written(const FinsClientConfig& record)
 {
     return XmlRecord::written(Place, Fields, record);

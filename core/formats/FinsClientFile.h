@@ -6,6 +6,10 @@
 #include <QByteArray>
 #include <QString>
 
+namespace pugi {
+class xml_document;
+}
+
 /// Record of FinsTcpConfig.xml, the FINS client that reads from and writes to a PLC's DM area. Named as the
 /// elements.
 struct FinsClientConfig
@@ -25,6 +29,8 @@ namespace FinsClientFile {
 /// False, and the record as it was, when `content` is no XML. `recognised`: whether any of its elements is
 /// there.
 bool read(const QByteArray& content, FinsClientConfig& record, bool* recognised = nullptr);
+/// From a document that is parsed already.
+void readFrom(const pugi::xml_document& document, FinsClientConfig& record);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const FinsClientConfig& record);

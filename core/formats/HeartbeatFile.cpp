@@ -41,6 +41,12 @@ bool HeartbeatFile::read(const QByteArray& content, HeartbeatConfig& record, boo
     pugi::xml_document document;
     if (!XmlFile::load(content, document))
         return false;
+    readFrom(document, record, recognised);
+    return true;
+}
+
+void HeartbeatFile::readFrom(const pugi::xml_document& document, HeartbeatConfig& record, bool* recognised)
+{
     const XmlFile::PointDecimals pointDecimals;
     const pugi::xml_node root = document.child("Fidbus");
     bool anyBus = false;
@@ -52,7 +58,6 @@ bool HeartbeatFile::read(const QByteArray& content, HeartbeatConfig& record, boo
     }
     if (recognised)
         *recognised = anyBus;
-    return true;
 }
 
 QByteArray HeartbeatFile::written(const HeartbeatConfig& record)

@@ -6,6 +6,10 @@
 
 #include <array>
 
+namespace pugi {
+class xml_document;
+}
+
 /// Record of heartbeat.xml: per bus role whether the controller watches the connection, and after what
 /// time-out in seconds it reports the loss. Fields are named as the elements of the file.
 struct HeartbeatConfig
@@ -56,6 +60,8 @@ namespace HeartbeatFile {
 /// False when `content` is no XML; the record is then as after construction, not as it was.
 /// `recognised`: whether any of its elements is there.
 bool read(const QByteArray& content, HeartbeatConfig& record, bool* recognised = nullptr);
+/// From a document that is parsed already.
+void readFrom(const pugi::xml_document& document, HeartbeatConfig& record, bool* recognised = nullptr);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const HeartbeatConfig& record);

@@ -170,7 +170,12 @@ bool operator==(const MappingConfig& a, const MappingConfig& b)
 bool MappingFile::read(const QByteArray& bytes, MappingConfig& config)
 {
     pugi::xml_document document;
-    const pugi::xml_node root = KeptXml::load(bytes, RootElement, document);
+    return KeptXml::load(bytes, RootElement, document) && readFrom(document, config);
+}
+
+bool MappingFile::readFrom(const pugi::xml_document& document, MappingConfig& config)
+{
+    const pugi::xml_node root = document.child(RootElement);
     if (!root)
         return false;
     const auto found = std::make_unique<MappingConfig>(); // some ten kilobytes

@@ -5,6 +5,10 @@
 
 #include <array>
 
+namespace pugi {
+class xml_document;
+}
+
 /// Types of mapped variables, as index of the rows of an area. A Bool is one bit, an Int two bytes, a Float
 /// four.
 enum MappedType { MappedBool, MappedInt, MappedFloat };
@@ -75,6 +79,8 @@ extern const std::array<const char*, MappingConfig::ModeCount> ModeNames;
 /// False (and `config` untouched) when the bytes are not well-formed, have another root, or hold a quantity
 /// or an address that is no plain number in its range: what is read wrong would be written back wrong.
 bool read(const QByteArray& bytes, MappingConfig& config);
+/// From a document that is parsed already.
+bool readFrom(const pugi::xml_document& document, MappingConfig& config);
 
 /// The file with these quantities and addresses: every row that it has, and every other one that says
 /// something. Null when it cannot be read.

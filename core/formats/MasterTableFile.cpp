@@ -52,6 +52,13 @@ bool MasterTableFile::read(const QByteArray& content, const char* root, MasterSl
     pugi::xml_document document;
     if (!XmlFile::load(content, document))
         return false;
+    readFrom(document, root, record, recognised);
+    return true;
+}
+
+void MasterTableFile::readFrom(const pugi::xml_document& document, const char* root, MasterSlaveTable& record,
+                               bool* recognised)
+{
     const pugi::xml_node group = document.child(root).child(GroupElement);
     XmlRecord::read(group, Texts, record);
     if (recognised)
@@ -61,7 +68,6 @@ bool MasterTableFile::read(const QByteArray& content, const char* root, MasterSl
         for (const Position& position : MasterSlaveTable::positions())
             XmlRecord::readValue(node.child(position.*flags.flagElement), record.*(position.*flags.flag));
     }
-    return true;
 }
 
 QByteArray MasterTableFile::written(const char* root, const MasterSlaveTable& record)

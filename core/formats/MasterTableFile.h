@@ -6,6 +6,10 @@
 
 #include <array>
 
+namespace pugi {
+class xml_document;
+}
+
 /// Record of eip_master.xml and of pfn_master.xml: which slaves the EtherNet/IP or the PROFINET master
 /// serves. Named as the elements of the files.
 struct MasterSlaveTable
@@ -60,6 +64,9 @@ namespace MasterTableFile {
 /// False, and the record as it was, when `content` is no XML; `root` as in MasterTableRoot.
 /// `recognised`: whether any of its elements is there.
 bool read(const QByteArray& content, const char* root, MasterSlaveTable& record, bool* recognised = nullptr);
+/// From a document that is parsed already.
+void readFrom(const pugi::xml_document& document, const char* root, MasterSlaveTable& record,
+              bool* recognised = nullptr);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const char* root, const MasterSlaveTable& record);

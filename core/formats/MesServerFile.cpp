@@ -21,6 +21,11 @@ bool MesServerFile::read(const QByteArray& content, MesServerConfig& record, boo
     return XmlRecord::read(content, Place, Fields, record, recognised);
 }
 
+void MesServerFile::readFrom(const pugi::xml_document& document, MesServerConfig& record)
+{
+    XmlRecord::read(XmlRecord::nodeAt(document, Place), Fields, record);
+}
+
 QByteArray MesServerFile::written(const MesServerConfig& record)
 {
     return XmlRecord::written(Place, Fields, record);

@@ -6,6 +6,10 @@
 #include <QByteArray>
 #include <QString>
 
+namespace pugi {
+class xml_document;
+}
+
 /// Record of TcpServerConfig.xml, the server for a manufacturing execution system. Named as the elements.
 struct MesServerConfig
 {
@@ -22,6 +26,8 @@ namespace MesServerFile {
 /// False, and the record as it was, when `content` is no XML. `recognised`: whether any of its elements is
 /// there.
 bool read(const QByteArray& content, MesServerConfig& record, bool* recognised = nullptr);
+/// From a document that is parsed already.
+void readFrom(const pugi::xml_document& document, MesServerConfig& record);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const MesServerConfig& record);

@@ -20,6 +20,11 @@ bool MtcpMasterFile::read(const QByteArray& content, MtcpMasterConfig& record, b
     return XmlRecord::read(content, Place, Fields, record, recognised);
 }
 
+void MtcpMasterFile::readFrom(const pugi::xml_document& document, MtcpMasterConfig& record)
+{
+    XmlRecord::read(XmlRecord::nodeAt(document, Place), Fields, record);
+}
+
 QByteArray MtcpMasterFile::written(const MtcpMasterConfig& record)
 {
     return XmlRecord::written(Place, Fields, record);

@@ -4,6 +4,10 @@
 #include <QByteArray>
 #include <QString>
 
+namespace pugi {
+class xml_document;
+}
+
 /// Record of mtcp_master.xml, the Modbus TCP master's connection to its slave. Named as the elements of the
 /// file; texts as they stand there.
 struct MtcpMasterConfig
@@ -22,6 +26,8 @@ namespace MtcpMasterFile {
 /// False, and the record as it was, when `content` is no XML. `recognised`: whether any of its elements is
 /// there.
 bool read(const QByteArray& content, MtcpMasterConfig& record, bool* recognised = nullptr);
+/// From a document that is parsed already.
+void readFrom(const pugi::xml_document& document, MtcpMasterConfig& record);
 
 /// A new file with the record and the time of writing.
 QByteArray written(const MtcpMasterConfig& record);

@@ -9,7 +9,12 @@
 bool PortAddressFile::read(const QByteArray& bytes, std::vector<PortAddress>& ports)
 {
     pugi::xml_document document;
-    const pugi::xml_node root = KeptXml::load(bytes, "NetPorts", document);
+    return KeptXml::load(bytes, "NetPorts", document) && readFrom(document, ports);
+}
+
+bool PortAddressFile::readFrom(const pugi::xml_document& document, std::vector<PortAddress>& ports)
+{
+    const pugi::xml_node root = document.child("NetPorts");
     if (!root)
         return false;
     ports.clear();

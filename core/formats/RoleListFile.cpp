@@ -42,7 +42,12 @@ std::string_view enableValue(std::string_view tag)
 bool RoleListFile::read(const QByteArray& bytes, std::vector<ListedRole>& roles)
 {
     pugi::xml_document document;
-    const pugi::xml_node root = KeptXml::load(bytes, RootElement, document);
+    return KeptXml::load(bytes, RootElement, document) && readFrom(document, roles);
+}
+
+bool RoleListFile::readFrom(const pugi::xml_document& document, std::vector<ListedRole>& roles)
+{
+    const pugi::xml_node root = document.child(RootElement);
     if (!root)
         return false;
     roles.clear();

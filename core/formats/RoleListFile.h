@@ -6,6 +6,10 @@
 
 #include <vector>
 
+namespace pugi {
+class xml_document;
+}
+
 /// A bus role as the controller's fieldbus.xml lists it.
 struct ListedRole
 {
@@ -22,6 +26,8 @@ constexpr const char* FreeBus = "FreeBus";
 /// The roles in file order; of two entries with one name the first counts. False (and `roles` untouched) when
 /// the bytes are not well-formed or have another root.
 bool read(const QByteArray& bytes, std::vector<ListedRole>& roles);
+/// From a document that is parsed already.
+bool readFrom(const pugi::xml_document& document, std::vector<ListedRole>& roles);
 
 /// Whether `name` is listed and on.
 bool isOn(const std::vector<ListedRole>& roles, const QString& name);

@@ -22,7 +22,12 @@ QByteArray byteOrder(const QString& text)
 bool SlaveModuleFile::read(const QByteArray& bytes, QString& endian)
 {
     pugi::xml_document document;
-    const pugi::xml_node root = KeptXml::load(bytes, RootElement, document);
+    return KeptXml::load(bytes, RootElement, document) && readFrom(document, endian);
+}
+
+bool SlaveModuleFile::readFrom(const pugi::xml_document& document, QString& endian)
+{
+    const pugi::xml_node root = document.child(RootElement);
     const QByteArray order = byteOrder(QString::fromUtf8(root.child(EndianElement).text().get()));
     if (!order.isEmpty())
         endian = QLatin1String(order);

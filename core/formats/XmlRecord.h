@@ -102,6 +102,14 @@ void append(pugi::xml_node parent, const Fields& fields, const Record& record)
 /// Names of the nested elements, from the root on, that hold the fields of a format.
 using Place = std::initializer_list<const char*>;
 
+inline pugi::xml_node nodeAt(const pugi::xml_document& document, Place place)
+{
+    pugi::xml_node node = document;
+    for (const char* element : place)
+        node = node.child(element);
+    return node;
+}
+
 /// Reads a file; false, and the record as it was, when it is no XML. `recognised`: whether any of `fields` is
 /// there.
 template <typename Record, typename Fields>
@@ -110,9 +118,7 @@ bool read(const QByteArray& content, Place place, const Fields& fields, Record& 
     pugi::xml_document document;
     if (!XmlFile::load(content, document))
         return false;
-    pugi::xml_node node = document;
-    for (const char* element : place)
-        node = node.child(element);
+    const pugi::xml_node node = nodeAt(document, place);
     read(node, fields, record);
     if (recognised)
         *recognised = std::any_of(std::begin(fields), std::end(fields), [node](const Field<Record>& field) {

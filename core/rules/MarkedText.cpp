@@ -4,6 +4,7 @@
 QString MarkedText::filled(const QString& translation) const
 {
     QString result;
+    result.reserve(translation.size() + 64);
     for (int i = 0; i < translation.size(); ++i) {
         const int number = translation[i] == QLatin1Char('%') && i + 1 < translation.size()
                                ? translation[i + 1].digitValue()

@@ -35,8 +35,6 @@ public:
         , m_info(infoOf(m_table.bus))
         , m_area(areaOf(configuration.mapping.buses[m_mode][static_cast<std::size_t>(m_table.bus)],
                         m_table.direction))
-        , m_title(titleOf(m_info.role) + QStringLiteral(", ") +
-                  QLatin1String(DirectionTitles[static_cast<int>(m_table.direction)]))
         , m_found(found)
     {
     }
@@ -64,6 +62,12 @@ private:
             place.at.push_back(quoted(element));
         return place;
     }
+    // Only what is found has a title: most rows are in order.
+    QString title() const
+    {
+        return titleOf(m_info.role) + QStringLiteral(", ") +
+               QLatin1String(DirectionTitles[static_cast<int>(m_table.direction)]);
+    }
     Evidence fact(const QString& name, const QString& value) const
     {
         return FindingList::fact(name, File, value);
@@ -87,11 +91,11 @@ private:
             const std::vector<Evidence> facts{fact(QLatin1String(name), QString::number(quantity))};
             if (quantity > most)
                 m_found.add(FindingCode::QuantityAboveLimit, about(name),
-                            {m_title, QString::number(quantity), QLatin1String(name), QString::number(most)},
+                            {title(), QString::number(quantity), QLatin1String(name), QString::number(most)},
                             facts);
             if (isUneven)
                 m_found.add(FindingCode::BoolsNotMultiple, about(name),
-                            {m_title, QString::number(quantity), QString::number(limits.boolMultiple)},
+                            {title(), QString::number(quantity), QString::number(limits.boolMultiple)},
                             facts);
         }
     }
@@ -116,7 +120,7 @@ private:
     {
         if (value < least || value > most)
             m_found.add(code, about(),
-                        {m_title, QString::number(value), QString::number(least), QString::number(most)},
+                        {title(), QString::number(value), QString::number(least), QString::number(most)},
                         {fact(QStringLiteral("bytes"), QString::number(value))});
     }
     void uneven(const Multiple& multiple, int value)
@@ -124,15 +128,16 @@ private:
         if (multiple.isMet(value))
             return;
         const QString sum = QString::number(multiple.bytes(value));
-        m_found.add(FindingCode::BytesNotMultiple, about(), {m_title, sum, QString::number(multiple.of)},
+        m_found.add(FindingCode::BytesNotMultiple, about(), {title(), sum, QString::number(multiple.of)},
                     {fact(QStringLiteral("bytes"), sum)});
     }
 
     struct Placed
     {
         const MappingRow* row;
-        QString title;
+        bool isSystem;
         MappedType type;
+        QString title() const { return rowTitle(isSystem, type); }
     };
 
     int sizeOf(MappedType type, int quantity) const
@@ -142,7 +147,7 @@ private:
 
     static Evidence placeFact(const Placed& placed)
     {
-        return FindingList::fact(placed.title, File,
+        return FindingList::fact(placed.title(), File,
                                  QStringLiteral("%1 at %2 to %3")
                                      .arg(placed.row->quantity)
                                      .arg(addressText(placed.row->start), addressText(placed.row->end)));
@@ -154,8 +159,8 @@ private:
         for (const bool isSystem : {false, true}) {
             const MappingRows& all = isSystem ? m_area.system : m_area.user;
             for (const MappedType type : Types) {
-                const Placed row{&all[type], rowTitle(isSystem, type), type};
-                if (sizeOf(type, all[type].quantity) > 0 && isPlaced(row, isSystem))
+                const Placed row{&all[type], isSystem, type};
+                if (sizeOf(type, all[type].quantity) > 0 && isPlaced(row))
                     placed.push_back(row);
             }
         }
@@ -164,26 +169,26 @@ private:
         for (std::size_t i = 1; i < placed.size(); ++i) {
             if (placed[i].row->start <= placed[i - 1].row->end)
                 m_found.add(FindingCode::RowsOverlap, about(MappingFile::TypeNames[placed[i].type]),
-                            {m_title, placed[i - 1].title, placed[i].title},
+                            {title(), placed[i - 1].title(), placed[i].title()},
                             {placeFact(placed[i - 1]), placeFact(placed[i])});
         }
     }
 
     // Whether its place can be compared with that of others. The system rows' quantities are the robot's own.
-    bool isPlaced(const Placed& placed, bool isSystem)
+    bool isPlaced(const Placed& placed)
     {
         const MappingRow& row = *placed.row;
-        const FindingList::About place = about(MappingFile::TypeNames[placed.type]);
         const bool hasPlace = row.start != MappingRow::NoAddress && row.end != MappingRow::NoAddress;
         if (hasPlace && row.end < row.start) {
-            m_found.add(FindingCode::EndBeforeStart, place,
-                        {m_title, placed.title, addressText(row.start), addressText(row.end)},
+            m_found.add(FindingCode::EndBeforeStart, about(MappingFile::TypeNames[placed.type]),
+                        {title(), placed.title(), addressText(row.start), addressText(row.end)},
                         {placeFact(placed)});
             return false;
         }
         const auto size = static_cast<quint32>(sizeOf(placed.type, row.quantity));
-        if (!isSystem && (!hasPlace || row.end - row.start + 1 != size))
-            m_found.add(FindingCode::RowOfOtherLength, place, {m_title, placed.title}, {placeFact(placed)});
+        if (!placed.isSystem && (!hasPlace || row.end - row.start + 1 != size))
+            m_found.add(FindingCode::RowOfOtherLength, about(MappingFile::TypeNames[placed.type]),
+                        {title(), placed.title()}, {placeFact(placed)});
         return hasPlace;
     }
 
@@ -195,7 +200,7 @@ private:
         const bool isTurned = m_area.end < m_area.start;
         if (isTurned || m_area.start < FirstRegister || m_area.end > last)
             m_found.add(FindingCode::RegistersOutside, about(),
-                        {m_title, addressText(m_area.start), addressText(m_area.end),
+                        {title(), addressText(m_area.start), addressText(m_area.end),
                          QString::number(FirstRegister), QString::number(last)},
                         {fact(QStringLiteral("start"), addressText(m_area.start)),
                          fact(QStringLiteral("end"), addressText(m_area.end))});
@@ -206,7 +211,6 @@ private:
     const SubTable& m_table;
     const BusInfo& m_info;
     const MappingArea& m_area;
-    QString m_title;
     FindingList& m_found;
 };
 

@@ -40,41 +40,16 @@ bool isBlank(const QByteArray& content)
     return AsciiText::trimmed({content.constData(), static_cast<std::size_t>(content.size())}).empty();
 }
 
-pugi::xml_node rootOf(const pugi::xml_document& document)
-{
-    for (const pugi::xml_node node : document.children()) {
-        if (node.type() == pugi::node_element)
-            return node;
-    }
-    return {};
-}
-
-// The parser that reads them, with what it passes over in silence.
-struct Xml
-{
-    explicit Xml(const QByteArray& content)
-        : result(document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
-                                      pugi::parse_pi | pugi::parse_doctype, pugi::encoding_utf8))
-        , root(rootOf(document))
-    {
-    }
-    bool isXml() const { return result && root; }
-
-    pugi::xml_document document;
-    pugi::xml_parse_result result;
-    pugi::xml_node root;
-};
-
-std::optional<Fault> faultOfProlog(const QByteArray& content, const Xml& xml)
+std::optional<Fault> faultOfProlog(const QByteArray& content, const ParsedXml& xml)
 {
     const auto atLine = [&content](qint64 offset, const QString& words) {
         const int line = lineAt(content, offset);
         return Fault{Fault::NotXml, line, {AtLine, {QString::number(line), words}}};
     };
-    if (!xml.result)
-        return atLine(xml.result.offset, QString::fromLatin1(xml.result.description()));
+    if (!xml.result())
+        return atLine(xml.result().offset, QString::fromLatin1(xml.result().description()));
     int elements = 0;
-    for (const pugi::xml_node node : xml.document.children()) {
+    for (const pugi::xml_node node : xml.document().children()) {
         if (node.type() == pugi::node_doctype)
             return atLine(0, QStringLiteral("DOCTYPE"));
         if (node.type() == pugi::node_element && ++elements > 1)
@@ -85,17 +60,22 @@ std::optional<Fault> faultOfProlog(const QByteArray& content, const Xml& xml)
     return {};
 }
 
+// "<a/>"; what is too short to hold too much is not looked through for that.
+constexpr int ShortestElement = 4;
+
 struct Walk : pugi::xml_tree_walker
 {
-    explicit Walk(const std::vector<const char*>* known)
+    Walk(const std::vector<const char*>* known, bool isMeasured)
         : vocabulary(known)
+        , measures(isMeasured)
     {
     }
     bool for_each(pugi::xml_node& node) override
     {
-        longest = std::max(longest, qstrlen(node.value()));
-        for (const pugi::xml_attribute attribute : node.attributes())
-            longest = std::max(longest, qstrlen(attribute.value()));
+        if (node.type() == pugi::node_declaration)
+            return true;
+        if (measures)
+            measure(node);
         if (node.type() == pugi::node_element) {
             ++elements;
             if (vocabulary && depth() > 0)
@@ -104,6 +84,13 @@ struct Walk : pugi::xml_tree_walker
         return !isTooMuch();
     }
     bool isTooMuch() const { return elements > MostElements || longest > uint(MostText); }
+
+    void measure(const pugi::xml_node& node)
+    {
+        longest = std::max(longest, qstrlen(node.value()));
+        for (const pugi::xml_attribute attribute : node.attributes())
+            longest = std::max(longest, qstrlen(attribute.value()));
+    }
 
     void lookUp(const char* name)
     {
@@ -117,22 +104,27 @@ struct Walk : pugi::xml_tree_walker
     }
 
     const std::vector<const char*>* vocabulary;
+    bool measures; ///< a text may be too long
     std::vector<QByteArray> unknown;
     int elements = 0;
     uint longest = 0;
 };
 
 // False when it holds more than it may.
-bool walk(FileId file, Xml& xml, Report& report)
+bool walk(FileId file, const QByteArray& content, const ParsedXml& xml, Report& report)
 {
-    Walk walker(FileNeeds::elementsOf(file));
-    xml.document.traverse(walker);
+    const auto* known = FileNeeds::elementsOf(file);
+    const bool isSmall = content.size() <= MostText && content.size() / ShortestElement <= MostElements;
+    if (isSmall && !known)
+        return true;
+    Walk walker(known, !isSmall);
+    pugi::xml_node(xml.document()).traverse(walker);
     report.unknownElements = std::move(walker.unknown);
     if (walker.isTooMuch() || file != FileId::RoleList)
         return !walker.isTooMuch();
     QSet<QString> seen;
     int count = 0;
-    for (const pugi::xml_node entry : xml.root.children("Bus")) {
+    for (const pugi::xml_node entry : xml.root().children("Bus")) {
         if (++count > MostRoles)
             return false;
         const QString name = QString::fromUtf8(entry.attribute("name").value());
@@ -144,28 +136,28 @@ bool walk(FileId file, Xml& xml, Report& report)
 }
 
 std::optional<Fault> faultOfXml(const KnownFile& file, const QByteArray& content, const QByteArray* present,
-                                Report& report)
+                                Report& report, std::optional<ParsedXml>& parsed)
 {
     const FileNeeds::Names* needs = FileNeeds::namesOf(file.id);
-    std::optional<Xml> own;
+    std::optional<ParsedXml> own;
     if (present && !isBlank(*present)) {
         own.emplace(*present);
-        if (!own->isXml())
+        if (!own->result() || !own->root())
             return {}; // the controller's own is no XML either
     }
     if (!AsciiText::isUtf8(content))
         return fault(Fault::NotText, IsNotUtf8);
-    Xml xml(content);
+    const ParsedXml& xml = parsed.emplace(content);
     if (const auto found = faultOfProlog(content, xml))
         return found;
-    if (!walk(file.id, xml, report))
+    if (!walk(file.id, content, xml, report))
         return fault(Fault::TooMany, HasTooMuch);
-    const char* root = own ? own->root.name() : needs ? file.root : nullptr;
-    if (root && qstrcmp(root, xml.root.name()) != 0)
+    const char* root = own ? own->root().name() : needs ? file.root : nullptr;
+    if (root && qstrcmp(root, xml.root().name()) != 0)
         return fault(Fault::WrongRoot, OtherRoot,
-                     {QString::fromUtf8(xml.root.name()), QString::fromUtf8(root)});
+                     {QString::fromUtf8(xml.root().name()), QString::fromUtf8(root)});
     for (const char* name : needs ? *needs : FileNeeds::Names()) {
-        if (name && !xml.root.child(name) && (!own || own->root.child(name)))
+        if (name && !xml.root().child(name) && (!own || own->root().child(name)))
             return fault(Fault::Incomplete, Lacks, {QLatin1String(name)});
     }
     return {};
@@ -204,7 +196,7 @@ std::optional<Fault> faultOfText(const KnownFile& file, const QByteArray& conten
 }
 
 std::optional<Fault> check(const KnownFile& file, const QByteArray& content, const QByteArray* present,
-                           Report& report)
+                           Report& report, std::optional<ParsedXml>& parsed)
 {
     if (content.size() > KnownFiles::MostBytes)
         return fault(Fault::TooLarge, IsTooLarge);
@@ -214,7 +206,8 @@ std::optional<Fault> check(const KnownFile& file, const QByteArray& content, con
             return {};
         return fault(Fault::Empty, IsEmpty);
     }
-    return file.root ? faultOfXml(file, content, present, report) : faultOfText(file, content, present);
+    return file.root ? faultOfXml(file, content, present, report, parsed)
+                     : faultOfText(file, content, present);
 }
 
 } // namespace
@@ -224,7 +217,8 @@ std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content, c
     if (present && *present == content)
         return {};
     Report report;
-    if (const auto found = check(file, content, present, report))
+    std::optional<ParsedXml> parsed;
+    if (const auto found = check(file, content, present, report, parsed))
         return found;
     MappingConfig mapping;
     if (file.id == FileId::Mapping && !MappingFile::read(content, mapping) &&
@@ -233,10 +227,10 @@ std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content, c
     return {};
 }
 
-Report examine(const KnownFile& file, const QByteArray& content)
+Report examine(const KnownFile& file, const QByteArray& content, std::optional<ParsedXml>& parsed)
 {
     Report report;
-    report.fault = check(file, content, nullptr, report);
+    report.fault = check(file, content, nullptr, report, parsed);
     return report;
 }
 

@@ -3,6 +3,7 @@
 
 #include "KnownFiles.h"
 #include "MarkedText.h"
+#include "ParsedXml.h"
 
 #include <QByteArray>
 
@@ -47,8 +48,9 @@ struct Report
     std::vector<QByteArray> unknownElements; ///< names that no reader here knows, the first few
     QStringList doubledRoles;                ///< of fieldbus.xml, each once
 };
-/// As `faultOf`, without a controller's file, and without asking the file's own reader.
-Report examine(const KnownFile& file, const QByteArray& content);
+/// As `faultOf`, without a controller's file, and without asking the file's own reader. `parsed` gets
+/// what an XML file was parsed into, for that reader.
+Report examine(const KnownFile& file, const QByteArray& content, std::optional<ParsedXml>& parsed);
 
 /// Of a file that its reader refuses for another reason.
 Fault refusedByReader(FileId file);
