@@ -10,8 +10,11 @@ if(FIELDBUS_SANITIZE)
                                                     -fno-omit-frame-pointer)
   target_link_options(fieldbus_options INTERFACE -fsanitize=address,undefined)
 endif()
-# gcc needs this to let ccache look through a precompiled header.
-target_compile_options(fieldbus_options INTERFACE -fpch-preprocess)
+# Precompiled headers that ccache can keep.
+target_compile_options(fieldbus_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>
+                                                  "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
+# What is installed names no folder of the build; debuggers and sanitizers want whole paths.
+target_compile_options(fieldbus_options INTERFACE $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>)
 
 # Precompiled headers: one for code that knows widgets, one for code that must not.
 function(fieldbus_pch name qt_module qt_header)
@@ -37,12 +40,4 @@ function(fieldbus_core_target name)
   target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE fieldbus_options Qt::Core)
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_precompile_headers(${name} REUSE_FROM fieldbus_pch_core)
-endfunction()
-
-# fieldbus_exports(LIBRARY MAP): exports what the version script MAP names and nothing else. Not by a flag of the
-# compiler: a precompiled header serves code of one visibility only.
-function(fieldbus_exports library map)
-  target_link_options(${library} PRIVATE LINKER:--version-script=${map})
-  set_target_properties(${library} PROPERTIES LINK_DEPENDS ${map} VERSION ${PROJECT_VERSION}
-                                              SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()

@@ -30,7 +30,7 @@ int main(int argc, char* argv[])
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
 
     CLI::App app(Description, "fieldbusctl");
-    app.set_version_flag("--version", "fieldbusctl 1.0");
+    app.set_version_flag("--version", "fieldbusctl " FIELDBUS_VERSION);
     app.require_subcommand(1);
     app.footer(ExitCodes);
     std::vector<std::pair<CLI::App*, std::unique_ptr<Command>>> commands;
