@@ -93,7 +93,7 @@ bool Stations::otherApplications(TourGuide& guide)
     bool allSeen = guide.leave();
     for (const ApplicationSlot* application : guide.subject().window.applications()) {
         const QString name = application->info().className;
-        if (name == QLatin1String("fieldbussetting"))
+        if (name == QLatin1String("fieldbussetting") || name == QLatin1String("fieldbusstatus"))
             continue;
         allSeen = guide.openApplication(name) && guide.report(name) && allSeen;
         allSeen = guide.leaveApplication() && allSeen;

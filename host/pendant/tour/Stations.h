@@ -49,6 +49,10 @@ bool slavesOfMasters(TourGuide& guide);
 /// The tables of both sides, as long as they can be.
 bool longDeviceTables(TourGuide& guide);
 
+// StatusStations.cpp
+/// The application that tells what runs.
+bool status(TourGuide& guide);
+
 } // namespace Stations
 
 #endif

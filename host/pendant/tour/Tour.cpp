@@ -35,6 +35,7 @@ constexpr Station AllStations[] = {
     {"slave-module", Stations::slaveModule},
     {"slaves-of-masters", Stations::slavesOfMasters},
     {"long-device-tables", Stations::longDeviceTables},
+    {"status", Stations::status},
     {"other-applications", Stations::otherApplications},
     {"exit", Stations::exit},
 };

@@ -1,0 +1,9 @@
+#include "WorkFolder.h"
+
+#include "ZelFunctions.h"
+
+const QString& WorkFolder::path()
+{
+    static const QString folder = ZelGetLocalizedFileName(QStringLiteral("../Application/fieldbusStatus"), 1);
+    return folder;
+}
