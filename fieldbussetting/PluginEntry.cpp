@@ -2,6 +2,7 @@
 
 #include "ControllerCopies.h"
 #include "FieldbusSettingLib.h"
+#include "FormerFiles.h"
 #include "MainWidget.h"
 #include "ZelCustomData.h"
 
@@ -11,7 +12,11 @@ namespace {
 struct LibraryRelease
 {
     // What the library lets go of last is made first, so that it is still there.
-    LibraryRelease() { ControllerCopies::instance(); }
+    LibraryRelease()
+    {
+        ControllerCopies::instance();
+        FormerFiles::instance();
+    }
     LibraryRelease(const LibraryRelease&) = delete;
     LibraryRelease& operator=(const LibraryRelease&) = delete;
     ~LibraryRelease() { FieldbusSettingLib::destroy(); }

@@ -14,15 +14,6 @@ namespace {
 // Wider than what an import takes, so that a file of the controller's that is too large is told as such.
 constexpr off_t LargestFile = off_t{16} * 1024 * 1024;
 
-// A file system that cannot write through says so, and that is no failure.
-bool isWrittenThrough(int descriptor, WholeFile::Sync sync)
-{
-    int result = sync(descriptor);
-    while (result != 0 && errno == EINTR)
-        result = sync(descriptor);
-    return result == 0 || errno == EINVAL || errno == EROFS;
-}
-
 } // namespace
 
 // The system's own calls: for files of a few kilobytes QFile takes longer to open than to read.
@@ -75,11 +66,21 @@ bool WholeFile::read(const QString& path, QByteArray& content)
     return file.read(content.data());
 }
 
+// A file system that cannot write through says so, and that is no failure.
+bool WholeFile::writeThrough(int descriptor, Sync sync)
+{
+    const Sync write = sync ? sync : ::fdatasync;
+    int result = write(descriptor);
+    while (result != 0 && errno == EINTR)
+        result = write(descriptor);
+    return result == 0 || errno == EINVAL || errno == EROFS;
+}
+
 bool WholeFile::replace(const QString& path, const QByteArray& content, Sync sync)
 {
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
-           isWrittenThrough(file.handle(), sync ? sync : ::fdatasync) && file.commit();
+           writeThrough(file.handle(), sync) && file.commit();
 }
 
 bool WholeFile::areSame(const QString& one, const QString& other)

@@ -36,6 +36,9 @@ bool read(const QString& path, QByteArray& content);
 /// Writes a file's bytes through to the disk, as `fdatasync` does: 0, or -1 and `errno`.
 using Sync = int (*)(int descriptor);
 
+/// Whether what was written to an open file is on the disk. `sync` null: as the system does it.
+bool writeThrough(int descriptor, Sync sync = nullptr);
+
 /// Replaces the file in one step: it holds either the old bytes or the new ones. The new ones are flushed and
 /// written through, and both results checked, before the new file takes the old one's place: on a full disk
 /// or a failing one the old file stays. `sync` is another one for tests of that.

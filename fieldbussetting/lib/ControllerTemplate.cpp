@@ -2,6 +2,7 @@
 
 #include "ControllerCopies.h"
 #include "FieldbusSettingLib.h"
+#include "FormerFiles.h"
 #include "Logging.h"
 #include "WholeFile.h"
 
@@ -32,12 +33,13 @@ bool fetchTemplate(const QString& temporary, const QString& ctrlPath, bool (*isR
     if (!fetch(temporary, ctrlPath, content))
         return false;
     const ControllerCopies::Copy known = ControllerCopies::instance().copy(ctrlPath);
-    if (known.isKnown && content == known.bytes)
-        return true;
     QByteArray again;
-    if (!content.isEmpty() && fetch(temporary, ctrlPath, again) && again == content &&
-        !(known.isKnown && (isPieceOf(content, known.bytes) || (isRecognised && !isRecognised(content)))))
+    if ((known.isKnown && content == known.bytes) ||
+        (!content.isEmpty() && fetch(temporary, ctrlPath, again) && again == content &&
+         !(known.isKnown && (isPieceOf(content, known.bytes) || (isRecognised && !isRecognised(content)))))) {
+        FormerFiles::instance().saw(ctrlPath, content);
         return true;
+    }
     qCDebug(fieldbusLog) << "Could not rely on" << ctrlPath << "as it came";
     return false;
 }

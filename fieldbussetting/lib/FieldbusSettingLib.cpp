@@ -3,6 +3,7 @@
 #include "ControllerCopies.h"
 #include "DataAccess.h"
 #include "FileLocations.h"
+#include "FormerFiles.h"
 #include "HandleBusFiles.h"
 #include "Logging.h"
 #include "WholeFile.h"
@@ -40,6 +41,7 @@ void FieldbusSettingLib::destroy()
     delete s_instance;
     s_instance = nullptr;
     ControllerCopies::instance().forgetReads();
+    FormerFiles::instance().forgetSeen();
 }
 
 // Touches no member after a wait: the object may be destroyed while events are processed.
@@ -58,12 +60,14 @@ bool FieldbusSettingLib::getFileFromCtrl(QString localPath, QString ctrlPath)
 
 bool FieldbusSettingLib::sendFileToCtrl(QString localPath, QString ctrlPath)
 {
-    const bool sent = DataAccess::SendFileFromTPU2Controller(localPath, ctrlPath, false);
     QByteArray content;
-    const bool isKnown = sent && WholeFile::read(localPath, content);
-    ControllerCopies::instance().noteSent(ctrlPath, isKnown ? &content : nullptr);
+    const bool isRead = WholeFile::read(localPath, content);
+    const qint64 kept = isRead ? FormerFiles::instance().keep(ctrlPath, &content) : 0;
+    const bool sent = DataAccess::SendFileFromTPU2Controller(localPath, ctrlPath, false);
+    ControllerCopies::instance().noteSent(ctrlPath, sent && isRead ? &content : nullptr);
     if (sent)
         return true;
+    FormerFiles::failed(kept);
     qCDebug(fieldbusLog) << "Could not send" << localPath << "to" << ctrlPath;
     return false;
 }

@@ -12,6 +12,7 @@ namespace FileLocations {
 
 const char* const FieldbusXml = "/application/fidbus/fieldbus.xml";
 const char* const FieldbusConfigXml = "/application/fidbus/fieldbus_config.xml";
+const char* const SlaveModule = "/fa/fbslave.cfgx";
 
 namespace {
 
@@ -95,6 +96,12 @@ const QString& workingDirectory()
 const QString& stagingDirectory()
 {
     static const QString path = localised(QStringLiteral("../Application/fidbus/im-export"));
+    return path;
+}
+
+const QString& versionsDirectory()
+{
+    static const QString path = localised(QStringLiteral("../Application/fidbus/versions"));
     return path;
 }
 

@@ -57,9 +57,16 @@ const QString& stagingDirectory();
 /// "".
 QString stagingFolder(const QString& folder);
 
+/// Where the former versions of the files are kept that this pendant replaces. The application
+/// "fieldbusstatus" names the same folder, from where it shows them and puts them back: it must not be moved
+/// here alone.
+const QString& versionsDirectory();
+
 /// The bus configuration and the I/O mapping belong to the bus file data service, which fetches them itself.
 extern const char* const FieldbusXml;
 extern const char* const FieldbusConfigXml;
+/// So do the settings of the slave module.
+extern const char* const SlaveModule;
 
 /// The import and export set, in the order in which the export fetches it.
 const std::vector<TransferFile>& transferSet();

@@ -3,6 +3,7 @@
 #include "BusFileDataManager.h"
 #include "ControllerCopies.h"
 #include "ControllerVariables.h"
+#include "FormerFiles.h"
 #include "SysSettingApi.h"
 #include "UpdateState.h"
 
@@ -39,6 +40,10 @@ void MappingSave::begin(const std::vector<BusAddrNumInfo>& quantities)
     m_host.leaveEditing();
     // The acknowledgement itself is looked for on the idle ticks.
     m_patience.start([] { return false; }, [this](Poll::Answer) { giveUp(); });
+    const QPointer<PageBase> page(&m_page);
+    FormerFiles::instance().serviceBegins(QLatin1String(FileLocations::FieldbusConfigXml));
+    if (!page)
+        return;
     BusFileDataManager* service = BusFileDataManager::getInstance();
     service->setBusNumAndAddr(quantities);
     service->writeSendFieldbusCfg(); // its result may close the page
@@ -48,6 +53,7 @@ void MappingSave::sent(const QString& path, bool success)
 {
     if (!isUnderWay() || path != QLatin1String(FileLocations::FieldbusConfigXml))
         return;
+    FormerFiles::instance().serviceEnds(path, success);
     if (success) {
         ControllerCopies::instance().changed(path);
         // The answer to the save before, which was rejected or came too late, is not the one to this save.

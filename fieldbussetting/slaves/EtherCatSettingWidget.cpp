@@ -2,6 +2,7 @@
 
 #include "BusFileDataManager.h"
 #include "FieldbusModule.h"
+#include "FormerFiles.h"
 #include "ui_EtherCatSettingWidget.h"
 
 #include <QCheckBox>
@@ -62,7 +63,9 @@ void EtherCatSettingWidget::on_btn_saveFbECAT_clicked()
         ui->cbb_Endian->currentIndex() == LittleEndian ? littleEndianText() : QStringLiteral("bigEndian");
     const QPointer<EtherCatSettingWidget> self(this);
     Busy busy(this);
+    FormerFiles::instance().serviceBegins(QLatin1String(FileLocations::SlaveModule));
     const bool sent = BusFileDataManager::getInstance()->writeAndSendFbslave(endian);
+    FormerFiles::instance().serviceEnds(QLatin1String(FileLocations::SlaveModule), sent);
     if (!self)
         return;
     busy.release();

@@ -3,6 +3,7 @@
 #include "BusFileDataManager.h"
 #include "ControllerCopies.h"
 #include "ControllerVariables.h"
+#include "FormerFiles.h"
 #include "SwitchBoard.h"
 #include "SwitchRules.h"
 #include "SysSettingApi.h"
@@ -193,6 +194,7 @@ void SwitchSave::sendSwitches()
         if (role != roles.end())
             role->enabled = m_board.isOn(static_cast<Switch>(i));
     }
+    FormerFiles::instance().serviceBegins(QLatin1String(FileLocations::FieldbusXml));
     BusFileDataManager::getInstance()->setBusInfo(roles);
     BusFileDataManager::getInstance()->writeSendFieldbusXml();
 }
@@ -200,6 +202,7 @@ void SwitchSave::sendSwitches()
 void SwitchSave::finish(bool sent)
 {
     m_notice.close();
+    FormerFiles::instance().serviceEnds(QLatin1String(FileLocations::FieldbusXml), sent);
     if (!sent) {
         if (m_page.tell(MsgBox::Error, tr("Failed to write file.")) != Answer::Gone)
             end();

@@ -6,6 +6,7 @@
 #include "DurableFiles.h"
 #include "FieldbusSettingLib.h"
 #include "FileHash.h"
+#include "FormerFiles.h"
 #include "ImportJournal.h"
 #include "Logging.h"
 #include "SysSettingApi.h"
@@ -57,12 +58,17 @@ Back putBackOne(const ImportEntry& entry, bool mayBeAnything)
     } else if (fetched != Fetched::Absent) {
         return Back::Failed;
     }
+    FormerFiles::instance().sawCopy(file.controller, fetched == Fetched::Yes ? scratchCopy() : QString());
     if (wasThere)
         return lib()->sendFileToCtrl(file.kept(), file.controller) && isThere(file.controller, file.kept())
                    ? Back::Done
                    : Back::Failed;
+    const qint64 kept = FormerFiles::instance().keep(file.controller, nullptr);
     ControllerCopies::instance().changed(file.controller);
-    return SysSettingApi::removeRemoteFile(file.controller) ? Back::Done : Back::Failed;
+    if (SysSettingApi::removeRemoteFile(file.controller))
+        return Back::Done;
+    FormerFiles::failed(kept);
+    return Back::Failed;
 }
 
 Back putBackTried(const ImportEntry& entry, bool mayBeAnything)
@@ -158,6 +164,7 @@ TransferResult ImportTransfer::confirmPresent(TransferWatch& watch)
 
 TransferResult ImportTransfer::send(TransferWatch& watch)
 {
+    const FormerFiles::Act act(FileVersion::Act::Imported);
     TransferResult result = beginJournal();
     for (const ImportEntry& entry : m_entries) {
         if (!result.isDone())
@@ -186,6 +193,7 @@ TransferResult ImportTransfer::sendOne(const ImportEntry& entry)
     m_hasSent = true;
     m_sent.push_back(&entry);
     m_onTheWay = &entry;
+    FormerFiles::instance().sawCopy(file.controller, isNew ? QString() : file.kept());
     const TransferResult failed = {TransferResult::SendFailed, file.name};
     if (!lib()->sendFileToCtrl(file.staged(), file.controller))
         return failed;
@@ -230,6 +238,7 @@ void ImportTransfer::endUndone()
 
 bool ImportTransfer::putBack()
 {
+    const FormerFiles::Act act(FileVersion::Act::ImportUndone);
     std::vector<const ImportEntry*> left;
     for (auto entry = m_sent.rbegin(); entry != m_sent.rend(); ++entry) {
         if (*entry == m_unreadable)
