@@ -18,11 +18,7 @@ LoadedFolder::LoadedFolder(const Folder& folder)
 
 QByteArray LoadedFolder::bytes(const KnownFile& file) const
 {
-    if (m_configuration.file(file.id).state == Configuration::State::Missing)
-        return {};
-    // An empty file is there all the same.
-    const QByteArray& bytes = m_configuration.bytes(file.id);
-    return bytes.isNull() ? QByteArray("") : bytes;
+    return m_configuration.presentBytes(file.id);
 }
 
 bool LoadedFolder::isExpected(const KnownFile& file) const

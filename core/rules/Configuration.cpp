@@ -123,3 +123,10 @@ Configuration Configuration::from(const Source& source)
     }
     return configuration;
 }
+
+QByteArray Configuration::presentBytes(FileId id) const
+{
+    if (file(id).state == State::Missing)
+        return {};
+    return bytes(id).isNull() ? QByteArray("") : bytes(id);
+}

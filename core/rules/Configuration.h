@@ -51,6 +51,8 @@ struct Configuration
     const File& file(FileId id) const { return files[static_cast<std::size_t>(id)]; }
     bool isRead(FileId id) const { return file(id).state == State::Read; }
     const QByteArray& bytes(FileId id) const { return file(id).bytes; }
+    /// The same, null when the file is not there: an empty one is there all the same.
+    QByteArray presentBytes(FileId id) const;
     bool isOn(RoleId role) const { return RoleTable::isOn(on, role); }
     /// The mode that runs: FreeBus on is the free one.
     MappingConfig::Mode mode() const

@@ -3,6 +3,7 @@
 #include "ConfigurationFindings.h"
 #include "Console.h"
 #include "FindingText.h"
+#include "FindingTone.h"
 #include "LoadedFolder.h"
 #include "OrderedPool.h"
 

@@ -24,11 +24,6 @@ qint64 pointsOf(const std::vector<IoRow>& ranges)
     });
 }
 
-QString textOf(const std::optional<quint32>& number)
-{
-    return number ? QString::number(*number) : QString();
-}
-
 // Quoted where a comma, a quote or a line end asks for it; none of the tool's own texts does.
 QByteArray csvLine(const QStringList& cells)
 {
@@ -73,27 +68,6 @@ QJsonObject jsonOf(const IoRow& row)
 
 } // namespace
 
-const QStringList& IolistCommand::header()
-{
-    static const QStringList cells = {"bus",   "direction", "type", "variable", "owner",
-                                      "first", "last",      "bit",  "unit",     "mode"};
-    return cells;
-}
-
-QStringList IolistCommand::cellsOf(const IoRow& row)
-{
-    return {QLatin1String(row.role->title),
-            row.directionText(),
-            QLatin1String(row.typeName()),
-            row.variable(),
-            QLatin1String(row.isSystem ? "system" : "user"),
-            textOf(row.first),
-            textOf(row.last),
-            row.bit ? QString::number(*row.bit) : QString(),
-            QLatin1String(row.isRegister ? "register" : "byte"),
-            QLatin1String(row.modeName())};
-}
-
 void IolistCommand::addOptions(CLI::App& app)
 {
     m_folders.addOne(app);
@@ -125,16 +99,16 @@ void IolistCommand::print(const std::vector<IoRow>& ranges, const Folder& folder
         console.json("iolist", {{"folder", folder.path}, {"rows", rows}});
     } else if (m_html) {
         HtmlPage page(QStringLiteral("I/O list of ") + folder.name());
-        page.beginTable(header());
-        forEachRow(ranges, [&page](const IoRow& row) { page.row(cellsOf(row)); });
+        page.beginTable(IoList::header());
+        forEachRow(ranges, [&page](const IoRow& row) { page.row(IoList::cellsOf(row)); });
         page.endTable();
         console.data(page.bytes());
     } else if (m_csv) {
-        console.data(csvLine(header()));
-        forEachRow(ranges, [&console](const IoRow& row) { console.data(csvLine(cellsOf(row))); });
+        console.data(csvLine(IoList::header()));
+        forEachRow(ranges, [&console](const IoRow& row) { console.data(csvLine(IoList::cellsOf(row))); });
     } else {
-        console.line(console.painted(Console::Tone::Heading, aligned(header())));
-        forEachRow(ranges, [&console](const IoRow& row) { console.line(aligned(cellsOf(row))); });
+        console.line(console.painted(Console::Tone::Heading, aligned(IoList::header())));
+        forEachRow(ranges, [&console](const IoRow& row) { console.line(aligned(IoList::cellsOf(row))); });
     }
 }
 

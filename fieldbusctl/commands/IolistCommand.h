@@ -5,8 +5,6 @@
 #include "FolderOptions.h"
 #include "IoList.h"
 
-#include <QStringList>
-
 #include <functional>
 #include <string>
 
@@ -16,10 +14,6 @@ class IolistCommand : public Command
 public:
     void addOptions(CLI::App& app) override;
     ExitCode run(Console& console) override;
-
-    static const QStringList& header();
-    /// The cells of a row, in the order of the header.
-    static QStringList cellsOf(const IoRow& row);
 
 private:
     void forEachRow(const std::vector<IoRow>& ranges, const std::function<void(const IoRow&)>& use) const;

@@ -1,7 +1,10 @@
 #include "ReportCommand.h"
 
+#include "ConfigurationFindings.h"
 #include "Console.h"
+#include "LoadedFolder.h"
 #include "Report.h"
+#include "Seal.h"
 #include "WholeFile.h"
 
 #include <QJsonObject>
@@ -21,7 +24,9 @@ ExitCode ReportCommand::run(Console& console)
     const LoadedFolder folder(folders.front());
     QString trouble;
     const std::optional<Seal::Sums> sums = Seal::of(folders.front(), trouble);
-    const QByteArray page = sums ? reportOf(folder, *sums) : QByteArray();
+    const QByteArray page = sums ? reportOf(folder.folder().name(), folder.configuration(),
+                                            findingsOf(folder.configuration()), folder.troubles(), *sums)
+                                 : QByteArray();
     const QString target = QString::fromStdString(m_target);
     if (sums && !WholeFile::replace(target, page))
         trouble = QStringLiteral("%1: cannot be written").arg(target);

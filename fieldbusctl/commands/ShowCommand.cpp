@@ -1,6 +1,7 @@
 #include "ShowCommand.h"
 
 #include "Console.h"
+#include "LoadedFolder.h"
 #include "RoleSettings.h"
 #include "SettingReaders.h"
 
@@ -172,7 +173,7 @@ ExitCode ShowCommand::run(Console& console)
     for (const QString& trouble : folder.troubles())
         Console::complain(trouble);
     const ExitCode code = folder.isIncomplete() ? ExitTrouble : ExitSame;
-    const std::vector<RoleSettings> all = RoleSettings::of(folder);
+    const std::vector<RoleSettings> all = RoleSettings::of(folder.configuration());
     if (!m_json) {
         print(all, folder, only, console);
         return code;

@@ -1,5 +1,5 @@
-#ifndef FIELDBUSCTL_HTMLPAGE_H
-#define FIELDBUSCTL_HTMLPAGE_H
+#ifndef HTMLPAGE_H
+#define HTMLPAGE_H
 
 #include "IoList.h"
 

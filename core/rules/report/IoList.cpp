@@ -112,3 +112,33 @@ void IoList::forEachPoint(const IoRow& range, const std::function<void(const IoR
         use(point);
     }
 }
+
+namespace {
+
+QString textOf(const std::optional<quint32>& number)
+{
+    return number ? QString::number(*number) : QString();
+}
+
+} // namespace
+
+const QStringList& IoList::header()
+{
+    static const QStringList cells = {"bus",   "direction", "type", "variable", "owner",
+                                      "first", "last",      "bit",  "unit",     "mode"};
+    return cells;
+}
+
+QStringList IoList::cellsOf(const IoRow& row)
+{
+    return {QLatin1String(row.role->title),
+            row.directionText(),
+            QLatin1String(row.typeName()),
+            row.variable(),
+            QLatin1String(row.isSystem ? "system" : "user"),
+            textOf(row.first),
+            textOf(row.last),
+            row.bit ? QString::number(*row.bit) : QString(),
+            QLatin1String(row.isRegister ? "register" : "byte"),
+            QLatin1String(row.modeName())};
+}

@@ -1,7 +1,7 @@
-#ifndef FIELDBUSCTL_ROLESETTINGS_H
-#define FIELDBUSCTL_ROLESETTINGS_H
+#ifndef ROLESETTINGS_H
+#define ROLESETTINGS_H
 
-#include "LoadedFolder.h"
+#include "Configuration.h"
 #include "Settings.h"
 
 #include <QString>
@@ -24,7 +24,7 @@ struct RoleSettings
     std::vector<Part> parts;
 
     /// Every role in the order of the table, and last what is of no role.
-    static std::vector<RoleSettings> of(const LoadedFolder& folder);
+    static std::vector<RoleSettings> of(const Configuration& configuration);
 };
 
 /// The role that people call `text`: its name, its title, or its key in heartbeat.xml, whatever the case.

@@ -12,19 +12,6 @@ const char* severityName(FindingSeverity severity)
     return SeverityNames[static_cast<std::size_t>(severity)];
 }
 
-Console::Tone toneOf(FindingSeverity severity)
-{
-    switch (severity) {
-    case FindingSeverity::Error:
-        return Console::Tone::Bad;
-    case FindingSeverity::Warning:
-        return Console::Tone::Warning;
-    case FindingSeverity::Information:
-        break;
-    }
-    return Console::Tone::Faint;
-}
-
 QString roleTitle(const Finding& finding)
 {
     return finding.role ? QLatin1String(RoleTable::of(*finding.role).title) : QString();

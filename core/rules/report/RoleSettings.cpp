@@ -4,10 +4,9 @@
 
 #include <algorithm>
 
-std::vector<RoleSettings> RoleSettings::of(const LoadedFolder& folder)
+std::vector<RoleSettings> RoleSettings::of(const Configuration& configuration)
 {
     std::vector<RoleSettings> all;
-    const Configuration& configuration = folder.configuration();
     for (const RoleInfo& role : RoleTable::Roles) {
         const auto isIt = [&role](const ListedRole& listed) {
             return listed.name == QLatin1String(role.name);
@@ -18,7 +17,7 @@ std::vector<RoleSettings> RoleSettings::of(const LoadedFolder& folder)
     all.push_back({nullptr, true, true, {}});
     for (const KnownFile& file : KnownFiles::all()) {
         const QString name = QLatin1String(file.name);
-        for (Settings::Group& group : Settings::groupsOf(name, folder.bytes(file))) {
+        for (Settings::Group& group : Settings::groupsOf(name, configuration.presentBytes(file.id))) {
             const auto place = group.role ? static_cast<std::size_t>(group.role->id) : all.size() - 1;
             all[place].parts.push_back({name, std::move(group)});
         }

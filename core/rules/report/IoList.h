@@ -1,10 +1,11 @@
-#ifndef FIELDBUSCTL_IOLIST_H
-#define FIELDBUSCTL_IOLIST_H
+#ifndef IOLIST_H
+#define IOLIST_H
 
 #include "Configuration.h"
 #include "MappingTables.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -43,6 +44,10 @@ std::vector<IoRow> ranges(const Configuration& configuration, MappingConfig::Mod
 
 /// Calls `use` with every point of a range.
 void forEachPoint(const IoRow& range, const std::function<void(const IoRow& point)>& use);
+
+/// The list as a table: what stands over the cells, and the cells of a row.
+const QStringList& header();
+QStringList cellsOf(const IoRow& row);
 
 } // namespace IoList
 

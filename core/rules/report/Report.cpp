@@ -1,9 +1,9 @@
 #include "Report.h"
 
-#include "ConfigurationFindings.h"
+#include "Configuration.h"
 #include "FindingText.h"
 #include "HtmlPage.h"
-#include "IolistCommand.h"
+#include "IoList.h"
 #include "RoleSettings.h"
 
 namespace {
@@ -70,13 +70,13 @@ void addIoList(HtmlPage& page, const std::vector<IoRow>& ranges)
                    {first, last});
         first = last;
     }
-    page.beginTable(IolistCommand::header());
+    page.beginTable(IoList::header());
     for (const IoRow& range : ranges)
-        page.row(IolistCommand::cellsOf(range));
+        page.row(IoList::cellsOf(range));
     page.endTable();
 }
 
-void addSums(HtmlPage& page, const Seal::Sums& sums)
+void addSums(HtmlPage& page, const Checksums::Sums& sums)
 {
     page.heading(QStringLiteral("Checksums (SHA-256)"));
     page.beginTable({"File", "Sum"});
@@ -87,15 +87,15 @@ void addSums(HtmlPage& page, const Seal::Sums& sums)
 
 } // namespace
 
-QByteArray reportOf(const LoadedFolder& folder, const Seal::Sums& sums)
+QByteArray reportOf(const QString& name, const Configuration& configuration, const Findings& findings,
+                    const QStringList& troubles, const Checksums::Sums& sums)
 {
-    const Configuration& configuration = folder.configuration();
-    const std::vector<RoleSettings> all = RoleSettings::of(folder);
-    HtmlPage page(QStringLiteral("Fieldbus configuration ") + folder.folder().name());
-    for (const QString& trouble : folder.troubles())
+    const std::vector<RoleSettings> all = RoleSettings::of(configuration);
+    HtmlPage page(QStringLiteral("Fieldbus configuration ") + name);
+    for (const QString& trouble : troubles)
         page.paragraph(trouble);
     addRoles(page, all);
-    addFindings(page, findingsOf(configuration));
+    addFindings(page, findings);
     addSettings(page, all);
     addIoList(page, IoList::ranges(configuration, configuration.mode()));
     addSums(page, sums);

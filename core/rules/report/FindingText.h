@@ -1,21 +1,19 @@
-#ifndef FIELDBUSCTL_FINDINGTEXT_H
-#define FIELDBUSCTL_FINDINGTEXT_H
+#ifndef FINDINGTEXT_H
+#define FINDINGTEXT_H
 
-#include "Console.h"
 #include "Finding.h"
 
 #include <QJsonObject>
 
 #include <array>
 
-/// Findings as the tool tells them.
+/// Findings in plain English, for a report that leaves the pendant and for the tool.
 namespace FindingText {
 
 /// By FindingSeverity: "information", "warning", "error".
 extern const std::array<const char*, 3> SeverityNames;
 
 const char* severityName(FindingSeverity severity);
-Console::Tone toneOf(FindingSeverity severity);
 
 /// Title of the role that it is about; empty without one.
 QString roleTitle(const Finding& finding);
