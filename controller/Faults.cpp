@@ -17,7 +17,10 @@ struct Description
     const char* target;
     const char* meaning;
     int usual = -1; // number of a fault whose target is one; -1: it is none
+    int most = 0;   // the highest such number
 };
+
+constexpr int Hour = 3600 * 1000;
 
 // As Faults::Fault counts.
 constexpr Description Descriptions[] = {
@@ -41,21 +44,28 @@ constexpr Description Descriptions[] = {
     {"heartbeat-not-reloaded", None, "the announced heartbeat file is not read"},
     {"port-taken", Port, "a server of the robot or of a partner finds its port taken"},
     {"fins-silent", None, "the FINS server gives no answer"},
-    {"fins-slow", "milliseconds", "the FINS server answers so much later", 1000},
-    {"fins-drops", "answers", "the FINS server closes a connection after so many answers", 1},
+    {"fins-slow", "milliseconds", "the FINS server answers so much later", 1000, Hour},
+    {"fins-drops", "answers", "the FINS server closes a connection after so many answers", 1, 0xffff},
     {"fins-garbage", None, "the FINS server answers with bytes that are no frame"},
-    {"fins-error-code", "code", "the FINS server answers the client's node with this error code", 0x21},
-    {"fins-end-code", "code", "the FINS server answers a read with this end code", 0x1103},
+    {"fins-error-code", "code", "the FINS server answers the client's node with this error code", 0x21,
+     0xffff},
+    {"fins-end-code", "code", "the FINS server answers a read with this end code", 0x1103, 0xffff},
     {"modbus-silent", None, "the Modbus TCP server gives no answer"},
-    {"modbus-slow", "milliseconds", "the Modbus TCP server answers so much later", 1000},
-    {"modbus-drops", "answers", "the Modbus TCP server closes a connection after so many answers", 1},
+    {"modbus-slow", "milliseconds", "the Modbus TCP server answers so much later", 1000, Hour},
+    {"modbus-drops", "answers", "the Modbus TCP server closes a connection after so many answers", 1, 0xffff},
     {"modbus-garbage", None, "the Modbus TCP server answers with bytes that are no frame"},
-    {"modbus-exception", "code", "the Modbus TCP server answers with this exception", 2},
-    {"modbus-wrong-unit", "unit", "the Modbus TCP server answers under this unit id", 99},
+    {"modbus-exception", "code", "the Modbus TCP server answers with this exception", 2, 255},
+    {"modbus-wrong-unit", "unit", "the Modbus TCP server answers under this unit id", 99, 255},
     {"mes-silent", None, "the MES client does not call"},
-    {"mes-slow", "milliseconds", "the MES client calls so much later", 1000},
-    {"mes-drops", "milliseconds", "the MES client hangs up so long after it was connected", 1000},
-    {"mes-garbage", None, "the MES client sends bytes that are no text, four times a second"},
+    {"mes-slow", "milliseconds", "the MES client calls so much later", 1000, Hour},
+    {"mes-drops", "milliseconds", "the MES client hangs up so long after it was connected", 1000, Hour},
+    {"mes-garbage", None, "the MES client sends bytes that are no text, twice a second"},
+    {"poll-silent", None, "the Modbus TCP client does not call"},
+    {"poll-slow", "milliseconds", "the Modbus TCP client calls so much later", 1000, Hour},
+    {"poll-drops", "milliseconds", "the Modbus TCP client hangs up so long after it was connected", 1000,
+     Hour},
+    {"poll-garbage", None, "the Modbus TCP client sends bytes that are no frame instead of a request"},
+    {"poll-wrong-unit", "unit", "the Modbus TCP client asks for this unit id", 99, 255},
 };
 static_assert(std::size(Descriptions) == Faults::FaultCount, "a row a fault");
 
@@ -170,7 +180,7 @@ bool Faults::setFromText(const QString& text)
             continue;
         bool isTarget = true;
         if (description.usual >= 0 && !target.isEmpty())
-            isTarget = target.toInt(&isTarget, 0) >= 0 && isTarget;
+            isTarget = target.toUInt(&isTarget, 0) <= static_cast<uint>(description.most) && isTarget;
         if (isTarget)
             set(static_cast<Fault>(fault), count, target);
         return isTarget;

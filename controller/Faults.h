@@ -45,6 +45,11 @@ public:
         MesSlow,
         MesDrops,
         MesGarbage,
+        PollSilent,
+        PollSlow,
+        PollDrops,
+        PollGarbage,
+        PollWrongUnit,
         FaultCount
     };
 
@@ -75,8 +80,8 @@ public:
     static QString targetMeaningOf(Fault fault);
     /// All of them, a line a fault, as `--help` tells them.
     static QString table();
-    /// Sets what "name", "name:times" or "name:times:target" says; false when there is no such name, or
-    /// `times` is no number.
+    /// Sets what "name", "name:times" or "name:times:target" says; false when there is no such name, `times`
+    /// is no number, or the target none that the fault could make use of.
     bool setFromText(const QString& text);
 
 private:

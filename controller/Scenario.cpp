@@ -153,7 +153,10 @@ std::function<void()> Scenario::userLevel(const Words& words, QString& /*why*/)
     const int level = words[0].toInt(&isNumber);
     if (!isNumber || level < 0 || level > HighestUserLevel)
         return {};
-    return [this, level] { m_setUserLevel(level); };
+    return [this, level] {
+        if (m_setUserLevel)
+            m_setUserLevel(level);
+    };
 }
 
 std::function<void()> Scenario::restart(const Words& /*words*/, QString& /*why*/)

@@ -173,6 +173,7 @@ void SimulatedController::comeUp()
         behaviour->restarted();
     startTicking();
     emit stateChanged();
+    m_partners->robotCameUp();
 }
 
 void SimulatedController::startTicking()

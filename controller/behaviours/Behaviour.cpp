@@ -2,12 +2,7 @@
 
 #include "ControllerParts.h"
 
-#include <algorithm>
 #include <utility>
-
-namespace {
-constexpr int LastLookMs = 200;
-} // namespace
 
 bool Behaviour::isControllerUp() const
 {
@@ -63,12 +58,6 @@ void Behaviour::later(const QString& key, int msec, std::function<void()> action
     }
     delayed->action = std::move(action);
     delayed->timer.start(pace.value_or(m_pace) == Pace::Simulated ? m_parts.time.real(msec) : msec);
-}
-
-void Behaviour::whenUnanswered(const QString& key, int msec, std::function<void()> action)
-{
-    const int last = std::min(msec, LastLookMs);
-    later(key, msec - last, [this, key, last, action = std::move(action)] { later(key, last, action); });
 }
 
 void Behaviour::drop(const QString& key)

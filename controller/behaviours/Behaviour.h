@@ -21,8 +21,7 @@ class Behaviour : public QObject
     Q_OBJECT
 
 public:
-    /// Simulated delays follow the time scale; real ones do not. Whoever has a partner outside the
-    /// simulation, at the other end of a socket, lives in real time.
+    /// Simulated delays follow the time scale; real ones do not.
     enum class Pace { Simulated, Real };
 
     explicit Behaviour(ControllerParts& controllerParts, Pace usualPace = Pace::Simulated)
@@ -63,9 +62,6 @@ protected:
     /// Does `action` once, `msec` from now, at the behaviour's pace unless told otherwise; a second call with
     /// the same key replaces the first.
     void later(const QString& key, int msec, std::function<void()> action, std::optional<Pace> pace = {});
-    /// As `later`, for what is done when nobody answered for `msec`. A program that stood still that long,
-    /// with the answer waiting in the socket, looks at it first.
-    void whenUnanswered(const QString& key, int msec, std::function<void()> action);
     void drop(const QString& key);
 
 private:

@@ -24,7 +24,7 @@ constexpr quint32 HighestNode = 254;
 } // namespace
 
 FinsClient::FinsClient(ControllerParts& controllerParts)
-    : Behaviour(controllerParts, Pace::Real)
+    : SocketBehaviour(controllerParts, "FINS client")
     , m_socket(Wire::Fins, &controllerParts.frames)
 {
     connect(&m_socket, &FramedSocket::connected, this, &FinsClient::greet);
@@ -188,9 +188,4 @@ void FinsClient::enter(State state)
 {
     m_state = state;
     parts().variables.set(QLatin1String(Connected), state == State::Reading ? 1.0 : 0.0);
-}
-
-void FinsClient::note(const QString& text)
-{
-    parts().traffic.addNote(QStringLiteral("FINS client: ") + text);
 }

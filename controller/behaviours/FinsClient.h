@@ -1,10 +1,10 @@
 #ifndef CONTROLLER_FINSCLIENT_H
 #define CONTROLLER_FINSCLIENT_H
 
-#include "Behaviour.h"
 #include "FinsFrame.h"
 #include "FramedSocket.h"
 #include "HostLinkFiles.h"
+#include "SocketBehaviour.h"
 
 /// The controller's FINS TCP client. While "ifins_tcp.enable" is set it connects to the server of
 /// "FinsTcpConfig.xml", agrees on the nodes with it, and reads the first DM word again and again.
@@ -12,7 +12,7 @@
 /// the settings are to blame.
 ///
 /// Only servers on this machine are contacted: any other one is an error.
-class FinsClient : public Behaviour
+class FinsClient : public SocketBehaviour
 {
     Q_OBJECT
 
@@ -50,7 +50,6 @@ private:
     void readNextWord();
     void sendAndAwait(const FinsFrame& frame);
     void enter(State state);
-    void note(const QString& text);
 
     FramedSocket m_socket;
     FinsClientSettings m_settings;

@@ -26,6 +26,8 @@ constexpr std::array<MasterNames, MasterSlaveStates::MasterCount> Names = {{
      "ifidbus.pnm", "PNM_DEVICE"},
 }};
 
+constexpr auto OverrideFile = "/fa/override.cfg";
+
 constexpr MasterSlaveStates::Master Masters[] = {MasterSlaveStates::EtherNetIp, MasterSlaveStates::Profinet};
 
 constexpr int Nothing = 0;
@@ -83,6 +85,20 @@ bool MasterSlaveStates::setSlaveConnected(Master master, int position, bool conn
     return true;
 }
 
+void MasterSlaveStates::useDevice(Master master)
+{
+    const QString path = QLatin1String(OverrideFile);
+    QByteArray devices;
+    if (m_tables[master].hasDevice || !parts().roles.isOn(Names[master].role) ||
+        !parts().files.read(path, devices))
+        return;
+    devices = withDeviceInUse(devices, Names[master].device);
+    if (!parts().files.write(path, devices))
+        return;
+    m_tables[master].hasDevice = isDeviceInUse(devices, Names[master].device);
+    start(master);
+}
+
 void MasterSlaveStates::restarted()
 {
     for (const Master master : Masters) {
@@ -118,7 +134,7 @@ void MasterSlaveStates::readTable(Master master)
     parts().files.read(QLatin1String(Names[master].file), bytes);
     const pugi::xml_node group = ControllerXml::load(bytes, Names[master].root, document).child("Group");
     QByteArray devices;
-    parts().files.read(QStringLiteral("/fa/override.cfg"), devices);
+    parts().files.read(QLatin1String(OverrideFile), devices);
     const int count = group.child("SlaveNum").text().as_int();
     Table& table = m_tables[master];
     table.hasDevice = isDeviceInUse(devices, Names[master].device);

@@ -30,6 +30,12 @@ public:
     bool setSlaveConnected(Master master, int position, bool connected);
     bool isSlavePlugged(Master master, int position) const;
 
+    /// Puts the own device of a master that is on in use, in "override.cfg" and at once, as nobody but the
+    /// panel can. Two masters never need theirs together: their devices are on one card.
+    void useDevice(Master master);
+    /// Whether the master's own device is in use; without it no slave is served.
+    bool hasDevice(Master master) const { return m_tables[master].hasDevice; }
+
     enum class Service { None, Fixed, Dynamic };
     /// How the master serves the position, 0 to PositionCount - 1.
     Service serviceOf(Master master, int position) const { return slave(master, position).service; }

@@ -18,12 +18,12 @@ constexpr int ReloadMs = 50;
 } // namespace
 
 MesServer::MesServer(ControllerParts& controllerParts)
-    : Behaviour(controllerParts, Pace::Real)
+    : SocketBehaviour(controllerParts, "MES server")
     , m_server(controllerParts, Wire::Mes, [](const QByteArray& /*discarded*/) { return QByteArray(); })
 {
     m_server.setMostClients(MostClients);
     connect(&m_server, &FrameServer::clientCountChanged, this, [this] {
-        parts().traffic.addNote(QStringLiteral("MES server: %1 client(s)").arg(clients()));
+        note(QStringLiteral("port %1: %2 client(s)").arg(port()).arg(clients()));
         showState();
     });
     onRequest(
@@ -72,9 +72,9 @@ void MesServer::start()
     const quint16 port = readMesServer(bytes).port;
     // Port 0 would be any free one.
     m_complaint = port == 0 ? QStringLiteral("no port") : m_server.listen(port);
-    parts().traffic.addNote(QStringLiteral("MES server: port %1%2")
-                                .arg(port)
-                                .arg(m_complaint.isEmpty() ? QString() : QStringLiteral(": ") + m_complaint));
+    note(QStringLiteral("port %1: %2")
+             .arg(port)
+             .arg(m_complaint.isEmpty() ? QStringLiteral("listens") : m_complaint));
 }
 
 void MesServer::showState()

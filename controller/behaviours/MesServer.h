@@ -1,13 +1,13 @@
 #ifndef CONTROLLER_MESSERVER_H
 #define CONTROLLER_MESSERVER_H
 
-#include "Behaviour.h"
 #include "FrameServer.h"
+#include "SocketBehaviour.h"
 
 /// The controller's TCP server for a manufacturing execution system. A request in "imes.tcp_server_listen"
 /// starts it at the port of "TcpServerConfig.xml", or stops it when it runs. It listens on loopback only.
 /// What a client sends is discarded.
-class MesServer : public Behaviour
+class MesServer : public SocketBehaviour
 {
     Q_OBJECT
 

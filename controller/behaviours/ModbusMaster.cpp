@@ -30,7 +30,7 @@ const QString& role()
 } // namespace
 
 ModbusMaster::ModbusMaster(ControllerParts& controllerParts)
-    : Behaviour(controllerParts, Pace::Real)
+    : SocketBehaviour(controllerParts, "Modbus TCP master")
     , m_socket(Wire::Modbus, &controllerParts.frames)
 {
     connect(&m_socket, &FramedSocket::connected, this, &ModbusMaster::proveUnit);
@@ -112,7 +112,7 @@ void ModbusMaster::connectToSlave()
 {
     // A simulated controller has no business in a real plant. Nobody answers at such an address.
     if (!m_settings->address.isLoopback()) {
-        note(QStringLiteral("%1 is not on this machine").arg(m_settings->address.toString()));
+        m_complaint = QStringLiteral("not on this machine");
         return;
     }
     m_socket.call(m_settings->address.toString(), m_settings->port);
@@ -168,10 +168,10 @@ void ModbusMaster::failed(const QString& why)
 void ModbusMaster::giveUp()
 {
     hangUp();
-    note(QStringLiteral("no answer from unit %1 at %2:%3 (%4)")
-             .arg(m_settings->unit)
+    note(QStringLiteral("%1:%2: no answer from unit %3: %4")
              .arg(m_settings->address.toString())
              .arg(m_settings->port)
+             .arg(m_settings->unit)
              .arg(m_complaint));
     later(Retry, PauseMs, [this] { follow(); });
 }
@@ -191,17 +191,11 @@ void ModbusMaster::setConnected(bool connected)
     if (m_connected == connected)
         return;
     m_connected = connected;
-    if (connected)
-        note(QStringLiteral("connected to %1:%2").arg(m_settings->address.toString()).arg(m_settings->port));
-    else
-        note(m_complaint.isEmpty() ? QStringLiteral("disconnected")
-                                   : QStringLiteral("disconnected: ") + m_complaint);
+    const QString why = connected               ? QStringLiteral("connected")
+                        : m_complaint.isEmpty() ? QStringLiteral("disconnected")
+                                                : QStringLiteral("disconnected: ") + m_complaint;
+    note(QStringLiteral("%1:%2: %3").arg(m_settings->address.toString()).arg(m_settings->port).arg(why));
     m_complaint.clear();
     parts().variables.set(QLatin1String(Connected), connected ? 1.0 : 0.0);
     parts().links.setPartner(role(), connected);
-}
-
-void ModbusMaster::note(const QString& text)
-{
-    parts().traffic.addNote(QStringLiteral("Modbus TCP master: ") + text);
 }

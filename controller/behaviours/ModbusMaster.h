@@ -1,9 +1,9 @@
 #ifndef CONTROLLER_MODBUSMASTER_H
 #define CONTROLLER_MODBUSMASTER_H
 
-#include "Behaviour.h"
 #include "FramedSocket.h"
 #include "ModbusFiles.h"
+#include "SocketBehaviour.h"
 
 #include <optional>
 
@@ -13,7 +13,7 @@
 ///
 /// It tries for as long as the saved time-out and then gives up; with automatic connection it begins again. A
 /// connection that breaks is tried again in the same way. Only addresses of this machine are reached.
-class ModbusMaster : public Behaviour
+class ModbusMaster : public SocketBehaviour
 {
     Q_OBJECT
 
@@ -40,7 +40,6 @@ private:
     void giveUp();
     void hangUp();
     void setConnected(bool connected);
-    void note(const QString& text);
 
     std::optional<MasterSettings> m_settings;
     FramedSocket m_socket;

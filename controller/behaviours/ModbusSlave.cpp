@@ -26,7 +26,7 @@ quint16 addressOf(int number)
 } // namespace
 
 ModbusSlave::ModbusSlave(ControllerParts& controllerParts)
-    : Behaviour(controllerParts, Pace::Real)
+    : SocketBehaviour(controllerParts, "Modbus TCP slave")
 {
     parts().links.setPartner(role(), false);
     onCable(role(), [this] { follow(); });
@@ -100,16 +100,16 @@ void ModbusSlave::serve()
         parts(), readRegisterBlocks(mapping, parts().roles.isOn("FreeBus") ? "free" : "fixed"), UnitId);
     const QString why = m_server->listen(*m_port);
     if (!why.isEmpty()) {
-        const QString complaint = QStringLiteral("Modbus TCP slave: port %1: %2").arg(*m_port).arg(why);
+        const QString complaint = QStringLiteral("port %1: %2").arg(*m_port).arg(why);
         m_server.reset();
-        qWarning().noquote() << complaint;
-        parts().traffic.addNote(complaint);
+        qWarning().noquote() << "Modbus TCP slave:" << complaint;
+        note(complaint);
         return;
     }
     // Whoever was told a port that was picked finds the slave there again.
     m_port = m_server->port();
     connect(m_server.get(), &FrameServer::clientCountChanged, this, &ModbusSlave::tellClients);
-    parts().traffic.addNote(QStringLiteral("Modbus TCP slave: port %1").arg(*m_port));
+    note(QStringLiteral("port %1: listens").arg(*m_port));
 }
 
 void ModbusSlave::stop()
@@ -120,6 +120,6 @@ void ModbusSlave::stop()
 
 void ModbusSlave::tellClients()
 {
-    parts().traffic.addNote(QStringLiteral("Modbus TCP slave: %1 client(s)").arg(clientCount()));
+    note(QStringLiteral("port %1: %2 client(s)").arg(port()).arg(clientCount()));
     parts().links.setPartner(role(), clientCount() > 0);
 }

@@ -1,7 +1,7 @@
 #ifndef CONTROLLER_MODBUSSLAVE_H
 #define CONTROLLER_MODBUSSLAVE_H
 
-#include "Behaviour.h"
+#include "SocketBehaviour.h"
 
 #include <memory>
 #include <optional>
@@ -11,7 +11,7 @@ class RegisterServer;
 /// The controller's Modbus TCP slave: a real server on this machine's loopback interface, with the registers
 /// that the mapping has in the mode that runs. It serves while the role runs, its cable is plugged in and a
 /// port was given. A mapping that is changed comes to run with the next restart.
-class ModbusSlave : public Behaviour
+class ModbusSlave : public SocketBehaviour
 {
     Q_OBJECT
 

@@ -76,7 +76,9 @@ void SlaveTab::refresh()
         const MasterSlaveStates::Master master = masterOf(row);
         const int position = positionOf(row);
         const auto service = static_cast<std::size_t>(states.serviceOf(master, position));
-        m_table->item(row, ServiceColumn)->setText(tr(ServiceNames[service]));
+        const QString text = tr(ServiceNames[service]);
+        m_table->item(row, ServiceColumn)
+            ->setText(states.hasDevice(master) ? text : tr("%1, device off").arg(text));
         m_table->item(row, PluggedColumn)
             ->setCheckState(states.isSlavePlugged(master, position) ? Qt::Checked : Qt::Unchecked);
         for (int state = 0; state < StateCount; ++state) {

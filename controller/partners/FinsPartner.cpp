@@ -22,13 +22,18 @@ bool FinsPartner::start()
         note(QStringLiteral("port %1: %2").arg(port()).arg(why));
         return false;
     }
-    note(QStringLiteral("port %1").arg(servedPort()));
+    note(QStringLiteral("port %1: listens").arg(servedPort()));
     if (!changeSettings("/application/finstcp/FinsTcpConfig.xml", "ClientConfig", "",
                         {{"ServerIP", "127.0.0.1"}, {"ServerPort", QByteArray::number(servedPort())}}))
         note(QStringLiteral("the robot has no settings that could name it"));
     ask("ifins_tcp.bupdate_cfg");
-    ask("ifins_tcp.enable");
+    invite();
     return true;
+}
+
+void FinsPartner::invite()
+{
+    ask("ifins_tcp.enable");
 }
 
 QString FinsPartner::state() const

@@ -1,16 +1,13 @@
 #ifndef CONTROLLER_MESPARTNER_H
 #define CONTROLLER_MESPARTNER_H
 
-#include "FramedSocket.h"
-#include "Partner.h"
-
-#include <QTimer>
+#include "CallingPartner.h"
 
 class MesServer;
 
 /// A manufacturing execution system: a client of the robot's MES server, which it has started when it does
-/// not run. A connection that is lost is made again.
-class MesPartner : public Partner
+/// not run.
+class MesPartner : public CallingPartner
 {
     Q_OBJECT
 
@@ -23,20 +20,14 @@ public:
     /// Gives the robot's server a port that is free on this machine; it counts when it is started next.
     void moveServer();
 
-    bool start() override;
-    void stop() override;
-    bool isRunning() const override { return m_timer.isActive(); }
-    QString state() const override;
+    void invite() override;
+
+protected:
+    int robotPort() const override;
+    void attend(bool /*isNew*/) override {}
 
 private:
-    void follow();
-    void call();
-
     const MesServer& m_server;
-    FramedSocket m_socket;
-    QTimer m_timer;
-    QTimer m_late; ///< a call that a fault holds back
-    QTimer m_drop; ///< a connection that a fault cuts
 };
 
 #endif

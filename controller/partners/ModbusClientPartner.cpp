@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int PollMs = 500;
-
 // As the plant wires it: the higher register first.
 QString textOf(const MappedVariable& variable, const QMap<int, quint16>& values)
 {
@@ -34,39 +32,22 @@ QString textOf(const MappedVariable& variable, const QMap<int, quint16>& values)
 } // namespace
 
 ModbusClientPartner::ModbusClientPartner(ControllerParts& controllerParts, const ModbusSlave& slave)
-    : Partner(controllerParts, "modbus-client", 0)
+    : CallingPartner(controllerParts, "modbus-client", Wire::Modbus,
+                     {Faults::PollSilent, Faults::PollSlow, Faults::PollDrops, Faults::PollGarbage})
     , m_slave(slave)
-    , m_socket(Wire::Modbus, nullptr)
 {
-    connect(&m_timer, &QTimer::timeout, this, &ModbusClientPartner::poll);
-    connect(&m_socket, &FramedSocket::arrived, this, &ModbusClientPartner::take);
-    connect(&m_socket, &FramedSocket::connected, this, [this] {
-        note(QStringLiteral("connected to port %1").arg(m_slave.port()));
-        loadMapping();
-        askNext();
-    });
-    connect(&m_socket, &FramedSocket::lost, this, [this](const QString& why) { note(why); });
+    connect(&socket(), &FramedSocket::arrived, this, &ModbusClientPartner::take);
 }
 
 bool ModbusClientPartner::start()
 {
-    m_timer.start(PollMs);
-    loadMapping();
-    poll();
-    return true;
+    loadMapping(); // what is mapped shows before anything is read
+    return CallingPartner::start();
 }
 
-void ModbusClientPartner::stop()
+int ModbusClientPartner::robotPort() const
 {
-    m_timer.stop();
-    m_socket.hangUp();
-}
-
-QString ModbusClientPartner::state() const
-{
-    if (!isRunning())
-        return tr("off");
-    return m_socket.isConnected() ? tr("connected to 127.0.0.1:%1").arg(m_slave.port()) : tr("calls");
+    return m_slave.port();
 }
 
 std::vector<ModbusClientPartner::Row> ModbusClientPartner::rows() const
@@ -94,15 +75,13 @@ void ModbusClientPartner::loadMapping()
     }
 }
 
-// Comes round by the timer; within a round one request follows the answer to the one before.
-void ModbusClientPartner::poll()
+// Every look begins a round, in which one request follows the answer to the one before.
+void ModbusClientPartner::attend(bool isNew)
 {
-    setPort(m_slave.port());
+    if (isNew)
+        loadMapping();
     m_next = 0;
-    if (m_socket.isConnected())
-        askNext();
-    else if (m_slave.port() != 0)
-        m_socket.call(QStringLiteral("127.0.0.1"), static_cast<quint16>(m_slave.port()));
+    askNext();
 }
 
 void ModbusClientPartner::askNext()
@@ -111,9 +90,10 @@ void ModbusClientPartner::askNext()
         return;
     const auto [address, count] = m_requests[m_next];
     ++m_transaction;
-    m_socket.send(ModbusFrame{m_transaction, 0, static_cast<quint8>(ModbusSlave::UnitId),
-                              ModbusFrame::readRequest(address, count)}
-                      .bytes());
+    const int unit = parts().faults.strikesWith(Faults::PollWrongUnit).value_or(ModbusSlave::UnitId);
+    socket().send(
+        ModbusFrame{m_transaction, 0, static_cast<quint8>(unit), ModbusFrame::readRequest(address, count)}
+            .bytes());
 }
 
 void ModbusClientPartner::take(const QByteArray& bytes)

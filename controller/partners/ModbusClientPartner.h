@@ -1,17 +1,15 @@
 #ifndef CONTROLLER_MODBUSCLIENTPARTNER_H
 #define CONTROLLER_MODBUSCLIENTPARTNER_H
 
-#include "FramedSocket.h"
+#include "CallingPartner.h"
 #include "ModbusFiles.h"
-#include "Partner.h"
 
 #include <QMap>
-#include <QTimer>
 
 class ModbusSlave;
 
 /// A PLC that polls all mapped registers of the robot's Modbus TCP slave, again and again.
-class ModbusClientPartner : public Partner
+class ModbusClientPartner : public CallingPartner
 {
     Q_OBJECT
 
@@ -28,22 +26,20 @@ public:
     std::vector<Row> rows() const;
 
     bool start() override;
-    void stop() override;
-    bool isRunning() const override { return m_timer.isActive(); }
-    QString state() const override;
+
+protected:
+    int robotPort() const override;
+    void attend(bool isNew) override;
 
 private:
     void loadMapping();
-    void poll();
     void askNext();
     void take(const QByteArray& bytes);
 
     const ModbusSlave& m_slave;
-    FramedSocket m_socket;
-    QTimer m_timer;
     std::vector<MappedVariable> m_variables;
     std::vector<std::pair<int, int>> m_requests; ///< address and count
-    std::size_t m_next = 0;
+    std::size_t m_next = 0;                      ///< all of them are answered when it is behind the last
     quint16 m_transaction = 0;
     QMap<int, quint16> m_values; ///< by address
 };

@@ -21,15 +21,20 @@ bool ModbusServerPartner::start()
         note(QStringLiteral("port %1: %2").arg(port()).arg(why));
         return false;
     }
-    note(QStringLiteral("port %1").arg(m_server.port()));
+    note(QStringLiteral("port %1: listens").arg(m_server.port()));
     if (!changeSettings("/application/fidbus/mtcpMaster/mtcp_master.xml", "MtcpMasterCommunication", "Group",
                         {{"SlaveIp", "127.0.0.1"},
                          {"SlavePort", QByteArray::number(m_server.port())},
                          {"SlaveId", QByteArray::number(UnitId)}}))
         note(QStringLiteral("the robot has no settings that could name it"));
     ask("ifidbus.mbc_save_enable");
-    ask("ifidbus.mbc_open");
+    invite();
     return true;
+}
+
+void ModbusServerPartner::invite()
+{
+    ask("ifidbus.mbc_open");
 }
 
 QString ModbusServerPartner::state() const

@@ -17,6 +17,7 @@ public:
 
     bool start() override;
     void stop() override { m_server.close(); }
+    void invite() override;
     bool isRunning() const override { return m_server.isListening(); }
     QString state() const override;
 

@@ -10,6 +10,8 @@ void Partner::note(const QString& text)
 
 void Partner::ask(const char* variable)
 {
+    if (!m_parts.isUp)
+        return; // the write would be lost
     m_parts.variables.changedByPendant(QLatin1String(variable), 0, 1.0);
 }
 

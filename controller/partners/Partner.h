@@ -27,10 +27,13 @@ public:
     int port() const { return m_port; }
     void setPort(int port) { m_port = port; }
 
-    /// Comes up and, where the robot is the one that calls, lets the robot call it: its settings and its
-    /// switch are set as if the operator had. False when it cannot; the log says why.
+    /// Comes up and lets the robot make the link, as if the operator had: where the robot calls, its settings
+    /// name this partner. False when it cannot; the log says why.
     virtual bool start() = 0;
     virtual void stop() = 0;
+    /// Has the robot's end of the link switched on, where it has a switch: at the start, and when the robot
+    /// came up again.
+    virtual void invite() {}
     virtual bool isRunning() const = 0;
     /// What it does, as a line of a list.
     virtual QString state() const = 0;

@@ -37,6 +37,7 @@ bool Partners::startAll()
         m_controller.setLinkUp(QLatin1String(role.name), true);
     auto& slaves = m_controller.behaviour<MasterSlaveStates>();
     for (const auto master : {MasterSlaveStates::EtherNetIp, MasterSlaveStates::Profinet}) {
+        slaves.useDevice(master);
         for (int position = 0; position < MasterSlaveStates::PositionCount; ++position)
             slaves.setSlaveConnected(master, position, true);
     }
@@ -47,6 +48,14 @@ bool Partners::startAll()
     for (Partner* const partner : all())
         started = (partner->isRunning() || partner->start()) && started;
     return started;
+}
+
+void Partners::robotCameUp()
+{
+    for (Partner* const partner : all()) {
+        if (partner->isRunning())
+            partner->invite();
+    }
 }
 
 void Partners::stopAll()

@@ -30,9 +30,11 @@ public:
     /// controllers on one machine. Counts from the next start on.
     void useFreePorts();
     /// Starts all; and the roles of the fieldbus modules, which have no socket, get what stands for their
-    /// partner: the cable, the slaves, the devices of the scan list. False when a partner could not be
-    /// started.
+    /// partner: the cable, the device in "override.cfg", the slaves, the devices of the scan list. False when
+    /// a partner could not be started.
     bool startAll();
+    /// The robot's ends of the links of those that run are off after a restart.
+    void robotCameUp();
     /// Stops all; cables and slaves stay.
     void stopAll();
 

@@ -163,6 +163,17 @@ std::vector<FrameField> fieldsOf(const LoggedFrame& frame)
     return walk.finish();
 }
 
+namespace {
+
+// "0x0064 (100)" as 100.
+QString shortly(const QString& value)
+{
+    const int open = value.indexOf(QLatin1Char('('));
+    return value.startsWith(QLatin1String("0x")) && open >= 0 ? value.mid(open + 1).chopped(1) : value;
+}
+
+} // namespace
+
 QString summaryOf(const LoggedFrame& frame)
 {
     // The head is the same in all frames; what makes the difference follows it.
@@ -176,6 +187,6 @@ QString summaryOf(const LoggedFrame& frame)
     }
     QStringList words;
     for (std::size_t i = first; i < fields.size() && words.size() < Told; ++i)
-        words << fields[i].name + QLatin1Char(' ') + fields[i].value;
+        words << fields[i].name + QLatin1Char(' ') + shortly(fields[i].value);
     return words.join(QStringLiteral(", "));
 }

@@ -17,7 +17,7 @@ struct FrameField
 /// What every byte of the frame is, without a gap. What cannot be told is called "data".
 std::vector<FrameField> fieldsOf(const LoggedFrame& frame);
 
-/// The frame in a few words: "read 40001, 16 registers".
+/// The frame in a few words: "function 3, address 100, count 16".
 QString summaryOf(const LoggedFrame& frame);
 
 #endif

@@ -43,6 +43,7 @@ void FrameServer::takeClients()
         if (clientCount() >= m_most) {
             socket->abort();
             socket->deleteLater();
+            note(QStringLiteral("one client too many is turned away"));
             continue;
         }
         auto* const client = new FramedSocket(m_wire, m_faults ? nullptr : &m_parts.frames, socket, this);
@@ -55,7 +56,10 @@ void FrameServer::takeClients()
             letGo(client);
             emit clientCountChanged();
         };
-        connect(client, &FramedSocket::nonsense, this, gone);
+        connect(client, &FramedSocket::nonsense, this, [this, gone] {
+            note(QStringLiteral("bytes that are no frame, the client is cut off"));
+            gone();
+        });
         connect(client, &FramedSocket::lost, this, gone);
         emit clientCountChanged();
     }
@@ -87,6 +91,14 @@ void FrameServer::serve(FramedSocket* client, const QByteArray& frame)
         QTimer::singleShot(delay, client, [client, answer] { client->send(answer); });
     else
         client->send(answer);
+}
+
+void FrameServer::note(const QString& text)
+{
+    m_parts.traffic.addNote(QStringLiteral("%1 server: port %2: %3")
+                                .arg(QLatin1String(Wire::of(m_wire).name))
+                                .arg(port())
+                                .arg(text));
 }
 
 void FrameServer::letGo(FramedSocket* client)

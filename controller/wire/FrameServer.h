@@ -54,6 +54,7 @@ private:
     void takeClients();
     void serve(FramedSocket* client, const QByteArray& frame);
     void letGo(FramedSocket* client);
+    void note(const QString& text);
 
     ControllerParts& m_parts;
     Wire::Id m_wire;

@@ -172,7 +172,8 @@ int runWith(SimulatedController& controller, Scenario& scenario, const Options& 
     return makeTour({window, controller, &panel, controller.modbusPort(),
                      [&controller](bool on) { controller.setServoOn(on); },
                      [&controller] { return takeFetches(controller.traffic()); },
-                     [&controller](bool on) { return switchPartners(controller.partners(), on); }},
+                     [&controller](bool on) { return switchPartners(controller.partners(), on); },
+                     [&controller](const QString& role, bool on) { controller.setRoleOn(role, on); }},
                     options.tourDirectory);
 }
 } // namespace

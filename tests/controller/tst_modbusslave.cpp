@@ -186,12 +186,27 @@ private slots:
         if (mbpoll.isEmpty())
             QSKIP("mbpoll is not installed");
         QVERIFY(controller.behaviour<ModbusSlave>().setRegister(40101, 4711));
-        QProcess poll;
-        poll.start(mbpoll, {"-m", "tcp", "-a", "1", "-r", "101", "-1", "-p",
-                            QString::number(controller.modbusPort()), "127.0.0.1"});
-        QTRY_COMPARE(poll.state(), QProcess::NotRunning);
-        const QByteArray told = poll.readAllStandardOutput();
-        QVERIFY2(told.contains("4711"), told.constData());
+        const struct
+        {
+            const char* number;
+            const char* written;
+            const char* told;
+        } polls[] = {
+            {"101", "", "4711"}, {"102", "7", "Written 1 references"}, {"1", "7", "Illegal data address"}};
+        for (const auto& row : polls) {
+            QProcess poll;
+            poll.setProcessChannelMode(QProcess::MergedChannels);
+            QStringList arguments = {"-m",       "tcp", "-a",
+                                     "1",        "-r",  row.number,
+                                     "-1",       "-p",  QString::number(controller.modbusPort()),
+                                     "127.0.0.1"};
+            if (*row.written)
+                arguments << row.written;
+            poll.start(mbpoll, arguments);
+            QTRY_COMPARE(poll.state(), QProcess::NotRunning);
+            const QByteArray told = poll.readAll();
+            QVERIFY2(told.contains(row.told), told.constData());
+        }
     }
 
     void modeAndRestartChangeTheRegisters()

@@ -21,7 +21,9 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QtEndian>
 
 namespace {
@@ -93,8 +95,10 @@ private slots:
 
         panel.findChild<QPushButton*>("partnersOff")->click();
         QTRY_VERIFY(cell.value(Fins) + cell.value(Mes) + cell.value(Master) + cell.value(Slave) == 0.0);
+        QVERIFY(cell.controller.setRoleOn("ProfinetMaster", true)); // its device is out of use
         panel.findChild<QPushButton*>("partnersOn")->click();
         QTRY_VERIFY_WITH_TIMEOUT(cell.value(Mes) + cell.value(Slave) == 2.0, 8000);
+        QTRY_COMPARE(cell.controller.readVariable("ifidbus.pnm_status", 1), 1.0);
         for (const BusRole& role : LinkedBusRoles) {
             const bool hasSocket = QByteArray(role.name).startsWith("ModbusTcp");
             QVERIFY2(hasSocket || cell.value(role.linkVariable) ==
@@ -103,6 +107,67 @@ private slots:
         }
         QTRY_COMPARE(cell.controller.readVariable("ifidbus.eim_status", 3), 1.0);
         QTRY_COMPARE(cell.controller.readVariable("ifidbus.dnm_status", 2), 1.0);
+
+        // After a restart the robot's ends are off until the partners have them switched on again.
+        cell.controller.requestRestart();
+        QTRY_VERIFY(!cell.controller.isUp());
+        QTRY_VERIFY_WITH_TIMEOUT(cell.allConnected(), 8000);
+        QTRY_COMPARE(cell.controller.readVariable("ifidbus.pnm_status", 1), 1.0);
+    }
+
+    // Whoever waits for an answer does not take a standstill of the whole program for silence.
+    void standstills()
+    {
+        Cell cell;
+        QVERIFY(cell.partners().fins().start());
+        QVERIFY(cell.partners().modbusServer().start());
+        while (cell.controller.behaviour<FinsClient>().state() == FinsClient::State::Off)
+            QCoreApplication::processEvents();
+        for (int turn = 0; turn < 4; ++turn) {
+            QThread::msleep(1200);
+            QCoreApplication::processEvents();
+        }
+        QTRY_VERIFY(cell.value(Fins) + cell.value(Master) == 2.0);
+        QCOMPARE(cell.log.filter(QRegularExpression("timed out|in time")), QStringList());
+    }
+
+    void abuse()
+    {
+        Cell cell;
+        FinsPartner& fins = cell.partners().fins();
+        auto taken = std::make_unique<QTcpServer>();
+        QVERIFY(taken->listen(QHostAddress::LocalHost));
+        const quint16 port = taken->serverPort();
+        fins.setPort(port);
+        QVERIFY(!fins.start());
+        QVERIFY(cell.log.constLast().contains(QString("port %1: ").arg(port)));
+        taken.reset();
+        // Twice is once: a server goes on, a request that toggles is not made again.
+        for (int press = 0; press < 2; ++press) {
+            QVERIFY(fins.start());
+            QVERIFY(cell.partners().mes().start());
+        }
+        QTRY_VERIFY(cell.value(Fins) + cell.value(Mes) == 2.0);
+
+        // Garbage is cut off, and whoever else is connected stays.
+        QTcpSocket stranger;
+        stranger.connectToHost(QHostAddress::LocalHost, port);
+        QTRY_COMPARE(stranger.state(), QAbstractSocket::ConnectedState);
+        stranger.write(QByteArray(1000000, '\x80'));
+        QTRY_COMPARE(stranger.state(), QAbstractSocket::UnconnectedState);
+        QTRY_VERIFY(!cell.log.filter("no frame").isEmpty());
+        QCOMPARE(cell.value(Fins), 1.0);
+
+        // A server that goes while an answer is on its way.
+        QVERIFY(cell.controller.faults().setFromText("modbus-slow:-1:200"));
+        auto& server = cell.partners().modbusServer();
+        QVERIFY(server.start());
+        QTRY_VERIFY(cell.controller.frames().frames().constLast().wire == Wire::Modbus);
+        server.stop();
+        QTest::qWait(300);
+        QCOMPARE(cell.value(Master), 0.0);
+        QVERIFY(server.start());
+        QTRY_COMPARE(cell.value(Master), 1.0);
     }
 
     // All at once, as the robot's patience is real time.
@@ -111,7 +176,7 @@ private slots:
         const struct
         {
             const char* fault;
-            const char* told; // in the log
+            const char* told; // in the log, behind a port
         } rows[] = {
             {"fins-silent", "timed out"},
             {"fins-slow:-1:4000", "timed out"},
@@ -125,7 +190,7 @@ private slots:
             {"modbus-garbage", "no frame"},
             {"modbus-exception:-1:11", "exception 11"},
             {"modbus-wrong-unit", "no answer in time"},
-            {"port-taken", "port 0: The bound address is already in use"},
+            {"port-taken", "The bound address is already in use"},
         };
         std::vector<std::unique_ptr<Cell>> cells;
         for (const auto& row : rows) {
@@ -137,7 +202,8 @@ private slots:
                      QByteArray(row.fault) != "port-taken");
         }
         for (std::size_t i = 0; i < std::size(rows); ++i) {
-            QTRY_VERIFY2(!cells[i]->log.filter(QLatin1String(rows[i].told)).isEmpty(),
+            const QRegularExpression line(QString("(:|port )\\d+: .*%1").arg(rows[i].told));
+            QTRY_VERIFY2(!cells[i]->log.filter(line).isEmpty(),
                          qPrintable(rows[i].fault + (": " + cells[i]->log.join('\n'))));
             QVERIFY2(cells[i]->value(Fins) + cells[i]->value(Master) == 0.0, rows[i].fault);
         }
@@ -150,48 +216,64 @@ private slots:
             QVERIFY(cell.partners().modbusServer().start());
             QTRY_VERIFY2(cell.value(Master) == 1.0, fault);
         }
-        QVERIFY(!Faults().setFromText("modbus-slow:-1:late"));
+        for (const char* fault : {"modbus-slow:-1:late", "modbus-exception:-1:256", "poll-wrong-unit:-1:-1"})
+            QVERIFY2(!Faults().setFromText(fault), fault);
     }
 
-    void mesFaults()
+    // Of the partners that call.
+    void callFaults()
     {
         struct Row
         {
             const char* fault;
             bool comes;
             bool goes;
-            bool sends;
+            const char* frames; // "<" the robot receives some, ">" it sends some
         };
-        const Row rows[] = {{"mes-silent", false, false, false},
-                            {"mes-slow:-1:60000", false, false, false},
-                            {"mes-slow:1:300", true, false, false},
-                            {"mes-drops:-1:100", true, true, false},
-                            {"mes-garbage", true, false, true}};
+        const Row rows[] = {{"mes-silent", false, false, ""},       {"mes-slow:-1:60000", false, false, ""},
+                            {"mes-slow:1:300", true, false, ""},    {"mes-drops:-1:100", true, true, ""},
+                            {"mes-garbage", true, false, "<"},      {"poll-silent", false, false, ""},
+                            {"poll-slow:1:300", true, false, "<>"}, {"poll-drops:-1:100", true, true, "<>"},
+                            {"poll-garbage:2", true, true, "<>"},   {"poll-wrong-unit", true, false, "<"}};
         std::vector<int> changes(std::size(rows));
         std::vector<std::unique_ptr<Cell>> cells;
+        const auto isMes = [&rows](std::size_t i) { return QByteArray(rows[i].fault).startsWith("mes"); };
+        const auto partner = [&](std::size_t i) {
+            return cells[i]->partners().find(isMes(i) ? "mes" : "modbus-client");
+        };
         for (std::size_t i = 0; i < std::size(rows); ++i) {
             cells.push_back(std::make_unique<Cell>());
             QVERIFY2(cells[i]->controller.faults().setFromText(rows[i].fault), rows[i].fault);
+            const QString light = isMes(i) ? Mes : Slave;
             connect(&cells[i]->controller.variables(), &VariableStore::changed, this,
-                    [&changes, i](const QString& name, int /*element*/, double /*value*/) {
-                        changes[i] += name == Mes ? 1 : 0;
+                    [&changes, i, light](const QString& name, int /*element*/, double /*value*/) {
+                        changes[i] += name == light ? 1 : 0;
                     });
-            QVERIFY(cells[i]->partners().mes().start());
+            QVERIFY(partner(i)->start());
         }
+        const auto framesOf = [&cells](std::size_t i) {
+            bool received = false;
+            bool sent = false;
+            for (const LoggedFrame& frame : cells[i]->controller.frames().frames())
+                (frame.received ? received : sent) = true;
+            return QString(received ? "<" : "") + (sent ? ">" : "");
+        };
         for (std::size_t i = 0; i < std::size(rows); ++i) {
-            Cell& cell = *cells[i];
-            QTRY_VERIFY2(cell.value("imes.tcp_server_active") == 1.0, rows[i].fault);
+            QTRY_VERIFY2(!isMes(i) || cells[i]->value("imes.tcp_server_active") == 1.0, rows[i].fault);
             // A drop is seen when the connection comes back after it.
             QTRY_VERIFY2(changes[i] >= (rows[i].goes ? 3 : rows[i].comes ? 1 : 0), rows[i].fault);
-            QTRY_VERIFY2(cell.controller.frames().frames().isEmpty() != rows[i].sends, rows[i].fault);
+            QTRY_VERIFY2(framesOf(i) == rows[i].frames, rows[i].fault);
+            const QRegularExpression loss("^partner .*port \\d+: (hung up|.*closed)");
+            QVERIFY2(cells[i]->log.filter(loss).isEmpty() != rows[i].goes, rows[i].fault);
         }
-        QTest::qWait(600); // two looks of the client
+        QTest::qWait(1100); // two looks of a partner
         for (std::size_t i = 0; i < std::size(rows); ++i) {
             QVERIFY2(rows[i].goes || changes[i] == (rows[i].comes ? 1 : 0), rows[i].fault);
-            cells[i]->partners().mes().stop();
+            QVERIFY2(rows[i].goes || framesOf(i) == rows[i].frames, rows[i].fault);
+            partner(i)->stop();
             cells[i]->controller.faults().clearAll();
-            QVERIFY(cells[i]->partners().mes().start());
-            QTRY_VERIFY2(cells[i]->value(Mes) == 1.0, rows[i].fault);
+            QVERIFY(partner(i)->start());
+            QTRY_VERIFY2(cells[i]->value(isMes(i) ? Mes : Slave) == 1.0, rows[i].fault);
         }
     }
 
@@ -369,10 +451,11 @@ private slots:
     void capture()
     {
         Cell cell;
-        QVERIFY(cell.partners().modbusServer().start());
-        cell.partners().modbusClient().start();
-        QTRY_VERIFY(cell.value(Master) == 1.0 && cell.value(Slave) == 1.0 &&
-                    cell.controller.frames().frames().size() > 4);
+        QVERIFY(cell.partners().startAll());
+        QTRY_VERIFY_WITH_TIMEOUT(cell.allConnected() &&
+                                     cell.controller.behaviour<FinsClient>().wordsRead() > 0 &&
+                                     cell.controller.frames().frames().size() > 4,
+                                 8000);
         cell.partners().stopAll();
         ControllerPanel panel(cell.controller);
         auto* const tab = panel.findChild<FrameTab*>();
@@ -387,7 +470,7 @@ private slots:
         const QByteArray bytes = file.readAll();
         QCOMPARE(bytes.left(4).toHex(), QByteArray("d4c3b2a1"));
         int at = 24;
-        int frames = 0;
+        int frames[Wire::Count] = {};
         for (const LoggedFrame& frame : cell.controller.frames().frames()) {
             const int size = qFromUnaligned<qint32>(bytes.constData() + at + 8);
             const QByteArray packet = bytes.mid(at + 16, size);
@@ -399,7 +482,7 @@ private slots:
             QCOMPARE((sum & 0xffff) + (sum >> 16), 0xffffU);
             QCOMPARE(packet.mid(40), frame.bytes);
             at += 16 + size;
-            ++frames;
+            ++frames[frame.wire];
         }
         QCOMPARE(at, bytes.size());
 
@@ -410,12 +493,14 @@ private slots:
         QStringList arguments = {"-r", path, "-o", "ip.check_checksum:TRUE", "-o", "tcp.check_checksum:TRUE"};
         for (const LoggedFrame& frame : cell.controller.frames().frames())
             arguments << "-d"
-                      << QString("tcp.port==%1,mbtcp")
-                             .arg(frame.isServer ? frame.controllerPort : frame.partnerPort);
+                      << QString("tcp.port==%1,%2")
+                             .arg(frame.isServer ? frame.controllerPort : frame.partnerPort)
+                             .arg(frame.wire == Wire::Fins ? "omron" : "mbtcp");
         reader.start(tshark, arguments);
         QTRY_COMPARE_WITH_TIMEOUT(reader.state(), QProcess::NotRunning, 60000);
         const QByteArray told = reader.readAllStandardOutput();
-        QVERIFY2(told.count("Modbus/TCP") == frames && !told.contains("Malformed") &&
+        QVERIFY2(told.count("Modbus/TCP") == frames[Wire::Modbus] &&
+                     told.count(" OMRON ") == frames[Wire::Fins] && !told.contains("Malformed") &&
                      !told.contains("incorrect"),
                  told + reader.readAllStandardError());
     }
@@ -433,6 +518,8 @@ private slots:
             {"now cable EtherCatSlave out", "line 1: a line is"},
             {"-1 restart", "line 1: a line is"},
             {"nan restart", "line 1: a line is"},
+            {"\xff\xfe\x01 restart", "line 1: a line is"},
+            {"1 fault modbus-slow:1:soon", "line 1: there is no fault"},
             {"0 restart\n1", "line 2: a line is"},
             {"0 jump", "line 1: there is no action \"jump\""},
             {"0 cable Mes out", "line 1: there is no role"},
@@ -459,8 +546,9 @@ private slots:
             QStringList{"ifins_tcp.error=1", "ifins_tcp.connected=1", "ifins_tcp.error=1"});
         row("lost-slave-module.txt", QStringList{"ifidbus.ethcat_link_state=0", "ifidbus.ethcat_link_state=1",
                                                  "ifidbus.ethcat_link_state=0"});
-        row("busy-morning.txt", QStringList{"ifidbus.mtcp_link_state=1", "imes.tcp_server_connected=0",
-                                            "level=2", "level=4", "imes.tcp_server_connected=1"});
+        row("busy-morning.txt",
+            QStringList{"ifidbus.mtcp_link_state=1", "imes.tcp_server_connected=0", "level=2", "level=4",
+                        "ifins_tcp.connected=1", "imes.tcp_server_connected=1"});
     }
 
     void scenarios()

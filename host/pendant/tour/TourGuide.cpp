@@ -17,8 +17,10 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QLabel>
 #include <QPainter>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QTextStream>
 
@@ -57,6 +59,29 @@ QPixmap picturePendant(QWidget& window, const QWidget* panel)
 QString joined(const QStringList& texts)
 {
     return texts.isEmpty() ? QStringLiteral("-") : texts.join(QStringLiteral(" | "));
+}
+
+// How many of the lights in sight are green; -1 when one is red or amber. What is seen counts: a page shows a
+// light by its own style sheet or by that of the label.
+int greenLights(const QWidget& window)
+{
+    static const QRegularExpression lightName(QStringLiteral(
+        "ConnectStatLb|CouplingStatLb|^connectStatLb|^couplingStatLb|^led_|^label_conStatus$"));
+    constexpr int Tint = 16; // of the mean colour; a grey ring has none
+    int green = 0;
+    const auto labels = window.findChildren<QLabel*>(lightName);
+    for (QLabel* label : labels) {
+        if (!label->isVisible())
+            continue;
+        const QColor mean(label->grab()
+                              .toImage()
+                              .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                              .pixel(0, 0));
+        if (mean.red() > mean.green() + Tint)
+            return -1;
+        green += mean.green() > mean.red() + Tint ? 1 : 0;
+    }
+    return green;
 }
 
 bool waitUntil(int limitMs, const std::function<bool()>& condition)
@@ -182,6 +207,18 @@ bool TourGuide::choose(const QString& combo, int index)
 bool TourGuide::waitForVariable(const QString& name, double value) const
 {
     return waitUntil(LoadingLimitMs, [&] { return m_subject.controller.readVariable(name) == value; });
+}
+
+bool TourGuide::waitForLights(int green) const
+{
+    int seen = 0;
+    const bool reached = waitUntil(LoadingLimitMs, [this, green, &seen] {
+        seen = greenLights(m_subject.window);
+        return seen == green;
+    });
+    return reached ||
+           fail(seen < 0 ? tr("%1: a light is red").arg(pageClass())
+                         : tr("%1: %2 lights are green, not %3").arg(pageClass()).arg(seen).arg(green));
 }
 
 void TourGuide::wait(int msec)

@@ -39,6 +39,8 @@ public:
         /// Switches the machines at the other ends of the controller's links on or off; false when one did
         /// not come up.
         std::function<bool(bool on)> switchPartners;
+        /// Switches a role of the controller at once, which the pendant cannot.
+        std::function<void(const QString& role, bool on)> switchRole;
     };
 
     TourGuide(Subject subject, const QString& directory);
@@ -83,6 +85,9 @@ public:
     /// fetched for a while.
     bool settle();
     bool waitForVariable(const QString& name, double value) const;
+    /// Waits until so many of the lights in sight are green, and none is red or amber; false, and told, when
+    /// it does not come to that.
+    bool waitForLights(int green) const;
     /// Lets `msec` pass, with events.
     static void wait(int msec);
 
