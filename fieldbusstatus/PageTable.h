@@ -16,7 +16,7 @@ struct Entry
     StatusPage* (*create)(const StatusContext& context);
 };
 
-constexpr std::size_t Count = 2;
+constexpr std::size_t Count = 5;
 const std::array<Entry, Count>& entries();
 
 } // namespace PageTable

@@ -1,10 +1,12 @@
 #include "StatusData.h"
 
+#include "FileChanges.h"
 #include "StatusMain.h"
 #include "WorkFolder.h"
 
 StatusData::StatusData()
     : m_watch(WorkFolder::path())
+    , m_history(m_watch, WorkFolder::path(), FileChanges::store())
 {
 }
 
@@ -16,7 +18,7 @@ StatusData::~StatusData()
 QWidget* StatusData::getCentralWidget()
 {
     if (!m_main)
-        m_main = new StatusMain({m_watch});
+        m_main = new StatusMain({m_watch, m_history});
     return m_main;
 }
 
@@ -33,4 +35,5 @@ StatusMain* StatusData::mainPage() const
 void StatusData::slotIdle()
 {
     m_watch.tick();
+    m_history.tick();
 }

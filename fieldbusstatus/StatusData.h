@@ -3,6 +3,7 @@
 
 #include "BaseZelCustomData.h"
 #include "ControllerWatch.h"
+#include "HistoryRecorder.h"
 
 #include <QPointer>
 
@@ -31,6 +32,7 @@ public slots:
 
 private:
     ControllerWatch m_watch;
+    HistoryRecorder m_history;
     QPointer<StatusMain> m_main;
 };
 

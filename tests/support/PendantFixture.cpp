@@ -57,7 +57,8 @@ void PendantFixture::start(double timeScale)
     setCurrentLink(m_controller.get());
     BusFileService::instance().resetSession();
     InstalledApplications installed;
-    installed.addFile(QStringLiteral(APPLICATIONS "fieldbussetting.json"));
+    for (const QString& description : descriptions)
+        installed.addFile(QStringLiteral(APPLICATIONS) + description);
     m_window = std::make_unique<PendantWindow>(installed);
     m_window->show();
 }

@@ -109,6 +109,8 @@ protected:
     enum Made { Later };
     explicit PendantFixture(Made /*later*/) {}
     void start(double timeScale = NormalTimeScale);
+    /// Of the applications on the pendant, the settings first; to be changed before the start.
+    QStringList descriptions{QStringLiteral("fieldbussetting.json")};
     void stop();
 
 private:

@@ -39,6 +39,10 @@ bool Stations::status(TourGuide& guide)
                    guide.report(QStringLiteral("status-overview"));
     reached = reached && guide.press(QStringLiteral("findingsBtn")) && guide.settle() &&
               guide.report(QStringLiteral("status-findings")) && guide.press(QStringLiteral("overviewBtn"));
+    for (const char* page : {"history", "changes", "support"})
+        reached = reached && guide.press(QLatin1String(page) + QStringLiteral("Btn")) && guide.settle() &&
+                  guide.report(QStringLiteral("status-") + QLatin1String(page));
+    reached = reached && guide.press(QStringLiteral("overviewBtn"));
     const struct
     {
         const char* role;
