@@ -35,6 +35,8 @@ void StatusWidget::slotIdle()
     if (!isVisible())
         return;
     const QPointer<StatusWidget> self(this);
+    // A host that does not know residents ticks the widget alone.
+    m_statusData.slotIdle();
     if (StatusMain* page = m_statusData.mainPage())
         page->idle();
     SysSettingApi::getInstance()->sysSettingLibIdle();

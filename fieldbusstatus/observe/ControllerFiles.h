@@ -9,8 +9,8 @@
 #include <array>
 #include <optional>
 
-/// This application's own copies of the controller's files. A step fetches one file at most, so that the
-/// screen never waits for more than one transfer.
+/// This application's own copies of the controller's files. A step fetches one file, so that who steps
+/// decides how long the screen waits.
 ///
 /// A transfer may break a file: one that is not what its name says is fetched again, and believed when it
 /// comes the same way twice.

@@ -2,12 +2,16 @@
 
 #include "BusFileDataManager.h"
 #include "ConfigurationFindings.h"
+#include "RestartFiles.h"
 
 #include <algorithm>
 
 namespace {
 
 constexpr double MsPerSecond = 1000.0;
+
+// As long as this one tick may fetch files: what it takes longer than that, an operator feels.
+constexpr qint64 MostFetchMs = 20;
 
 // The clock of a controller that is there moves many times in this time. Ticks are counted as well: a pendant
 // that was busy has not heard of it either.
@@ -71,6 +75,7 @@ qint64 sooner(qint64 one, qint64 other)
 ControllerWatch::ControllerWatch(const QString& folder, QObject* parent)
     : QObject(parent)
     , m_files(folder)
+    , m_cameUp(folder)
     , m_standing(announcements().size())
 {
     m_time.start();
@@ -119,11 +124,15 @@ void ControllerWatch::heard()
     m_clockMoved = m_time.elapsed();
     if (m_contact == Contact::There)
         return;
+    const bool isFirst = m_contact == Contact::Waiting;
     m_contact = Contact::There;
     for (qint64& since : m_downSince)
         since = since < 0 ? since : m_time.elapsed();
-    // What it has come up with is what its files say now.
-    m_isCameUpPending = true;
+    // What it has come up with is what its files say now, unless it was up before this pendant.
+    const CameUp::Files kept = isFirst ? m_cameUp.kept(m_clock) : CameUp::Files();
+    m_isCameUpPending = kept.isEmpty();
+    if (!kept.isEmpty())
+        cameUpWith(kept);
     refresh();
     emit contactChanged(m_contact);
 }
@@ -157,11 +166,16 @@ void ControllerWatch::follow(const ObservedVariables::Change& change)
 
 void ControllerWatch::fetchNext()
 {
-    const int before = m_files.wanted();
-    if (before == 0)
+    if (m_files.wanted() == 0)
         return;
-    const auto step = m_files.step();
-    if (step && step->isChanged) {
+    QElapsedTimer spent;
+    spent.start();
+    // What did not come, or not whole, is tried again at a later tick.
+    for (bool isOn = true; isOn && m_files.wanted() > 0;) {
+        const auto step = m_files.step();
+        isOn = step && spent.elapsed() < MostFetchMs;
+        if (!step || !step->isChanged)
+            continue;
         m_areFilesChanged = true;
         emit fileChanged(step->file, step->before.value_or(QByteArray()),
                          m_files.bytes(step->file).value_or(QByteArray()));
@@ -179,6 +193,35 @@ void ControllerWatch::readFiles()
     m_configuration = Configuration::from([this](const KnownFile& file) { return m_files.bytes(file.id); });
 }
 
+CameUp::Files ControllerWatch::restartFiles() const
+{
+    CameUp::Files files;
+    const auto add = [this, &files](FileId file) {
+        if (m_files.bytes(file))
+            files[static_cast<int>(file)] = *m_files.bytes(file);
+    };
+    add(FileId::RoleList);
+    for (const FileId file : RestartFiles)
+        add(file);
+    return files;
+}
+
+void ControllerWatch::cameUpWith(const CameUp::Files& files)
+{
+    m_running.cameUp = files;
+    m_running.running.reset();
+    std::vector<ListedRole> listed;
+    const auto list = files.constFind(static_cast<int>(FileId::RoleList));
+    if (list != files.cend() && RoleListFile::read(*list, listed)) {
+        m_running.running.emplace();
+        for (const ListedRole& role : listed) {
+            if (const RoleInfo* known = RoleTable::named(role.name))
+                (*m_running.running)[static_cast<std::size_t>(known->id)] = role.on;
+        }
+    }
+    m_cameUp.keep(files, m_clock);
+}
+
 void ControllerWatch::evaluate()
 {
     m_isDirty = false;
@@ -188,8 +231,7 @@ void ControllerWatch::evaluate()
         readFiles();
     if (m_files.wanted() == 0 && m_isRead && m_isCameUpPending && m_contact == Contact::There) {
         m_isCameUpPending = false;
-        if (m_configuration.isRead(FileId::RoleList))
-            m_running.running = m_configuration.on;
+        cameUpWith(restartFiles());
     }
     gatherVariables();
     gatherDownTimes();

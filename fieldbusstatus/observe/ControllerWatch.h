@@ -1,6 +1,7 @@
 #ifndef CONTROLLERWATCH_H
 #define CONTROLLERWATCH_H
 
+#include "CameUp.h"
 #include "Configuration.h"
 #include "ControllerFiles.h"
 #include "Finding.h"
@@ -67,6 +68,8 @@ private:
     void follow(const ObservedVariables::Change& change);
     void fetchNext();
     void readFiles();
+    void cameUpWith(const CameUp::Files& files);
+    CameUp::Files restartFiles() const;
     void evaluate();
     /// The values that the findings go by: without what the controller still has time to take.
     void gatherVariables();
@@ -80,6 +83,7 @@ private:
 
     ObservedVariables m_variables;
     ControllerFiles m_files;
+    CameUp m_cameUp;
     QElapsedTimer m_time; ///< of this object: what else is counted in ms is its reading
 
     Contact m_contact = Contact::Waiting;

@@ -50,7 +50,7 @@ int watchesOn(const HeartbeatConfig& heartbeat)
 
 bool isRestartFinding(const Finding& finding)
 {
-    return finding.code == FindingCode::RestartPending;
+    return finding.code == FindingCode::RestartPending || finding.code == FindingCode::SettingsPending;
 }
 
 Health healthOf(const State& state, FindingSeverity worst, const Facts& facts)

@@ -10,7 +10,7 @@ OverviewPage::OverviewPage(const StatusContext& pageContext)
     : StatusPage("OverviewPage", pageContext)
     , m_pending(new QLabel(this))
     , m_table(new RowTable("overviewTable", tr("State of the roles"),
-                           {tr("State"), tr("Role"), tr("Switched on"), tr("Runs now"), tr("Link"),
+                           {tr("State"), tr("Role"), tr("Switched\non"), tr("Runs\nnow"), tr("Link"),
                             tr("Since"), tr("Findings")},
                            1, this))
 {
@@ -18,7 +18,7 @@ OverviewPage::OverviewPage(const StatusContext& pageContext)
     m_pending->setObjectName(QStringLiteral("label_pending"));
     m_pending->setWordWrap(true);
     m_pending->hide();
-    m_table->setWidths({250, 0, 124, 104, 84, 118, 104});
+    m_table->setWidths({236, 0, 100, 84, 84, 110, 106});
     connect(m_table, &RowTable::targetPressed, this, &StatusPage::subjectWanted);
     contents()->addWidget(m_pending);
     contents()->addWidget(m_table, 1);

@@ -30,7 +30,8 @@ RowTable::RowTable(const char* name, const QString& title, const QStringList& he
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionResizeMode(wide, QHeaderView::Stretch);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter |
+                                            Qt::Alignment(Qt::TextWordWrap));
     connect(this, &QTableWidget::cellClicked, this, [this](int row, int /*column*/) {
         const int target = m_rows[static_cast<std::size_t>(row)].target;
         if (target != Row::NoTarget)

@@ -1,5 +1,7 @@
 #include "StateText.h"
 
+#include "DeviceNetCodes.h"
+
 #include <QCoreApplication>
 
 namespace StateText {
@@ -69,6 +71,12 @@ QString timeOf(const QDateTime& time)
         return {};
     const bool isToday = time.date() == QDate::currentDate();
     return time.toString(isToday ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd HH:mm"));
+}
+
+QString deviceNetCode(int code)
+{
+    const MarkedText text = DeviceNetCodes::textOf(code);
+    return text.filled(QCoreApplication::translate("DeviceNetCodes", text.text));
 }
 
 QString cause(const Finding& finding)

@@ -18,6 +18,9 @@ QString yesNo(std::optional<bool> is);
 /// The time of today, the day and the time of another day; empty when it is not known.
 QString timeOf(const QDateTime& time);
 
+/// A code of "ifidbus.dnm_errorcode" in words.
+QString deviceNetCode(int code);
+
 /// The texts of a finding.
 QString cause(const Finding& finding);
 QString nextStep(const Finding& finding);

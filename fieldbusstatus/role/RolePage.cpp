@@ -1,7 +1,7 @@
 #include "RolePage.h"
 
 #include "ControllerWatch.h"
-#include "StateText.h"
+#include "RoleSections.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -35,10 +35,10 @@ void RolePage::setSubject(Subjects::Id subject)
 void RolePage::showState()
 {
     RowTable::Rows rows;
-    for (const Finding& finding : watch().findings()) {
-        if (Subjects::isAbout(finding, m_subject))
-            rows.push_back(
-                {{finding.codeText(), StateText::cause(finding)}, StateText::signOf(finding.severity)});
+    for (const auto section : {RoleSections::state, RoleSections::findings, RoleSections::files,
+                               RoleSections::devices, RoleSections::positions, RoleSections::settings}) {
+        const RowTable::Rows part = section(watch(), m_subject);
+        rows.insert(rows.end(), part.begin(), part.end());
     }
     m_table->show(rows);
 }

@@ -292,8 +292,11 @@ private slots:
             {{F::EipSlave, "IPADDR 192.168.2.22", "IPADDR 192.168.2.23"}}, {{"ifidbus.eip_link_state", 0}},
             "FB301e");
         row("the link of a role that is off", {}, {{"ifidbus.ecm_link_state", 0}}, "");
-        row("no module", {}, {{"ifidbus.anybus_fm", 0}}, "FB902e FB902e");
-        row("another module", {}, {{"ifidbus.anybus_fm", 14}}, "FB903e");
+        row("no module", {},
+            {{"ifidbus.anybus_fm", 0}, {"ifidbus.ethcat_link_state", 0}, {"ifidbus.pfn_link_state", 0}},
+            "FB902e FB902e");
+        row("another module", {}, {{"ifidbus.anybus_fm", 14}, {"ifidbus.ethcat_link_state", 0}}, "FB903e");
+        row("another module, and a link all the same", {}, {{"ifidbus.anybus_fm", 14}}, "");
         row("FINS is refused", {},
             {{"ifins_tcp.enable", 1}, {"ifins_tcp.error", 1}, {"ifins_tcp.connected", 0}}, "FB904i");
         row("nobody at the MES server", {}, {{"imes.tcp_server_connected", 0}}, "FB905w");
@@ -313,6 +316,9 @@ private slots:
         row("the mapping was taken", {}, {{"ifidbus.xml_update_state", 0xC000}}, "");
         row("a file was not taken", {}, {{"ifidbus.dnm_save_config", 1}}, "FB912w");
         row("a command was not taken", {}, {{"ifidbus.pfn2open", 1}}, "FB914w");
+        row("the bus switches were not answered", {}, {{"ifidbus.bus_type_state", 1}}, "FB912w");
+        row("the bus switches were refused", {}, {{"ifidbus.bus_type_state", 0x4000}}, "FB918e");
+        row("the bus switches were taken", {}, {{"ifidbus.bus_type_state", 0x8000}}, "");
     }
 
     void running()
@@ -332,6 +338,22 @@ private slots:
         (*state.running)[std::size_t(RoleId::EtherNetIPSlave)] = false;
         state.variables["ifidbus.eip_link_state"] = 0;
         QCOMPARE(newOf(findingsOf(configuration, &state)).join(' '), QString("FB911i"));
+    }
+
+    // One finding a group that differs, and none for what only reads otherwise.
+    void settingsRunAfterTheRestart()
+    {
+        const Configuration configuration = PlantFiles().configuration();
+        const auto cameUpWith = [&](FileId file, const char* before, const char* after) {
+            RunningState state = healthy(configuration);
+            const QByteArray& bytes = configuration.bytes(file);
+            state.cameUp[int(file)] = QByteArray(bytes).replace(before, after);
+            return newOf(findingsOf(configuration, &state)).join(' ');
+        };
+        QCOMPARE(cameUpWith(F::EipSlave, "192.168.2.22", "192.168.2.30"), QString("FB917i"));
+        QCOMPARE(cameUpWith(F::EipSlave, "192.168.2.22", "192.168.2.22"), QString());
+        QCOMPARE(cameUpWith(F::EipMaster, "<EipMaster", "<!-- old --><EipMaster"), QString());
+        QCOMPARE(cameUpWith(F::Heartbeat, "1.000", "3.000"), QString()); // taken at once
     }
 
     void theWatchIsAboutToTrip()

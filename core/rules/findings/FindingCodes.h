@@ -109,7 +109,9 @@ enum class FindingCode {
     MappingRejected = 913,
     CommandNotTaken = 914,
     WatchAboutToTrip = 915,
-    WatchTripped = 916
+    WatchTripped = 916,
+    SettingsPending = 917,
+    BusTypeRefused = 918
 };
 
 /// "FB101".

@@ -238,5 +238,13 @@ const std::vector<FindingKind> FindingKinds::OfBusesAndLinks = {
      QT_TRANSLATE_NOOP("Findings", "The link of the %1 has been down for %2 s, and the watch has reported the loss after %3 s."),
      QT_TRANSLATE_NOOP("Findings", "the link and the watch's time-out"),
      QT_TRANSLATE_NOOP("Findings", "Bring the link back; then acknowledge the alarm.")},
+    {Code::SettingsPending, Information, WhenOff,
+     QT_TRANSLATE_NOOP("Findings", "The settings of the %1 were saved, but run after the next restart only."),
+     QT_TRANSLATE_NOOP("Findings", "what was changed, as saved and as it came up"),
+     QT_TRANSLATE_NOOP("Findings", "Restart the robot when production allows it.")},
+    {Code::BusTypeRefused, Error, WhenOff,
+     QT_TRANSLATE_NOOP("Findings", "The controller has refused the bus switches that were saved."),
+     QT_TRANSLATE_NOOP("Findings", "the controller's answer"),
+     QT_TRANSLATE_NOOP("Findings", "Check on the bus switch page which roles are on, and save once more.")},
 };
 // clang-format on

@@ -1,5 +1,9 @@
 #include "Rules.h"
 
+#include "DeviceNetCodes.h"
+#include "RestartFiles.h"
+#include "SettingChanges.h"
+
 #include <algorithm>
 
 namespace Rules {
@@ -14,16 +18,17 @@ struct Module
 };
 constexpr Module Modules[] = {{RoleId::EtherCatSlave, 13}, {RoleId::ProfinetSlave, 14}};
 
-// Codes of "ifidbus.dnm_errorcode".
-constexpr int NoLink = 1;
-constexpr int NotOnNetwork = 2;
-constexpr int MacIdTaken = 12;
-
 // Bits of "ifidbus.xml_update_state".
 constexpr int UpdateRejected = 0x800;
 constexpr int UpdateTaken = 0x4000;
 constexpr int UpdateAnnounced = 0x8000;
+constexpr int UpdateOfSlave = 0x1000; // the DeviceNet slave file is meant
 constexpr const char* UpdateState = "ifidbus.xml_update_state";
+
+// "ifidbus.bus_type_state": the pendant asks, the controller answers.
+constexpr const char* BusTypeState = "ifidbus.bus_type_state";
+constexpr int BusTypeAsked = 1;
+constexpr int BusTypeRefused = 0x4000;
 
 // What the pendant sets and the controller clears when it has taken a file or a command.
 struct Announcement
@@ -38,6 +43,8 @@ const Announcement Announcements[] = {
     {"ifidbus.dnm_save_config", RoleId::DeviceNetMaster, FindingCode::AnnouncementNotTaken},
     {"ifins_tcp.bupdate_cfg", RoleId::FinsTcp, FindingCode::AnnouncementNotTaken},
     {"imes.update_tcp_server_cfg", RoleId::Mes, FindingCode::AnnouncementNotTaken},
+    {"ifidbus.ecat2open", RoleId::EtherCatSlave, FindingCode::CommandNotTaken},
+    {"ifidbus.ecat2close", RoleId::EtherCatSlave, FindingCode::CommandNotTaken},
     {"ifidbus.eip2open", RoleId::EtherNetIPSlave, FindingCode::CommandNotTaken},
     {"ifidbus.eip2close", RoleId::EtherNetIPSlave, FindingCode::CommandNotTaken},
     {"ifidbus.pfn2open", RoleId::ProfinetSlave, FindingCode::CommandNotTaken},
@@ -72,6 +79,7 @@ public:
         mes();
         fins();
         restarts();
+        pendingSettings();
         announcements();
         for (const RoleInfo& role : RoleTable::Roles) {
             if (role.heartbeatKey) {
@@ -102,7 +110,8 @@ private:
         if (!code)
             return;
         for (const Module& module : Modules) {
-            if (!runs(module.role) || *code == module.code)
+            // A link that is up needs nothing.
+            if (!runs(module.role) || *code == module.code || isTrue(RoleTable::of(module.role).linkVariable))
                 continue;
             // The PROFINET slave may be the controller's own, beside any module.
             if (module.role == RoleId::ProfinetSlave && *code != 0)
@@ -121,12 +130,12 @@ private:
         for (int i = 0; i < m_configuration.deviceNetMaster.count; ++i) {
             const auto status = m_state.value("ifidbus.dnm_status", i);
             const auto code = m_state.value("ifidbus.dnm_errorcode", i);
-            if (status.value_or(1) != 0 || code.value_or(NoLink) == NoLink)
+            if (status.value_or(1) != 0 || code.value_or(DeviceNetCodes::NoLink) == DeviceNetCodes::NoLink)
                 continue; // without a link all devices are down: the link is told
             const int macId = m_configuration.deviceNetMaster.devices[static_cast<std::size_t>(i)].MAC_ID;
-            const FindingCode kind = *code == NotOnNetwork ? FindingCode::DeviceNotOnNetwork
-                                     : *code == MacIdTaken ? FindingCode::RunningMacIdTwice
-                                                           : FindingCode::DeviceFault;
+            const FindingCode kind = *code == DeviceNetCodes::NotOnNetwork ? FindingCode::DeviceNotOnNetwork
+                                     : *code == DeviceNetCodes::MacIdTaken ? FindingCode::RunningMacIdTwice
+                                                                           : FindingCode::DeviceFault;
             m_found.add(kind,
                         {RoleId::DeviceNetMaster,
                          FileId::DeviceNetMaster,
@@ -202,8 +211,56 @@ private:
         }
     }
 
+    // What a file says counts from the next restart on: what it said at the last one is told beside it.
+    void pendingSettings()
+    {
+        for (const FileId file : RestartFiles) {
+            const auto before = m_state.cameUp.constFind(static_cast<int>(file));
+            if (before == m_state.cameUp.cend() || !m_configuration.isRead(file) ||
+                *before == m_configuration.bytes(file))
+                continue;
+            const auto changes = Settings::changes(QLatin1String(KnownFiles::of(file).name), *before,
+                                                   m_configuration.bytes(file));
+            for (auto first = changes.begin(); first != changes.end();) {
+                const auto end = std::find_if(first, changes.end(), [first](const Settings::Change& change) {
+                    return change.role != first->role || change.title != first->title;
+                });
+                addPending(file, {first, end});
+                first = end;
+            }
+        }
+    }
+
+    // Changes of one group.
+    void addPending(FileId file, const std::vector<Settings::Change>& changes)
+    {
+        constexpr std::size_t MostFacts = 4;
+        const RoleInfo* role = changes.front().role;
+        std::vector<Evidence> facts;
+        for (std::size_t i = 0; i < std::min(changes.size(), MostFacts); ++i) {
+            const QString name = changes[i].field.isEmpty() ? changes[i].title : changes[i].field;
+            facts.push_back(FindingList::fact(name, file, changes[i].after));
+            facts.push_back({name, QStringLiteral("last restart"), changes[i].before});
+        }
+        m_found.add(FindingCode::SettingsPending,
+                    {role ? std::optional<RoleId>(role->id) : std::nullopt, file}, {changes.front().title},
+                    std::move(facts));
+    }
+
+    void busType()
+    {
+        const QString name = QLatin1String(BusTypeState);
+        const int state = m_state.value(name).value_or(0);
+        if (state == BusTypeAsked)
+            m_found.add(FindingCode::AnnouncementNotTaken, {{}, FileId::RoleList}, {},
+                        {variableFact(name, state)});
+        else if ((state & BusTypeRefused) != 0)
+            m_found.add(FindingCode::BusTypeRefused, {{}, FileId::RoleList}, {}, {variableFact(name, state)});
+    }
+
     void announcements()
     {
+        busType();
         for (const Announcement& announcement : Announcements) {
             if (!isTrue(announcement.variable))
                 continue;
@@ -217,8 +274,15 @@ private:
             m_found.add(FindingCode::MappingRejected, {{}, FileId::Mapping}, {},
                         {variableFact(name, update)});
         else if ((update & UpdateAnnounced) != 0 && (update & UpdateTaken) == 0)
-            m_found.add(FindingCode::AnnouncementNotTaken, {{}, FileId::Mapping}, {},
+            m_found.add(FindingCode::AnnouncementNotTaken, announcedBy(update), {},
                         {variableFact(name, update)});
+    }
+
+    static FindingList::About announcedBy(int update)
+    {
+        if ((update & UpdateOfSlave) != 0)
+            return {RoleId::DeviceNetSlave, FileId::DeviceNetSlave};
+        return {{}, FileId::Mapping};
     }
 
     // What the settings explain needs no guess at the cable.

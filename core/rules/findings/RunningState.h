@@ -3,6 +3,7 @@
 
 #include "RoleTable.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 
@@ -20,6 +21,9 @@ struct RunningState
 
     /// How long the link of a role has been down, in seconds; by RoleId, nothing when it is up or not known.
     std::array<std::optional<double>, RoleCount> downFor;
+
+    /// Files as they were when the controller came up, by FileId; none where that is not known.
+    QHash<int, QByteArray> cameUp;
 
     bool profisafePresent = false;
 
