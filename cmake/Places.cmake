@@ -5,7 +5,6 @@ set(FIELDBUS_PRIVATE_DIR ${CMAKE_INSTALL_LIBDIR}/fieldbus-pendant)
 set(FIELDBUS_APPLICATIONS_DIR ${FIELDBUS_PRIVATE_DIR}/applications)
 # Programs find both from where they lie themselves, so that an installed tree may be moved.
 file(RELATIVE_PATH FIELDBUS_PRIVATE_FROM_BIN /${CMAKE_INSTALL_BINDIR} /${FIELDBUS_PRIVATE_DIR})
-set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
 
 # fieldbus_application(NAME FILES...): the shared library NAME is an application of the pendant. It exports what the version
 # script NAME.map names and nothing else (not by a flag of the compiler: a precompiled header serves code of one

@@ -3,8 +3,12 @@
 #include "Options.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <QLibraryInfo>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 namespace {
 constexpr auto Platform = "QT_QPA_PLATFORM";
@@ -16,11 +20,23 @@ bool hasWaylandPlugin()
     return !plugins.entryList({QStringLiteral("libqwayland-*")}, QDir::Files).isEmpty();
 }
 
-// Without a name the compositor listens on its first socket.
-bool hasWaylandSocket()
+// Without a name the compositor listens on its first socket. A socket may outlive its compositor, and Qt
+// aborts then.
+bool waylandAnswers()
 {
-    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/wayland-0"));
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_SOCKET"))
+        return true; // a connection that is there already
+    const QString name = qEnvironmentVariable("WAYLAND_DISPLAY");
+    const QByteArray path =
+        QFile::encodeName(QDir(qEnvironmentVariable("XDG_RUNTIME_DIR"))
+                              .filePath(name.isEmpty() ? QStringLiteral("wayland-0") : name));
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool answers = ::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    ::close(socket);
+    return answers;
 }
 } // namespace
 
@@ -45,7 +61,7 @@ QString Screen::prepare(const Options& options) const
     }
     if (!qEnvironmentVariableIsEmpty("DISPLAY"))
         return {};
-    if (!hasWaylandSocket())
+    if (!waylandAnswers())
         return tr("There is no display. --tour needs none.");
     if (!hasWaylandPlugin())
         return tr("The display is Wayland's, and Qt's part for it is missing (package qtwayland5).");

@@ -523,7 +523,7 @@ private slots:
     void screenIsChosen_data()
     {
         const ScreenIsChosenRows row;
-        row("no display", "", QByteArray(), QByteArray(), false);
+        row("a compositor that is gone", "", QByteArray(), QByteArray(), false);
         row("X11", "", QByteArray(":0"), QByteArray(), true);
         row("the tour needs none", "--tour", QByteArray(), QByteArray("offscreen"), true);
         row("neither does help", "--help", QByteArray(), QByteArray("offscreen"), true);
@@ -541,6 +541,9 @@ private slots:
             qputenv(name, {});
         }
         qputenv("DISPLAY", x11);
+        const QTemporaryDir runtime;
+        QVERIFY(QFile(runtime.filePath("wayland-0")).open(QIODevice::WriteOnly));
+        qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
         const QByteArray text = "pendant " + arguments.toLatin1();
         QByteArrayList words = text.simplified().split(' ');
         std::vector<char*> argv;
