@@ -4,6 +4,7 @@
 #include "ExitPermission.h"
 #include "FieldbusModule.h"
 #include "FileLocations.h"
+#include "FitCaption.h"
 #include "Logging.h"
 #include "MsgBox.h"
 #include "PageBase.h"
@@ -17,6 +18,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <map>
 #include <utility>
 
 using PageRegistry::Entry;
@@ -25,6 +27,10 @@ using PageRegistry::Shown;
 namespace {
 
 constexpr int NotificationsAwaited = 2;
+
+// Of the menu, in pixels: what a button leaves for its caption beside the scroll bar.
+constexpr int ButtonHeight = 48;
+constexpr int CaptionWidth = 140;
 
 // Progress in per cent at the steps of the start.
 constexpr int ProgressBuilt = 30;
@@ -82,14 +88,22 @@ FbMainWidget::~FbMainWidget()
 
 void FbMainWidget::buildMenu()
 {
+    // In the order of the rows, which is then that of the focus. No grid: that one squeezes the rest for a
+    // row that is hidden.
+    std::map<int, const Entry*> rows;
     for (const Entry& entry : PageRegistry::entries()) {
-        if (!entry.button)
-            continue;
-        auto* button = new QPushButton(tr(entry.caption), ui->menuArea);
+        if (entry.button)
+            rows.emplace(entry.gridRow, &entry);
+    }
+    for (const auto& row : rows) {
+        const Entry& entry = *row.second;
+        auto* button = new QPushButton(ui->menuArea);
         button->setObjectName(QLatin1String(entry.button));
+        button->setMinimumHeight(ButtonHeight);
+        FitCaption::setText(button, tr(entry.caption), CaptionWidth);
         button->setCheckable(true);
         button->setVisible(shownAtStart(entry));
-        ui->menuLayout->addWidget(button, entry.gridRow, 0);
+        ui->menuLayout->addWidget(button);
         m_menuButtons->addButton(button, entry.id);
     }
 }
@@ -186,6 +200,7 @@ void FbMainWidget::showPage(int id)
         id = 0;
     const QPointer<FbMainWidget> self(this);
     m_chosenPage = id;
+    setProperty("page", id); // for a host that makes the application anew
     PageBase* page = pageOf(id);
     // A page that waits while it is made does not come in front of the one that was chosen meanwhile.
     if (!self || !page || m_chosenPage != id)
@@ -213,7 +228,7 @@ PageBase* FbMainWidget::pageOf(int id)
         connect(page, &PageBase::mouseEventSignal, &m_inputBlock, &InputBlock::count);
     if (QAbstractButton* button = m_menuButtons->button(id))
         connect(page, &PageBase::editedChanged, button, [button, caption = tr(entry.caption)](bool edited) {
-            button->setText(edited ? tr("%1 \u25CF").arg(caption) : caption);
+            FitCaption::setText(button, edited ? tr("%1 \u25CF").arg(caption) : caption, CaptionWidth);
         });
     if (entry.needsFreeMode)
         page->setFreeConfiguration(BusFileDataManager::getInstance()->isOpenFreeBus());
@@ -255,6 +270,8 @@ void FbMainWidget::idle()
     }
     showUnfinishedImport();
     SysSettingApi::getInstance()->sysSettingLibIdle();
-    if (ui->exitBtn->isEnabled() != ExitPermission::isGiven())
+    if (ui->exitBtn->isEnabled() != ExitPermission::isGiven()) {
         ui->exitBtn->setEnabled(ExitPermission::isGiven());
+        setProperty("leavable", ExitPermission::isGiven());
+    }
 }

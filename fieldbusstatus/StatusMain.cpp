@@ -83,8 +83,15 @@ void StatusMain::showPage(std::size_t index)
         adopt(page);
     }
     m_chosen = index;
+    setProperty("page", static_cast<int>(index)); // for a host that makes the application anew
     m_tabs->button(static_cast<int>(index))->setChecked(true);
     m_stack->setCurrentWidget(page);
+}
+
+void StatusMain::choosePage(int index)
+{
+    if (index >= 0 && index < static_cast<int>(PageTable::Count))
+        showPage(static_cast<std::size_t>(index));
 }
 
 void StatusMain::showSubject(int subject)

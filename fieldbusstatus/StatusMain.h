@@ -29,6 +29,10 @@ public:
     /// The host's idle tick.
     void idle();
 
+public slots:
+    /// Shows the page of a tab, counted from 0; any other number changes nothing.
+    void choosePage(int index);
+
 signals:
     void closeApp();
 

@@ -3,7 +3,9 @@
 
 # What building and running the pendant takes.
 pendant_packages=(build-essential cmake ninja-build ccache qtbase5-dev libqt5serialbus5-dev libpugixml-dev
-                  libcli11-dev fonts-dejavu-core)
+                  libcli11-dev fonts-dejavu-core qttools5-dev qttools5-dev-tools)
+# What showing the pendant in every language takes.
+font_packages=(fonts-noto-cjk)
 
 # need_packages PACKAGE...: installs those that are missing. Asks nothing of apt when all are there.
 need_packages() {

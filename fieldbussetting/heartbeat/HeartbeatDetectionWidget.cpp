@@ -3,9 +3,9 @@
 #include "FieldRanges.h"
 #include "OutsideMark.h"
 #include "QTouchLineEdit.h"
+#include "TouchCheckBox.h"
 #include "ui_HeartbeatDetectionWidget.h"
 
-#include <QCheckBox>
 #include <QLabel>
 
 #include <array>
@@ -68,20 +68,22 @@ void HeartbeatDetectionWidget::buildRows()
     int line = ui->rowsLayout->rowCount();
     for (const Row& row : Rows) {
         auto* caption = new QLabel(tr(row.caption), this);
-        auto* checkBox = new QCheckBox(this);
+        auto* checkBox = new TouchCheckBox(this);
         checkBox->setObjectName(QLatin1String(row.checkBox));
+        caption->setBuddy(checkBox);
         auto* edit = new QTouchLineEdit(this);
         edit->setObjectName(QLatin1String(row.edit));
         edit->setCast(QTouchLineEdit::CastReal, TimeoutDecimals);
         edit->setValueRange(RangeOf<&HeartbeatConfig::Mtcp_Timeout>.least,
                             RangeOf<&HeartbeatConfig::Mtcp_Timeout>.most);
+        edit->setProperty("caption", tr(row.caption));
         edit->setProperty("unit", tr("s"));
+        edit->setAccessibleName(tr("%1, time").arg(tr(row.caption)));
         auto* light = new QLabel(this);
         light->setObjectName(QLatin1String(row.light));
 
         ui->rowsLayout->addWidget(caption, line, 0);
-        // No wider than its box: what lies beside it is no target.
-        ui->rowsLayout->addWidget(checkBox, line, 1, Qt::AlignLeft | Qt::AlignVCenter);
+        ui->rowsLayout->addWidget(checkBox, line, 1);
         ui->rowsLayout->addWidget(edit, line, 2);
         ui->rowsLayout->addWidget(new QLabel(tr("s"), this), line, 3);
         ui->rowsLayout->addWidget(light, line, 4);

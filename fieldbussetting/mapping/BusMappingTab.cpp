@@ -1,11 +1,11 @@
 #include "BusMappingTab.h"
 
 #include "MappingService.h"
+#include "TouchCheckBox.h"
 #include "TouchTable.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableWidget>
@@ -108,7 +108,7 @@ BusMappingTab::BusMappingTab(Bus bus)
     m_head->setSpacing(Gap);
     m_head->addLayout(choices);
     for (int direction = 0; direction < infoOf(bus).directions; ++direction) {
-        auto* choice = new QCheckBox(translated(AllDirections[direction].caption), this);
+        auto* choice = new TouchCheckBox(translated(AllDirections[direction].caption), this);
         choice->setObjectName(
             QStringLiteral("checkBox_%1_%2")
                 .arg(QLatin1String(names.widgets), QLatin1String(AllDirections[direction].suffix)));

@@ -9,7 +9,9 @@
 #include "ui_ConfigWidget.h"
 
 #include <QButtonGroup>
+#include <QTabBar>
 #include <QTableWidget>
+#include <QToolButton>
 
 using namespace Mapping;
 
@@ -27,7 +29,12 @@ ConfigWidget::ConfigWidget()
     , ui(std::make_unique<Ui::ConfigWidget>())
 {
     ui->setupUi(this);
+    ui->tabWidget_Bus->tabBar()->setAccessibleName(ui->label_title->text());
     buildTabs();
+    // The arrows: keys go from tab to tab.
+    const QList<QToolButton*> arrows = ui->tabWidget_Bus->tabBar()->findChildren<QToolButton*>();
+    for (QToolButton* arrow : arrows)
+        arrow->setFocusPolicy(Qt::NoFocus);
     applyStyle();
     showCurrent();
 

@@ -99,6 +99,7 @@ void DeviceNetMasterSetting::fill()
     m_list.load(lib()->deviceNetMaster);
     fillSettings();
     ui->deviceTable->showList(m_list);
+    ui->deviceTable->markEditable(m_editing);
     ui->btn_add->setEnabled(!m_list.isFull());
 }
 
@@ -119,6 +120,7 @@ void DeviceNetMasterSetting::fillSettings()
 void DeviceNetMasterSetting::setEditing(bool on)
 {
     m_editing = on;
+    ui->deviceTable->markEditable(on);
     ui->btn_edit->setText(on ? tr("Save") : tr("Edit"));
     ui->btn_add->setVisible(on);
     ui->btn_delete->setVisible(on);
@@ -131,6 +133,7 @@ void DeviceNetMasterSetting::on_btn_add_clicked()
 {
     m_list.append();
     ui->deviceTable->showRow(m_list, m_list.count() - 1);
+    ui->deviceTable->markEditable(m_editing);
     ui->deviceTable->scrollToBottom();
     ui->btn_add->setEnabled(!m_list.isFull());
     edits().check();
@@ -140,6 +143,8 @@ void DeviceNetMasterSetting::on_btn_delete_clicked()
 {
     m_list.removeLast();
     ui->deviceTable->setRowCount(m_list.count());
+    ui->deviceTable->markEditable(m_editing);
+    ui->deviceTable->scrollToBottom();
     ui->btn_add->setEnabled(!m_list.isFull());
     edits().check();
 }

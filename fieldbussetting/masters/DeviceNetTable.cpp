@@ -14,18 +14,11 @@ struct TableColumn
     int width; // pixels
 };
 
-// In the order of DeviceNetScanList::Column. Together with the scroll bar and the frame they are as wide as
-// the table, 808 px.
+// In the order of DeviceNetScanList::Column; captions are the same in every language. Together with the
+// scroll bar and the frame they are as wide as the table, 808 px.
 constexpr TableColumn Columns[] = {
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "DEVICEID"), 91},
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "MACID"), 71},
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "IN"), 56},
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "OUT"), 56},
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "VENDOR"), 106},
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "PROD"), 86},
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "REVISION"), 116},
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "CFG_FLAG"), 74},
-    {QT_TRANSLATE_NOOP("DeviceNetTable", "CONNECT"), 120},
+    {"DEVICEID", 91}, {"MACID", 71},     {"IN", 56},       {"OUT", 56},      {"VENDOR", 106},
+    {"PROD", 86},     {"REVISION", 116}, {"CFG_FLAG", 74}, {"CONNECT", 120},
 };
 static_assert(std::size(Columns) == List::ColumnCount);
 
@@ -58,6 +51,7 @@ DeviceNetTable::DeviceNetTable(QWidget* parent)
     setTextElideMode(Qt::ElideLeft);
     verticalHeader()->hide();
     horizontalHeader()->setFixedHeight(HeaderHeight);
+    horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setStretchLastSection(true); // without a scroll bar
     horizontalHeader()->setFont(stretched(CaptionStretch));
@@ -69,7 +63,7 @@ DeviceNetTable::DeviceNetTable(QWidget* parent)
 
 QString DeviceNetTable::caption(int column)
 {
-    return tr(Columns[column].caption);
+    return QLatin1String(Columns[column].caption);
 }
 
 void DeviceNetTable::showList(const DeviceNetScanList& list)
@@ -94,6 +88,22 @@ void DeviceNetTable::showRow(const DeviceNetScanList& list, int row)
     }
     for (int column = 0; column < List::Connect; ++column)
         item(row, column)->setText(list.text(row, column));
+}
+
+// Delete takes the last row.
+void DeviceNetTable::markEditable(bool isEditing)
+{
+    QItemSelection editable;
+    for (int row = 0; row < rowCount(); ++row) {
+        const bool isNext = isEditing && row == rowCount() - 1;
+        item(row, List::DeviceId)
+            ->setIcon(isNext ? QIcon(QStringLiteral(":/image/row_to_delete.png")) : QIcon());
+        for (int column = 0; isEditing && column < List::ColumnCount; ++column) {
+            if (List::isEditable(column))
+                editable.append(QItemSelectionRange(model()->index(row, column)));
+        }
+    }
+    selectionModel()->select(editable, QItemSelectionModel::ClearAndSelect);
 }
 
 void DeviceNetTable::showConnection(int row, const QString& text)

@@ -27,6 +27,18 @@ constexpr std::array<Caption, MasterSlaveRow::ColumnCount> Captions = {{
     {"label_conneted_6", QT_TRANSLATE_NOOP("MasterSlaveList", "Decoupling Status")},
 }};
 
+enum { FixedColumn = 1, DynamicColumn };
+
+QString captionOf(std::size_t column)
+{
+    return QCoreApplication::translate("MasterSlaveList", Captions.at(column).text);
+}
+
+QString boxName(std::size_t column, int number)
+{
+    return QStringLiteral("%1 %2").arg(captionOf(column).simplified()).arg(number);
+}
+
 } // namespace
 
 MasterSlaveList::MasterSlaveList(const MasterSlaveRow::Names& names, QWidget* parent)
@@ -47,8 +59,10 @@ MasterSlaveList::MasterSlaveList(const MasterSlaveRow::Names& names, QWidget* pa
     rows->setSpacing(RowSpacing);
     for (int number = 1; number <= PositionCount; ++number) {
         m_rows.push_back(new MasterSlaveRow(number, names, widths, content));
+        m_rows.back()->nameBoxes(boxName(FixedColumn, number), boxName(DynamicColumn, number));
         rows->addWidget(m_rows.back());
     }
+    m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setWidgetResizable(true);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setWidget(content);
@@ -66,8 +80,7 @@ MasterSlaveRow::Widths MasterSlaveList::addCaptions()
     MasterSlaveRow::Widths widths{};
     QGridLayout* columns = MasterSlaveRow::makeColumns(m_captions, widths);
     for (std::size_t column = 0; column < Captions.size(); ++column) {
-        const QString text = QCoreApplication::translate("MasterSlaveList", Captions[column].text);
-        auto* caption = new QLabel(text, m_captions);
+        auto* caption = new QLabel(captionOf(column), m_captions);
         caption->setObjectName(QLatin1String(Captions[column].name));
         caption->setAlignment(Qt::AlignCenter);
         caption->setWordWrap(true);

@@ -1,8 +1,8 @@
 #include "MasterSlaveRow.h"
 
 #include "EditWatch.h"
+#include "TouchCheckBox.h"
 
-#include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -40,8 +40,8 @@ QGridLayout* MasterSlaveRow::makeColumns(QWidget* owner, const Widths& widths)
 MasterSlaveRow::MasterSlaveRow(int number, const Names& names, const Widths& widths, QWidget* parent)
     : QWidget(parent)
     , m_position(MasterSlaveTable::positions()[static_cast<std::size_t>(number - 1)])
-    , m_fixed(new QCheckBox(this))
-    , m_dynamic(new QCheckBox(this))
+    , m_fixed(new TouchCheckBox(this))
+    , m_dynamic(new TouchCheckBox(this))
     , m_connected(new QLabel(this))
     , m_coupling(new QLabel(this))
     , m_decoupling(new QLabel(this))
@@ -61,9 +61,14 @@ MasterSlaveRow::MasterSlaveRow(int number, const Names& names, const Widths& wid
     int column = 0;
     for (const auto& cell : cells) {
         cell.widget->setObjectName(QString::fromLatin1(cell.name).arg(number));
-        // A check box is no wider than its box: what lies beside it is no target.
         columns->addWidget(cell.widget, 0, column++, Qt::AlignCenter);
     }
+}
+
+void MasterSlaveRow::nameBoxes(const QString& fixed, const QString& dynamic)
+{
+    m_fixed->setAccessibleName(fixed);
+    m_dynamic->setAccessibleName(dynamic);
 }
 
 void MasterSlaveRow::fill(const MasterSlaveTable& record)

@@ -37,6 +37,9 @@ public:
     /// `number` counts from 1.
     MasterSlaveRow(int number, const Names& names, const Widths& widths, QWidget* parent);
 
+    /// What the two check boxes are called where their captions are not seen.
+    void nameBoxes(const QString& fixed, const QString& dynamic);
+
     void fill(const MasterSlaveTable& record);
     void store(MasterSlaveTable& record) const;
     void watch(EditWatch& edits) const;

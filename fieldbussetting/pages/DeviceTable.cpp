@@ -102,7 +102,11 @@ void DeviceTable::fillRow(int row, int number, const OverrideEntry& entry)
         m_table->setItem(row, column++, item);
     }
     auto* cell = new QWidget;
-    m_boxes[static_cast<std::size_t>(row)] = makeBoxIn(cell);
+    cell->setObjectName(QStringLiteral("editableCell"));
+    cell->setAttribute(Qt::WA_StyledBackground);
+    QCheckBox* box = makeBoxIn(cell);
+    box->setAccessibleName(QStringLiteral("%1 %2").arg(number).arg(entry.name));
+    m_boxes[static_cast<std::size_t>(row)] = box;
     m_table->setCellWidget(row, ActivateColumn, cell);
 }
 

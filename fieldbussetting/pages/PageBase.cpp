@@ -1,11 +1,15 @@
 #include "PageBase.h"
 
 #include "DataAccess.h"
+#include "FitCaption.h"
 #include "PageHead.h"
+#include "TouchCheckBox.h"
 #include "ZelFunctions.h"
 
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QLabel>
+#include <QTableWidget>
 
 namespace {
 
@@ -24,6 +28,8 @@ PageBase::PageBase(const char* className)
             m_head->showEdited(edited);
         emit editedChanged(edited);
     });
+    // For a host that makes the application anew.
+    connect(this, &PageBase::editedChanged, this, [this](bool edited) { setProperty("edited", edited); });
 }
 
 PageBase::~PageBase() = default;
@@ -49,11 +55,17 @@ PageBase::FileOperation PageBase::plain(PlainOperation operation)
 void PageBase::applyStyle()
 {
     QLabel* title = findChild<QLabel*>(QStringLiteral("label_title"));
+    if (title)
+        title->setWordWrap(true);
     if (title && showsFiles()) {
         m_head = new PageHead(title);
         m_head->showProvenance(m_provenance);
     }
+    TouchCheckBox::takeCaptionsIn(this);
     ZelSetUIStyleSheet(this, QLatin1String("fieldbussetting/") + QLatin1String(m_className));
+    const QList<QTableWidget*> tables = findChildren<QTableWidget*>();
+    for (const QTableWidget* table : tables)
+        FitCaption::fit(table->horizontalHeader());
 }
 
 QString PageBase::translated(const char* text) const

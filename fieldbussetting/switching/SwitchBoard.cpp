@@ -14,6 +14,7 @@ using namespace BusSwitches;
 
 namespace {
 constexpr int SwitchColumns = 2;
+constexpr QSize IconSize(44, 24); // that of the pictures
 } // namespace
 
 SwitchBoard::SwitchBoard(QWidget* page)
@@ -23,7 +24,9 @@ SwitchBoard::SwitchBoard(QWidget* page)
     for (int i = 0; i < Count; ++i) {
         m_combos[i] = new QComboBox(page);
         m_combos[i]->setObjectName(QLatin1String(rows()[i].objectName));
-        m_combos[i]->addItems({tr("OFF"), tr("ON")});
+        m_combos[i]->setIconSize(IconSize);
+        m_combos[i]->addItem(QIcon(QStringLiteral(":/image/switch_off.png")), tr("OFF"));
+        m_combos[i]->addItem(QIcon(QStringLiteral(":/image/switch_on.png")), tr("ON"));
         m_running[i] = std::any_of(running.begin(), running.end(), [i](const BusName& bus) {
             return bus.name == QLatin1String(rows()[i].busName());
         });
@@ -41,13 +44,13 @@ void SwitchBoard::layOut(QGridLayout* layout)
     for (int i = 0; i < Count; ++i) {
         auto* label = new QLabel(tr(rows()[i].label), layout->parentWidget());
         label->setWordWrap(true);
+        label->setBuddy(m_combos[i]);
         m_labels[i] = label;
         const int column = cell % SwitchColumns * (SwitchColumns + 1);
         layout->addWidget(label, cell / SwitchColumns, column);
         layout->addWidget(m_combos[i], cell / SwitchColumns, column + 1);
         cell += i == Mes ? SwitchColumns : 1;
     }
-    layout->setColumnMinimumWidth(SwitchColumns, 24);
 }
 
 bool SwitchBoard::isOn(Switch which) const

@@ -13,20 +13,6 @@
 #include <tuple>
 
 namespace {
-// A text, or an object with a text for each language, of which English has to be there.
-QString textOf(const QJsonValue& value)
-{
-    if (!value.isObject())
-        return value.toString();
-    const QJsonObject texts = value.toObject();
-    const QString locale = QLocale().name();
-    for (const QString& language : {locale, locale.section(QLatin1Char('_'), 0, 0)}) {
-        if (texts.contains(language))
-            return texts[language].toString();
-    }
-    return texts[QStringLiteral("en")].toString();
-}
-
 // Resources, and names that the loader of libraries has to find, stay as they are.
 QString fileOf(const QString& name, const QString& folder)
 {
@@ -38,6 +24,12 @@ QString fileOf(const QString& name, const QString& folder)
     return name;
 }
 } // namespace
+
+QString ApplicationInfo::shownName() const
+{
+    const QString locale = QLocale().name();
+    return names.value(locale, names.value(locale.section(QLatin1Char('_'), 0, 0), name));
+}
 
 ApplicationInfo ApplicationInfo::ofLibrary(const QString& file)
 {
@@ -73,7 +65,14 @@ void ApplicationInfo::take(const QJsonObject& object, const QString& folder)
     const auto value = [&object](const char* key) { return object[QLatin1String(key)]; };
     className = value("class").toString();
     library = fileOf(value("library").toString(), folder);
-    name = textOf(value("name"));
+    // A text, or an object with a text for each language, of which English has to be there.
+    const QJsonObject texts = value("name").toObject();
+    for (auto text = texts.begin(); text != texts.end(); ++text)
+        names[text.key()] = text.value().toString();
+    name = value("name").toString(names.value(QStringLiteral("en")));
+    const QJsonObject place = value("page").toObject();
+    page = {place[QStringLiteral("object")].toString(), place[QStringLiteral("property")].toString(),
+            place[QStringLiteral("slot")].toString()};
     icon = fileOf(value("icon").toString(icon), folder);
     order = value("order").toInt();
     resident = value("resident").toBool();

@@ -2,6 +2,7 @@
 #define PENDANT_APPLICATIONINFO_H
 
 #include <QCoreApplication>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -19,6 +20,15 @@ struct ApplicationShortcut
     int argument = 0;
 };
 
+/// How an application says on which page it is, and is brought there again: a property that holds the number
+/// of the page, and the slot that takes it.
+struct ApplicationPage
+{
+    QString object; ///< object name; empty: it does not say
+    QString property;
+    QString slot; ///< name without arguments
+};
+
 /// What the pendant knows of an application before its library is loaded, from a description file: a JSON
 /// object with "class", "library", "name" and, when they differ from the defaults here, the rest.
 struct ApplicationInfo
@@ -26,14 +36,19 @@ struct ApplicationInfo
     Q_DECLARE_TR_FUNCTIONS(ApplicationInfo)
 
 public:
-    QString className; ///< by which the application asks for its page id
-    QString library;   ///< file; relative ones lie beside the description or beside the program
-    QString name;      ///< below the tile; a text, or one for each language ("en", "de", ...)
+    QString className;            ///< by which the application asks for its page id
+    QString library;              ///< file; relative ones lie beside the description or beside the program
+    QString name;                 ///< of the application, in English or the only language that it has
+    QMap<QString, QString> names; ///< for each language ("en", "zh", "zh_CN", ...); may be empty
     QString icon = QStringLiteral(":/host/application.png");
     int order = 0;               ///< of the tiles; equal ones by name
     bool resident = false;       ///< its data is made when the pendant starts and lives as long
     bool needsController = true; ///< does not open while the controller is down
     std::vector<ApplicationShortcut> shortcuts;
+    ApplicationPage page;
+
+    /// Below the tile, in the language of the pendant.
+    QString shownName() const;
 
     /// A library without a description: called by its file, "libNAME.so".
     static ApplicationInfo ofLibrary(const QString& file);

@@ -1,9 +1,9 @@
 #include "HomeScreen.h"
 
-#include "ApplicationInfo.h"
 #include "ControllerLink.h"
 #include "CurrentLink.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
@@ -16,12 +16,13 @@ constexpr int Gap = 24;
 
 HomeScreen::HomeScreen(const std::vector<ApplicationInfo>& applications, QWidget* parent)
     : QWidget(parent)
+    , m_title(new QLabel(this))
     , m_notice(new QLabel(this))
+    , m_restart(new QPushButton(this))
 {
     setObjectName(QStringLiteral("homeScreen"));
 
-    auto* title = new QLabel(tr("Applications"), this);
-    title->setObjectName(QStringLiteral("homeTitle"));
+    m_title->setObjectName(QStringLiteral("homeTitle"));
     m_notice->setObjectName(QStringLiteral("homeNotice"));
     m_notice->setWordWrap(true);
     m_notice->hide();
@@ -35,16 +36,15 @@ HomeScreen::HomeScreen(const std::vector<ApplicationInfo>& applications, QWidget
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(48, 40, 48, 40);
     layout->setSpacing(32);
-    layout->addWidget(title);
+    layout->addWidget(m_title);
     layout->addLayout(tiles);
     layout->addWidget(m_notice);
     layout->addStretch(1);
-    auto* restart = new QPushButton(tr("\u21BB  Close and reopen the pendant"), this);
-    restart->setObjectName(QStringLiteral("restartButton"));
-    restart->setMinimumSize(400, 64);
-    restart->setFocusPolicy(Qt::NoFocus);
-    connect(restart, &QPushButton::clicked, this, &HomeScreen::restartPressed);
-    layout->addWidget(restart, 0, Qt::AlignRight);
+    m_restart->setObjectName(QStringLiteral("restartButton"));
+    m_restart->setMinimumSize(400, 64);
+    m_restart->setFocusPolicy(Qt::NoFocus);
+    connect(m_restart, &QPushButton::clicked, this, &HomeScreen::restartPressed);
+    layout->addWidget(m_restart, 0, Qt::AlignRight);
 
     if (ControllerLink* link = currentLink())
         connect(link, &ControllerLink::stateChanged, this, &HomeScreen::refresh);
@@ -69,17 +69,27 @@ void HomeScreen::addTile(QGridLayout* grid, const ApplicationInfo& application)
             [this, className = application.className] { emit tilePressed(className); });
     const int index = static_cast<int>(m_tiles.size());
     grid->addWidget(tile, index / Columns, index % Columns);
-    m_tiles.push_back({tile, application.name, application.needsController});
+    m_tiles.push_back({tile, application});
+}
+
+void HomeScreen::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        refresh();
+    QWidget::changeEvent(event);
 }
 
 void HomeScreen::refresh()
 {
+    m_title->setText(tr("Applications"));
+    m_restart->setText(tr("\u21BB  Close and reopen the pendant"));
     const ControllerLink* link = currentLink();
     const bool isDown = link && !link->isUp();
     for (const Tile& tile : m_tiles) {
-        const bool waits = isDown && tile.needsController;
+        const bool waits = isDown && tile.application.needsController;
         tile.button->setEnabled(!waits);
-        tile.button->setText(waits ? tr("%1\nController is restarting").arg(tile.name) : tile.name);
+        const QString name = tile.application.shownName();
+        tile.button->setText(waits ? tr("%1\nController is restarting").arg(name) : name);
     }
 }
 

@@ -1,13 +1,15 @@
 #ifndef PENDANT_HOMESCREEN_H
 #define PENDANT_HOMESCREEN_H
 
+#include "ApplicationInfo.h"
+
 #include <QWidget>
 
 #include <vector>
 
-struct ApplicationInfo;
 class QGridLayout;
 class QLabel;
+class QPushButton;
 class QToolButton;
 
 /// What the pendant shows when no application is open: a tile for each application, and why one is not
@@ -31,20 +33,24 @@ signals:
     /// The pendant is to be closed and reopened.
     void restartPressed();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     struct Tile
     {
         QToolButton* button;
-        QString name;
-        bool needsController;
+        ApplicationInfo application;
     };
 
     void addTile(QGridLayout* grid, const ApplicationInfo& application);
-    /// Tells at the tiles which applications have to wait for the controller.
+    /// Says everything anew, also at the tiles which applications have to wait for the controller.
     void refresh();
 
     std::vector<Tile> m_tiles;
+    QLabel* m_title;
     QLabel* m_notice;
+    QPushButton* m_restart;
 };
 
 #endif

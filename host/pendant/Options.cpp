@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include "Languages.h"
 #include "LogInDialog.h"
 #include "PendantWindow.h"
 
@@ -27,6 +28,23 @@ QString absolute(const QString& path)
 {
     return path.isEmpty() ? path : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
+
+QString languageCodes()
+{
+    QStringList codes;
+    for (const Languages::Language& language : Languages::all())
+        codes << QLatin1String(language.code);
+    return codes.join(QStringLiteral(", "));
+}
+
+QString takeLanguage(const QCommandLineParser& parser, QString& language)
+{
+    language = parser.value(QStringLiteral("language"));
+    return language.isEmpty() || Languages::indexOf(language) >= 0
+               ? QString()
+               : Options::tr("--language takes one of %1.").arg(languageCodes());
+}
+
 struct Row
 {
     const char* name;
@@ -67,6 +85,7 @@ std::vector<Row> rows(const QStringList& faultNames)
          "N"},
         {"scale", Options::tr("How large the pendant is drawn, 1 to 4 (default: 1)."), "X"},
         {"size", Options::tr("Size of the screen that the pendant fills, for example 800x600."), "WxH"},
+        {"language", Options::tr("Language of the pendant: %1 (default: en).").arg(languageCodes()), "CODE"},
         {"verbose", Options::tr("Write debug lines, with times."), nullptr},
         {"version", Options::tr("Tell the version."), nullptr},
         {"help", Options::tr("Tell all options."), nullptr},
@@ -148,6 +167,7 @@ void Options::take(const QCommandLineParser& parser)
                                 takeNumber(parser, "mtcp-port", 1, 65535, mtcpPort),
                                 takeNumber(parser, "time-scale", 0.001, 1000.0, timeScale),
                                 takeNumber(parser, "scale", 1.0, 4.0, scale),
+                                takeLanguage(parser, language),
                                 takeSize(parser, size)};
     for (const QString& found : problems) {
         if (!found.isEmpty())

@@ -29,6 +29,7 @@ public:
     std::optional<int> mtcpPort; ///< none: the controller's own choice
     std::optional<double> scale; ///< how large the pendant is drawn
     QSize size;                  ///< of the screen that the pendant fills; empty: as large as it is drawn
+    QString language;            ///< as `Languages` calls it; empty: English
     bool verbose = false;
 
     bool help = false;

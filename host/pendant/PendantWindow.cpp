@@ -6,6 +6,8 @@
 #include "ControllerLink.h"
 #include "CurrentLink.h"
 #include "HomeScreen.h"
+#include "LanguageChange.h"
+#include "Languages.h"
 #include "LogInDialog.h"
 #include "PendantPower.h"
 #include "StatusBar.h"
@@ -13,9 +15,9 @@
 #include "UserSession.h"
 #include "ZelFunctions.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPointer>
 #include <QStackedWidget>
 #include <QTimer>
 
@@ -32,10 +34,10 @@ PendantWindow::PendantWindow(const InstalledApplications& applications, QWidget*
     , m_statusBar(new StatusBar(this))
     , m_pages(new QStackedWidget(this))
     , m_home(new HomeScreen(applications.all()))
-    , m_restarting(new QLabel(tr("\u21BB\nRestarting the pendant ...")))
+    , m_restarting(new QLabel)
 {
     setObjectName(QStringLiteral("pendantWindow"));
-    setWindowTitle(tr("Pendant"));
+    retranslate();
     ZelSetUIStyleSheet(this, QStringLiteral("host"));
     setMinimumSize(screenSize());
     resize(screenSize());
@@ -58,6 +60,7 @@ PendantWindow::PendantWindow(const InstalledApplications& applications, QWidget*
     connect(m_home, &HomeScreen::tilePressed, this, &PendantWindow::openApplication);
     connect(m_home, &HomeScreen::restartPressed, &PendantPower::instance(), &PendantPower::requestRestart);
     connect(m_statusBar, &StatusBar::logInRequested, this, &PendantWindow::logIn);
+    connect(m_statusBar, &StatusBar::languageRequested, this, [this] { m_language->choose(); });
     connect(&PendantPower::instance(), &PendantPower::restartRequested, this, &PendantWindow::restart);
 
     QStringList problems = applications.problems();
@@ -70,9 +73,27 @@ PendantWindow::PendantWindow(const InstalledApplications& applications, QWidget*
         addApplication(application);
         if (!application->load())
             problems.append(application->error());
+        Languages::instance().addProgram(info.className);
         application->startResident();
     }
     m_home->setNotice(problems.join(QLatin1Char('\n')));
+    m_language = std::make_unique<LanguageChange>(*this);
+}
+
+void PendantWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        // What goes by the language beside the texts is in the sheet.
+        ZelSetUIStyleSheet(this, QStringLiteral("host"));
+        retranslate();
+    }
+    QWidget::changeEvent(event);
+}
+
+void PendantWindow::retranslate()
+{
+    setWindowTitle(tr("Pendant"));
+    m_restarting->setText(tr("\u21BB\nRestarting the pendant ..."));
 }
 
 QSize PendantWindow::screenSize()
@@ -148,7 +169,7 @@ void PendantWindow::applicationClosed(const ApplicationSlot& application, bool f
     if (forced)
         m_home->setNotice(tr("%1 was closed: user level %2 may not use it. "
                              "Log in with a higher level and open it again.")
-                              .arg(application.info().name)
+                              .arg(application.info().shownName())
                               .arg(UserSession::instance().userLevel()));
     showPage(m_home);
 }
@@ -162,13 +183,8 @@ void PendantWindow::applicationLeft()
 
 void PendantWindow::logIn()
 {
-    const QPointer<LogInDialog> dialog(new LogInDialog(UserSession::instance().userLevel(), this));
-    const int result = dialog->exec();
-    if (!dialog)
-        return;
-    const int level = dialog->level();
-    delete dialog.data();
-    if (result == QDialog::Accepted)
+    const int level = ChoiceDialog::ask(new LogInDialog(UserSession::instance().userLevel(), this));
+    if (level >= 0)
         UserSession::instance().setUserLevel(level);
 }
 

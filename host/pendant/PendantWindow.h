@@ -3,11 +3,13 @@
 
 #include <QWidget>
 
+#include <memory>
 #include <vector>
 
 class ApplicationSlot;
 class InstalledApplications;
 class HomeScreen;
+class LanguageChange;
 class QLabel;
 class QStackedWidget;
 class StatusBar;
@@ -36,12 +38,17 @@ public:
     /// The one that is open or still leaving, null when there is none.
     ApplicationSlot* present() const;
     HomeScreen& home() { return *m_home; }
+    LanguageChange& language() { return *m_language; }
 
 signals:
     /// The pendant came back from its restart.
     void restarted();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void retranslate();
     void addApplication(ApplicationSlot* application);
     void showPage(QWidget* page);
     bool isRestarting() const;
@@ -55,6 +62,7 @@ private:
     QStackedWidget* m_pages;
     HomeScreen* m_home;
     QLabel* m_restarting;
+    std::unique_ptr<LanguageChange> m_language;
     std::vector<ApplicationSlot*> m_applications;
     QString m_openWhenLeft;      ///< class name; empty: none
     bool m_restartShown = false; ///< the notice was shown for long enough to be read

@@ -2,6 +2,7 @@
 
 #include "ControllerLink.h"
 #include "CurrentLink.h"
+#include "Languages.h"
 #include "StatusItem.h"
 #include "UsbDrive.h"
 #include "UserSession.h"
@@ -10,6 +11,9 @@
 #include <QPushButton>
 
 namespace {
+constexpr int LogInWidth = 170; // pixels
+constexpr int LanguageWidth = 112;
+
 using Reading = StatusItem::Reading;
 
 constexpr Reading Running = {nullptr, "\u25B6", QT_TRANSLATE_NOOP("StatusItem", "running"), "good"};
@@ -28,23 +32,34 @@ constexpr Reading DriveOut = {"usb", "\u25A1", QT_TRANSLATE_NOOP("StatusItem", "
 StatusBar::StatusBar(QWidget* parent)
     : QFrame(parent)
     , m_logIn(new QPushButton(this))
-    , m_program(new StatusItem(tr("Program")))
-    , m_servo(new StatusItem(tr("Servo")))
-    , m_controller(new StatusItem(tr("Controller")))
-    , m_usb(new StatusItem(tr("USB")))
+    , m_language(new QPushButton(this))
+    , m_program(new StatusItem(QT_TRANSLATE_NOOP("StatusItem", "Program")))
+    , m_servo(new StatusItem(QT_TRANSLATE_NOOP("StatusItem", "Servo")))
+    , m_controller(new StatusItem(QT_TRANSLATE_NOOP("StatusItem", "Controller")))
+    , m_usb(new StatusItem(QT_TRANSLATE_NOOP("StatusItem", "USB")))
 {
     setObjectName(QStringLiteral("statusBar"));
     setFixedHeight(Height);
 
-    m_logIn->setObjectName(QStringLiteral("logInButton"));
-    m_logIn->setIcon(QIcon(QStringLiteral(":/host/user.png")));
-    m_logIn->setIconSize(QSize(36, 36));
-    m_logIn->setMinimumSize(190, 64);
-    m_logIn->setFocusPolicy(Qt::NoFocus);
+    const struct
+    {
+        QPushButton* button;
+        const char* name;
+        const char* icon;
+        int width;
+    } buttons[] = {{m_logIn, "logInButton", ":/host/user.png", LogInWidth},
+                   {m_language, "languageButton", ":/host/language.png", LanguageWidth}};
+    for (const auto& row : buttons) {
+        row.button->setObjectName(QLatin1String(row.name));
+        row.button->setIcon(QIcon(QLatin1String(row.icon)));
+        row.button->setIconSize(QSize(36, 36));
+        row.button->setMinimumSize(row.width, 64);
+        row.button->setFocusPolicy(Qt::NoFocus);
+    }
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 8, 16, 8);
-    layout->setSpacing(16);
+    layout->setSpacing(12);
     layout->addWidget(m_logIn);
     const struct
     {
@@ -59,8 +74,10 @@ StatusBar::StatusBar(QWidget* parent)
         entry.item->setObjectName(QLatin1String(entry.name));
         layout->addWidget(entry.item, entry.stretch);
     }
+    layout->addWidget(m_language);
 
     connect(m_logIn, &QPushButton::clicked, this, &StatusBar::logInRequested);
+    connect(m_language, &QPushButton::clicked, this, &StatusBar::languageRequested);
     connect(&UserSession::instance(), &UserSession::userLevelChanged, this, &StatusBar::refresh);
     connect(&UsbDrive::instance(), &UsbDrive::changed, this, &StatusBar::refresh);
     if (ControllerLink* link = currentLink())
@@ -68,8 +85,19 @@ StatusBar::StatusBar(QWidget* parent)
     refresh();
 }
 
+void StatusBar::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        refresh();
+    QFrame::changeEvent(event);
+}
+
 void StatusBar::refresh()
 {
+    const Languages& languages = Languages::instance();
+    m_language->setText(
+        QString::fromUtf8(Languages::all()[static_cast<std::size_t>(languages.index())].sign));
+    m_language->setToolTip(tr("Language"));
     m_logIn->setText(tr("Level %1").arg(UserSession::instance().userLevel()));
     const ControllerLink* link = currentLink();
     m_program->show(link && link->isRobotRunning() ? Running : Stopped);

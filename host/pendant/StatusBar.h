@@ -7,7 +7,7 @@ class QPushButton;
 class StatusItem;
 
 /// The strip above the pendant's applications: who is logged in (and the button to change it), the robot
-/// and its controller, the USB drive.
+/// and its controller, the USB drive, the language.
 class StatusBar : public QFrame
 {
     Q_OBJECT
@@ -22,9 +22,14 @@ public:
 
 signals:
     void logInRequested();
+    void languageRequested();
+
+protected:
+    void changeEvent(QEvent* event) override;
 
 private:
     QPushButton* m_logIn;
+    QPushButton* m_language;
     StatusItem* m_program;
     StatusItem* m_servo;
     StatusItem* m_controller;

@@ -1,5 +1,6 @@
 #include "StatusItem.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QStyle>
@@ -9,9 +10,11 @@ namespace {
 constexpr int IconSize = 40;
 } // namespace
 
-StatusItem::StatusItem(const QString& caption, QWidget* parent)
+StatusItem::StatusItem(const char* caption, QWidget* parent)
     : QWidget(parent)
+    , m_caption(caption)
     , m_icon(new QLabel(this))
+    , m_name(new QLabel(tr(caption), this))
     , m_value(new QLabel(this))
 {
     auto* layout = new QGridLayout(this);
@@ -24,15 +27,24 @@ StatusItem::StatusItem(const QString& caption, QWidget* parent)
     m_icon->setScaledContents(true);
     layout->addWidget(m_icon, 0, 0, 2, 1);
 
-    auto* name = new QLabel(caption, this);
-    name->setObjectName(QStringLiteral("statusCaption"));
-    layout->addWidget(name, 0, 1, Qt::AlignBottom);
+    m_name->setObjectName(QStringLiteral("statusCaption"));
+    layout->addWidget(m_name, 0, 1, Qt::AlignBottom);
     m_value->setObjectName(QStringLiteral("statusValue"));
     layout->addWidget(m_value, 1, 1, Qt::AlignTop);
 }
 
+void StatusItem::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && m_reading.word) {
+        m_name->setText(tr(m_caption));
+        show(m_reading);
+    }
+    QWidget::changeEvent(event);
+}
+
 void StatusItem::show(const Reading& reading)
 {
+    m_reading = reading;
     const QString text = QStringLiteral("%1 %2").arg(QString::fromUtf8(reading.shape), tr(reading.word));
     if (text == m_value->text())
         return;

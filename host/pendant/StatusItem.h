@@ -20,14 +20,21 @@ public:
         const char* look;  ///< "calm", "good", "warn" or "bad"
     };
 
-    explicit StatusItem(const QString& caption, QWidget* parent = nullptr);
+    /// `caption` untranslated, in the context of this class; it outlives the item.
+    explicit StatusItem(const char* caption, QWidget* parent = nullptr);
 
     void show(const Reading& reading);
     using QWidget::show;
     QString text() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    const char* m_caption;
+    Reading m_reading{};
     QLabel* m_icon;
+    QLabel* m_name;
     QLabel* m_value;
 };
 

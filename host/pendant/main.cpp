@@ -4,6 +4,7 @@
 #include "Faults.h"
 #include "FolderLock.h"
 #include "HomeScreen.h"
+#include "Languages.h"
 #include "ModbusSlave.h"
 #include "Options.h"
 #include "Partners.h"
@@ -169,11 +170,15 @@ int runWith(SimulatedController& controller, Scenario& scenario, const Options& 
     scenario.start();
     if (!options.tour)
         return PendantApplication::exec();
-    return makeTour({window, controller, &panel, controller.modbusPort(),
+    return makeTour({window,
+                     controller,
+                     &panel,
+                     controller.modbusPort(),
                      [&controller](bool on) { controller.setServoOn(on); },
                      [&controller] { return takeFetches(controller.traffic()); },
                      [&controller](bool on) { return switchPartners(controller.partners(), on); },
-                     [&controller](const QString& role, bool on) { controller.setRoleOn(role, on); }},
+                     [&controller](const QString& role, bool on) { controller.setRoleOn(role, on); },
+                     {}},
                     options.tourDirectory);
 }
 } // namespace
@@ -189,6 +194,7 @@ int main(int argc, char* argv[])
     const Options options = Options::parse(QCoreApplication::arguments(), {Options::tr("see the end")});
     QCoreApplication::setApplicationName(QStringLiteral("fieldbus-pendant"));
     setUpLog(options.verbose);
+    Languages::instance().use(options.language.isEmpty() ? QStringLiteral("en") : options.language);
     if (!options.problem.isEmpty())
         return refuse(options.problem);
     if (options.version) {

@@ -52,6 +52,8 @@ void ZelSetUIStyleSheet(QWidget* widget, const QString& key)
             text += QLatin1Char('\n');
         text += own;
     }
+    // Fonts of the language, where it needs other ones.
+    text += sheet(QStringLiteral("language/") + QLocale().name());
     // Setting a sheet repolishes every child, also when it is the same one.
     if (text != widget->styleSheet())
         widget->setStyleSheet(text);

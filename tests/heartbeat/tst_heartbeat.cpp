@@ -1,3 +1,4 @@
+#include "Finger.h"
 #include "LibFixture.h"
 #include "PageTest.h"
 #include "QTouchLineEdit.h"
@@ -35,6 +36,21 @@ public:
     using PageTest::PageTest;
 
 private slots:
+    // A glove that meets the caption, or the cell beside the box.
+    void allOfTheCellIsTheTarget()
+    {
+        QVERIFY(show());
+        auto* box = find<QCheckBox>("modbusCheckBox");
+        const auto labels = window().findChildren<QLabel*>();
+        const auto caption = std::find_if(labels.begin(), labels.end(),
+                                          [box](const QLabel* label) { return label->buddy() == box; });
+        const bool before = box->isChecked();
+        QVERIFY(caption != labels.end() && Finger::press(*caption));
+        QCOMPARE(box->isChecked(), !before);
+        QVERIFY(Finger::press(box, box->rect().center() + QPoint(box->width() / 2 - 2, 0)));
+        QCOMPARE(box->isChecked(), before);
+    }
+
     void showsTheFile_data()
     {
         const Rows<QByteArray, QByteArray, bool, QString> row;

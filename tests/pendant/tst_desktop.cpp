@@ -444,6 +444,8 @@ private slots:
         row("--time-scale nan", "--time-scale");
         row("--time-scale 0", "--time-scale");
         row("--time-scale 10", "", [](const Options& o) { return o.timeScale == 10.0; });
+        row("--language fr", "zh_CN");
+        row("--language zh_CN", "", [](const Options& o) { return o.language == "zh_CN"; });
         row("--scale 0.75", "1 to 4");
         row("--scale 1.5", "", [](const Options& o) { return o.drawingScale() == 1.5 && o.size.isEmpty(); });
         row("--size 800x600", "",

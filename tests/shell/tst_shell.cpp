@@ -2,12 +2,14 @@
 #include "Desktop.h"
 #include "Faults.h"
 #include "IdleCounter.h"
+#include "LanguageChange.h"
 #include "PageTest.h"
 #include "UserSession.h"
 #include "VariableTable.h"
 #include "ZelBaseWidget.h"
 
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -59,6 +61,29 @@ private slots:
                 shown << role;
         }
         QCOMPARE(shown, expected);
+    }
+
+    // A change that forgets the page, or what was entered and not saved.
+    void languageChangesOnThePageWhereItWas()
+    {
+        const QString page = QStringLiteral("HeartbeatDetectionWidget");
+        const auto isShown = [&](const char* title) {
+            const auto* label = findOn<QLabel>(page, "label_title");
+            return label && label->isVisible() && label->text() == QString::fromUtf8(title);
+        };
+        QVERIFY(openPastStartPage() && openPage("heartbeatBtn"));
+        MsgBoxScript::answerByDefault(MsgBox::Confirmed); // what the start page says
+        window().language().change("de");
+        QTRY_VERIFY_WITH_TIMEOUT(isShown("Heartbeat-\u00DCberwachung") && settle(), 20000);
+
+        QVERIFY(press("modbusCheckBox"));
+        answer({MsgBox::Second});
+        window().language().change("en");
+        QVERIFY(settle() && isShown("Heartbeat-\u00DCberwachung"));
+        answer({MsgBox::Confirmed});
+        window().language().change("en");
+        QTRY_VERIFY_WITH_TIMEOUT(isShown("Heartbeat Detection") && settle(), 20000);
+        QCOMPARE(messages().filter("Sprache wechseln?").size(), 2);
     }
 
     void menuAppearsWhateverIsReported_data()

@@ -75,6 +75,11 @@ bool Stations::logIn(TourGuide& guide)
     return guide.reportDialog(QStringLiteral("log-in"), QStringLiteral("logInButton"));
 }
 
+bool Stations::language(TourGuide& guide)
+{
+    return guide.reportDialog(QStringLiteral("language"), QStringLiteral("languageButton"));
+}
+
 bool Stations::panel(TourGuide& guide)
 {
     QWidget* panel = guide.subject().panel;

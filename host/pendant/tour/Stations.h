@@ -17,6 +17,7 @@ bool heartbeatLights(TourGuide& guide);
 bool message(TourGuide& guide);
 bool numericKeyboard(TourGuide& guide);
 bool logIn(TourGuide& guide);
+bool language(TourGuide& guide);
 bool panel(TourGuide& guide);
 bool otherApplications(TourGuide& guide);
 bool exit(TourGuide& guide);

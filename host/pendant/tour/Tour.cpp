@@ -20,6 +20,7 @@ constexpr Station AllStations[] = {
     {"message", Stations::message},
     {"numeric-keyboard", Stations::numericKeyboard},
     {"log-in", Stations::logIn},
+    {"language", Stations::language},
     {"panel", Stations::panel},
     {"mes", Stations::mes},
     {"fins", Stations::fins},

@@ -34,7 +34,8 @@ constexpr int LookEveryMs = 20;
 constexpr int ListLimitMs = 1000;
 
 // What the pages say of a file that they could not get, read, write or send begins with this, whatever the
-// kind of the box. They warn of much else on the way, which is no failure.
+// kind of the box. They warn of much else on the way, which is no failure. In another language the kind alone
+// tells.
 constexpr auto FailureText = "Failed to";
 
 bool isDialogOf(const QWidget* widget, const QWidget& window)
@@ -333,6 +334,8 @@ bool TourGuide::report(const QString& name, QWidget* shown)
     const QString file = QStringLiteral("%1-%2.png")
                              .arg(++m_pictures, 2, 10, QLatin1Char('0'))
                              .arg(name.isEmpty() ? QStringLiteral("nothing") : name);
+    if (m_subject.look && !shown)
+        m_subject.look(name);
     const QPixmap picture = shown ? shown->grab() : picturePendant(m_subject.window, m_subject.panel);
     const bool saved = picture.save(m_directory.filePath(file));
     QTextStream(stdout) << tr("%1  files fetched: %2  messages: %3  picture: %4")

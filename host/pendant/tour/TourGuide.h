@@ -41,6 +41,8 @@ public:
         std::function<bool(bool on)> switchPartners;
         /// Switches a role of the controller at once, which the pendant cannot.
         std::function<void(const QString& role, bool on)> switchRole;
+        /// Looks at what is on the screen at each stop; may be empty.
+        std::function<void(const QString& stop)> look;
     };
 
     TourGuide(Subject subject, const QString& directory);

@@ -1,0 +1,27 @@
+# Texts in other languages: resources/translations/PROGRAM_LANGUAGE.ts, compiled into the library of the program as
+# :/translations/PROGRAM_LANGUAGE.qm. Without Qt's tools for them everything speaks English.
+find_package(Qt${QT_VERSION_MAJOR}LinguistTools QUIET)
+if(NOT Qt${QT_VERSION_MAJOR}LinguistTools_FOUND)
+  message(STATUS "Qt's linguist tools are missing (Debian: qttools5-dev, qttools5-dev-tools): English only")
+endif()
+
+function(fieldbus_translations target program)
+  if(NOT Qt5LinguistTools_FOUND)
+    return()
+  endif()
+  file(GLOB texts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/translations/${program}_*.ts)
+  set(folder ${CMAKE_CURRENT_BINARY_DIR}/translations)
+  set_source_files_properties(${texts} PROPERTIES OUTPUT_LOCATION ${folder})
+  qt5_add_translation(compiled ${texts} OPTIONS -silent)
+  set(entries "")
+  foreach(file ${compiled})
+    get_filename_component(name ${file} NAME)
+    string(APPEND entries "<file alias=\"${name}\">${file}</file>")
+  endforeach()
+  file(CONFIGURE OUTPUT ${folder}/${program}_texts.qrc
+       CONTENT "<RCC><qresource prefix=\"/translations\">${entries}</qresource></RCC>\n")
+  qt5_add_resources(source ${folder}/${program}_texts.qrc)
+  set_source_files_properties(${source} PROPERTIES SKIP_AUTOGEN ON SKIP_PRECOMPILE_HEADERS ON)
+  set_property(SOURCE ${source} APPEND PROPERTY OBJECT_DEPENDS "${compiled}")
+  target_sources(${target} PRIVATE ${source})
+endfunction()
