@@ -5,108 +5,110 @@
     <name>ChangesPage</name>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>Import undone</source>
-        <translation type="unfinished"></translation>
+        <translation>Import rückgängig gemacht</translation>
     </message>
     <message>
         <source>Put back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücklegen</translation>
     </message>
     <message>
         <source>... and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>... und %1 weitere</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
         </translation>
     </message>
     <message>
         <source>The controller holds the former files already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Steuerung hat die früheren Dateien schon.</translation>
     </message>
     <message>
         <source>The former version of %1 can no longer be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die frühere Fassung von %1 kann nicht mehr gelesen werden.</translation>
     </message>
     <message>
         <source>The controller does not give %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Steuerung gibt %1 nicht heraus.</translation>
     </message>
     <message>
         <source>%1 was changed since: it stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde seither geändert und bleibt, wie es ist.</translation>
     </message>
     <message>
         <source>Please turn off the servo first!</source>
-        <translation type="unfinished"></translation>
+        <translation>Schalten Sie zuerst den Servo aus!</translation>
     </message>
     <message>
         <source>The pendant cannot keep the present version of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bediengerät kann die jetzige Fassung von %1 nicht aufbewahren.</translation>
     </message>
     <message>
         <source>%1 did not arrive as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht angekommen, wie es gesendet wurde.</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>What was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Was geändert wurde</translation>
     </message>
     <message>
         <source>This pendant has not changed any file so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Bediengerät hat noch keine Datei geändert.</translation>
     </message>
     <message>
         <source>Touch a change to choose it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Berühren Sie eine Änderung, um sie zu wählen.</translation>
     </message>
     <message>
         <source>Chosen: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählt: %1, %2</translation>
     </message>
     <message>
         <source>%1: it cannot be put back, as not all of it was kept or sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: kann nicht zurückgelegt werden, weil nicht alles aufbewahrt oder gesendet wurde.</translation>
     </message>
     <message>
         <source>Put these files back as they were before %1?
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien so zurücklegen, wie sie vor %1 waren?
+%2</translation>
     </message>
     <message>
         <source>Nothing was put back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts zurückgelegt.</translation>
     </message>
     <message>
         <source>These files were put back before:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Dateien wurden zuvor zurückgelegt:
+%1</translation>
     </message>
     <message>
         <source>Save successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert.</translation>
     </message>
     <message>
         <source>Save successfully, Are you sure to restart robot to make it effect?</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert. Den Roboter jetzt neu starten, damit es wirksam wird?</translation>
     </message>
 </context>
 <context>
@@ -1146,43 +1148,43 @@
     <name>HistoryPage</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 after %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach %2</translation>
     </message>
     <message>
         <source>The pendant was started</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bediengerät wurde gestartet</translation>
     </message>
     <message>
         <source>The controller does not answer: it restarts, or its cable is out</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Steuerung antwortet nicht: Sie startet neu, oder ihr Kabel ist ab</translation>
     </message>
     <message>
         <source>The controller is back</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Steuerung ist wieder da</translation>
     </message>
     <message>
         <source>Link lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung verloren</translation>
     </message>
     <message>
         <source>Link back</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wieder da</translation>
     </message>
     <message>
         <source>The controller refused %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Steuerung hat %1 abgelehnt</translation>
     </message>
     <message>
         <source>... and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>... und %1 weitere</translation>
     </message>
     <message>
         <source>%1 was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde gesendet</translation>
     </message>
 </context>
 <context>
@@ -1652,15 +1654,15 @@
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen</translation>
     </message>
     <message>
         <source>Support</source>
-        <translation type="unfinished"></translation>
+        <translation>Support</translation>
     </message>
 </context>
 <context>
@@ -1682,48 +1684,49 @@
     <name>SupportPage</name>
     <message>
         <source>The support bundle %1 is on the USB drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Supportpaket %1 liegt auf dem USB-Laufwerk.</translation>
     </message>
     <message>
         <source>The controller does not give %1. Nothing was written to the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Steuerung gibt %1 nicht heraus. Auf das Laufwerk wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>%1 is larger than any configuration file. Nothing was written to the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist größer als jede Konfigurationsdatei. Auf das Laufwerk wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>The USB drive was pulled out at %1. What is on it is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das USB-Laufwerk wurde bei %1 abgezogen. Was darauf liegt, ist nicht vollständig.</translation>
     </message>
     <message>
         <source>The USB drive does not take %1: it is full, write-protected or damaged.
 What is on it is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das USB-Laufwerk nimmt %1 nicht an: Es ist voll, schreibgeschützt oder beschädigt.
+Was darauf liegt, ist nicht vollständig.</translation>
     </message>
     <message>
         <source>The pendant&apos;s own disk does not take %1. What is on the drive is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher des Bediengeräts nimmt %1 nicht an. Was auf dem Laufwerk liegt, ist nicht vollständig.</translation>
     </message>
     <message>
         <source>Write to the USB drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf das USB-Laufwerk schreiben</translation>
     </message>
     <message>
         <source>Support bundle</source>
-        <translation type="unfinished"></translation>
+        <translation>Supportpaket</translation>
     </message>
     <message>
         <source>Writes onto a USB drive: all configuration files of the controller, as an export does, and beside them a report with the findings, the history and checksums. Nothing is changed on the controller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt auf ein USB-Laufwerk: alle Konfigurationsdateien der Steuerung wie ein Export, dazu einen Bericht mit Befunden, Verlauf und Prüfsummen. Auf der Steuerung wird nichts geändert.</translation>
     </message>
     <message>
         <source>No device found!</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Laufwerk gefunden!</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 </TS>

@@ -5,107 +5,109 @@
     <name>ChangesPage</name>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>インポート</translation>
     </message>
     <message>
         <source>Import undone</source>
-        <translation type="unfinished"></translation>
+        <translation>インポート取消</translation>
     </message>
     <message>
         <source>Put back</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>... and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>... 他 %1 件</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>ファイル %n 件</numerusform>
         </translation>
     </message>
     <message>
         <source>The controller holds the former files already.</source>
-        <translation type="unfinished"></translation>
+        <translation>コントローラには既に以前のファイルがあります。</translation>
     </message>
     <message>
         <source>The former version of %1 can no longer be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の以前の版を読み取れなくなりました。</translation>
     </message>
     <message>
         <source>The controller does not give %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>コントローラから %1 を取得できません。</translation>
     </message>
     <message>
         <source>%1 was changed since: it stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はその後変更されたため、そのまま残します。</translation>
     </message>
     <message>
         <source>Please turn off the servo first!</source>
-        <translation type="unfinished"></translation>
+        <translation>先にサーボをオフにしてください。</translation>
     </message>
     <message>
         <source>The pendant cannot keep the present version of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>ペンダントは %1 の現在の版を保存できません。</translation>
     </message>
     <message>
         <source>%1 did not arrive as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 が送信どおりに届きませんでした。</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>時刻</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>What was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>変更内容</translation>
     </message>
     <message>
         <source>This pendant has not changed any file so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>このペンダントではまだファイルを変更していません。</translation>
     </message>
     <message>
         <source>Touch a change to choose it.</source>
-        <translation type="unfinished"></translation>
+        <translation>変更に触れて選択してください。</translation>
     </message>
     <message>
         <source>Chosen: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>選択：%1、%2</translation>
     </message>
     <message>
         <source>%1: it cannot be put back, as not all of it was kept or sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：すべては保存または送信されていないため、元に戻せません。</translation>
     </message>
     <message>
         <source>Put these files back as they were before %1?
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>次のファイルを %1 より前の状態に戻しますか？
+%2</translation>
     </message>
     <message>
         <source>Nothing was put back.</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻したファイルはありません。</translation>
     </message>
     <message>
         <source>These files were put back before:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>次のファイルはその前に元に戻されました：
+%1</translation>
     </message>
     <message>
         <source>Save successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存しました。</translation>
     </message>
     <message>
         <source>Save successfully, Are you sure to restart robot to make it effect?</source>
-        <translation type="unfinished"></translation>
+        <translation>保存しました。有効にするためロボットを再起動しますか？</translation>
     </message>
 </context>
 <context>
@@ -1144,43 +1146,43 @@
     <name>HistoryPage</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 秒</translation>
     </message>
     <message>
         <source>%1 after %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（%2 後）</translation>
     </message>
     <message>
         <source>The pendant was started</source>
-        <translation type="unfinished"></translation>
+        <translation>ペンダントが起動しました</translation>
     </message>
     <message>
         <source>The controller does not answer: it restarts, or its cable is out</source>
-        <translation type="unfinished"></translation>
+        <translation>コントローラが応答しません。再起動中か、ケーブルが外れています</translation>
     </message>
     <message>
         <source>The controller is back</source>
-        <translation type="unfinished"></translation>
+        <translation>コントローラが復帰しました</translation>
     </message>
     <message>
         <source>Link lost</source>
-        <translation type="unfinished"></translation>
+        <translation>リンク切断</translation>
     </message>
     <message>
         <source>Link back</source>
-        <translation type="unfinished"></translation>
+        <translation>リンク復帰</translation>
     </message>
     <message>
         <source>The controller refused %1</source>
-        <translation type="unfinished"></translation>
+        <translation>コントローラが %1 を拒否しました</translation>
     </message>
     <message>
         <source>... and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>... 他 %1 件</translation>
     </message>
     <message>
         <source>%1 was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 を送信しました</translation>
     </message>
 </context>
 <context>
@@ -1649,15 +1651,15 @@
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>履歴</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>変更</translation>
     </message>
     <message>
         <source>Support</source>
-        <translation type="unfinished"></translation>
+        <translation>サポート</translation>
     </message>
 </context>
 <context>
@@ -1679,48 +1681,49 @@
     <name>SupportPage</name>
     <message>
         <source>The support bundle %1 is on the USB drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>サポートバンドル %1 を USB メモリに書き込みました。</translation>
     </message>
     <message>
         <source>The controller does not give %1. Nothing was written to the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>コントローラから %1 を取得できません。USB メモリには何も書き込んでいません。</translation>
     </message>
     <message>
         <source>%1 is larger than any configuration file. Nothing was written to the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 はどの構成ファイルよりも大きいです。USB メモリには何も書き込んでいません。</translation>
     </message>
     <message>
         <source>The USB drive was pulled out at %1. What is on it is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の書込中に USB メモリが取り外されました。内容は不完全です。</translation>
     </message>
     <message>
         <source>The USB drive does not take %1: it is full, write-protected or damaged.
 What is on it is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>USB メモリに %1 を書き込めません。満杯か、書込禁止か、破損しています。
+内容は不完全です。</translation>
     </message>
     <message>
         <source>The pendant&apos;s own disk does not take %1. What is on the drive is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>ペンダントのディスクに %1 を書き込めません。USB メモリの内容は不完全です。</translation>
     </message>
     <message>
         <source>Write to the USB drive</source>
-        <translation type="unfinished"></translation>
+        <translation>USB メモリに書き込む</translation>
     </message>
     <message>
         <source>Support bundle</source>
-        <translation type="unfinished"></translation>
+        <translation>サポートバンドル</translation>
     </message>
     <message>
         <source>Writes onto a USB drive: all configuration files of the controller, as an export does, and beside them a report with the findings, the history and checksums. Nothing is changed on the controller.</source>
-        <translation type="unfinished"></translation>
+        <translation>USB メモリに書き込みます：エクスポートと同じコントローラの全構成ファイルと、所見、履歴、チェックサムを含むレポート。コントローラは変更しません。</translation>
     </message>
     <message>
         <source>No device found!</source>
-        <translation type="unfinished"></translation>
+        <translation>デバイスが見つかりません。</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 </TS>

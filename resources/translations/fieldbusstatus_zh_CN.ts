@@ -5,107 +5,109 @@
     <name>ChangesPage</name>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>导入</translation>
     </message>
     <message>
         <source>Import undone</source>
-        <translation type="unfinished"></translation>
+        <translation>已撤销导入</translation>
     </message>
     <message>
         <source>Put back</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复</translation>
     </message>
     <message>
         <source>... and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>... 以及另外%1个</translation>
     </message>
     <message numerus="yes">
         <source>%n file(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n个文件</numerusform>
         </translation>
     </message>
     <message>
         <source>The controller holds the former files already.</source>
-        <translation type="unfinished"></translation>
+        <translation>控制器中已是原文件。</translation>
     </message>
     <message>
         <source>The former version of %1 can no longer be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>已无法读取%1的原版本。</translation>
     </message>
     <message>
         <source>The controller does not give %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>控制器未给出%1。</translation>
     </message>
     <message>
         <source>%1 was changed since: it stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1此后已更改，保持不变。</translation>
     </message>
     <message>
         <source>Please turn off the servo first!</source>
-        <translation type="unfinished"></translation>
+        <translation>请先关闭伺服！</translation>
     </message>
     <message>
         <source>The pendant cannot keep the present version of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>示教器无法保留%1的当前版本。</translation>
     </message>
     <message>
         <source>%1 did not arrive as it was sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1未按发送内容到达。</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>更改</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>时间</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>What was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>更改内容</translation>
     </message>
     <message>
         <source>This pendant has not changed any file so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>本示教器尚未更改任何文件。</translation>
     </message>
     <message>
         <source>Touch a change to choose it.</source>
-        <translation type="unfinished"></translation>
+        <translation>请触摸一项更改以选择。</translation>
     </message>
     <message>
         <source>Chosen: %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>已选择：%1，%2</translation>
     </message>
     <message>
         <source>%1: it cannot be put back, as not all of it was kept or sent.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：由于未全部保留或发送，无法恢复。</translation>
     </message>
     <message>
         <source>Put these files back as they were before %1?
 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>是否将这些文件恢复到%1之前的状态？
+%2</translation>
     </message>
     <message>
         <source>Nothing was put back.</source>
-        <translation type="unfinished"></translation>
+        <translation>未恢复任何文件。</translation>
     </message>
     <message>
         <source>These files were put back before:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>以下文件此前已恢复：
+%1</translation>
     </message>
     <message>
         <source>Save successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存成功。</translation>
     </message>
     <message>
         <source>Save successfully, Are you sure to restart robot to make it effect?</source>
-        <translation type="unfinished"></translation>
+        <translation>保存成功，确定要重启机器人使其生效吗？</translation>
     </message>
 </context>
 <context>
@@ -1144,43 +1146,43 @@
     <name>HistoryPage</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1秒</translation>
     </message>
     <message>
         <source>%1 after %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1，%2后</translation>
     </message>
     <message>
         <source>The pendant was started</source>
-        <translation type="unfinished"></translation>
+        <translation>示教器已启动</translation>
     </message>
     <message>
         <source>The controller does not answer: it restarts, or its cable is out</source>
-        <translation type="unfinished"></translation>
+        <translation>控制器无应答：正在重启，或电缆已断开</translation>
     </message>
     <message>
         <source>The controller is back</source>
-        <translation type="unfinished"></translation>
+        <translation>控制器已恢复</translation>
     </message>
     <message>
         <source>Link lost</source>
-        <translation type="unfinished"></translation>
+        <translation>连接断开</translation>
     </message>
     <message>
         <source>Link back</source>
-        <translation type="unfinished"></translation>
+        <translation>连接恢复</translation>
     </message>
     <message>
         <source>The controller refused %1</source>
-        <translation type="unfinished"></translation>
+        <translation>控制器拒绝了%1</translation>
     </message>
     <message>
         <source>... and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>... 以及另外%1个</translation>
     </message>
     <message>
         <source>%1 was sent</source>
-        <translation type="unfinished"></translation>
+        <translation>%1已发送</translation>
     </message>
 </context>
 <context>
@@ -1649,15 +1651,15 @@
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>历史</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>更改</translation>
     </message>
     <message>
         <source>Support</source>
-        <translation type="unfinished"></translation>
+        <translation>支持</translation>
     </message>
 </context>
 <context>
@@ -1679,48 +1681,49 @@
     <name>SupportPage</name>
     <message>
         <source>The support bundle %1 is on the USB drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>支持包%1已写入U盘。</translation>
     </message>
     <message>
         <source>The controller does not give %1. Nothing was written to the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>控制器未给出%1。未向U盘写入任何内容。</translation>
     </message>
     <message>
         <source>%1 is larger than any configuration file. Nothing was written to the drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1大于任何配置文件。未向U盘写入任何内容。</translation>
     </message>
     <message>
         <source>The USB drive was pulled out at %1. What is on it is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>U盘在写入%1时被拔出。其上的内容不完整。</translation>
     </message>
     <message>
         <source>The USB drive does not take %1: it is full, write-protected or damaged.
 What is on it is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>U盘无法写入%1：已满、写保护或损坏。
+其上的内容不完整。</translation>
     </message>
     <message>
         <source>The pendant&apos;s own disk does not take %1. What is on the drive is not complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>示教器的磁盘无法写入%1。U盘上的内容不完整。</translation>
     </message>
     <message>
         <source>Write to the USB drive</source>
-        <translation type="unfinished"></translation>
+        <translation>写入U盘</translation>
     </message>
     <message>
         <source>Support bundle</source>
-        <translation type="unfinished"></translation>
+        <translation>支持包</translation>
     </message>
     <message>
         <source>Writes onto a USB drive: all configuration files of the controller, as an export does, and beside them a report with the findings, the history and checksums. Nothing is changed on the controller.</source>
-        <translation type="unfinished"></translation>
+        <translation>写入U盘：与导出相同的控制器全部配置文件，以及含问题、历史和校验和的报告。控制器上不作任何更改。</translation>
     </message>
     <message>
         <source>No device found!</source>
-        <translation type="unfinished"></translation>
+        <translation>未找到设备！</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 </TS>
