@@ -20,7 +20,7 @@ using Kind = StatusEvent::Kind;
 
 QString seconds(qint64 ms)
 {
-    return HistoryPage::tr("%1 s").arg(static_cast<double>(ms) / MsPerSecond, 0, 'f', ms < 10'000 ? 1 : 0);
+    return HistoryPage::tr("%1 s").arg(static_cast<double>(ms) / MsPerSecond, 0, 'f', ms < 10000 ? 1 : 0);
 }
 
 const char* signOf(const StatusEvent& event)

@@ -14,7 +14,7 @@ using Kind = StatusEvent::Kind;
 namespace {
 
 // What the service sends is complete when it was read back; a pendant that was ended meanwhile never will.
-constexpr qint64 IncompleteMs = 20'000;
+constexpr qint64 IncompleteMs = 20000;
 
 // Bits by which the controller says that it does not accept what was announced.
 struct Refusal

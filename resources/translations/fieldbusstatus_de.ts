@@ -1186,6 +1186,42 @@
         <source>%1 was sent</source>
         <translation>%1 wurde gesendet</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>Rolle</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Was geschah</translation>
+    </message>
+    <message>
+        <source>All roles</source>
+        <translation>Alle Rollen</translation>
+    </message>
+    <message>
+        <source>No loss of the link that has ended.</source>
+        <translation>Kein Verbindungsverlust, der beendet ist.</translation>
+    </message>
+    <message>
+        <source>Longest loss: %1.</source>
+        <translation>Längster Verlust: %1.</translation>
+    </message>
+    <message>
+        <source>The watch trips after %1 s.</source>
+        <translation>Die Überwachung löst nach %1 s aus.</translation>
+    </message>
+    <message>
+        <source>The link is not watched.</source>
+        <translation>Die Verbindung wird nicht überwacht.</translation>
+    </message>
 </context>
 <context>
     <name>OverviewPage</name>

@@ -1184,6 +1184,42 @@
         <source>%1 was sent</source>
         <translation>%1 を送信しました</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>ロール</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>All roles</source>
+        <translation>すべてのロール</translation>
+    </message>
+    <message>
+        <source>No loss of the link that has ended.</source>
+        <translation>終了したリンク切断はありません。</translation>
+    </message>
+    <message>
+        <source>Longest loss: %1.</source>
+        <translation>最長の切断：%1。</translation>
+    </message>
+    <message>
+        <source>The watch trips after %1 s.</source>
+        <translation>%1 秒で監視が作動します。</translation>
+    </message>
+    <message>
+        <source>The link is not watched.</source>
+        <translation>リンクは監視されていません。</translation>
+    </message>
 </context>
 <context>
     <name>OverviewPage</name>

@@ -1184,6 +1184,42 @@
         <source>%1 was sent</source>
         <translation>%1已发送</translation>
     </message>
+    <message>
+        <source>History</source>
+        <translation>历史</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Role</source>
+        <translation>角色</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>All roles</source>
+        <translation>所有角色</translation>
+    </message>
+    <message>
+        <source>No loss of the link that has ended.</source>
+        <translation>没有已结束的连接断开。</translation>
+    </message>
+    <message>
+        <source>Longest loss: %1.</source>
+        <translation>最长断开：%1。</translation>
+    </message>
+    <message>
+        <source>The watch trips after %1 s.</source>
+        <translation>监视在%1秒后触发。</translation>
+    </message>
+    <message>
+        <source>The link is not watched.</source>
+        <translation>未监视该连接。</translation>
+    </message>
 </context>
 <context>
     <name>OverviewPage</name>

@@ -29,8 +29,8 @@ struct Fault
     MarkedText text; ///< of the translation context "ImportJudge"
 };
 
-constexpr int MostElements = 250'000;
-constexpr int MostRoles = 1'000;
+constexpr int MostElements = 250000;
+constexpr int MostRoles = 1000;
 /// Of one attribute or text, in bytes.
 constexpr int MostText = 1024 * 1024;
 
