@@ -70,6 +70,7 @@ FbMainWidget::FbMainWidget()
 
     buildMenu();
     connect(m_menuButtons, SIGNAL(buttonClicked(int)), this, SLOT(slotMenuBtnsClicked(int)));
+    connect(ui->btn_retry, &QPushButton::clicked, this, &FbMainWidget::retry);
 
     setIsFieldXml(true);
     setIsFieldbusCfg(true);
@@ -113,18 +114,23 @@ void FbMainWidget::slotGetFileToUi()
     const QPointer<FbMainWidget> self(this);
     BusFileDataManager* service = BusFileDataManager::getInstance();
     mouseEventTransParentSlot(true);
-    if (service->isFuncInfoNotified(QStringLiteral("fieldbus")))
-        busNotification(0, QLatin1String(FileLocations::FieldbusXml), true);
-    else
-        service->emitGetFieldXml();
-    if (!self)
-        return;
-    if (service->isFuncInfoNotified(QStringLiteral("fieldbusCfg")))
-        busNotification(0, QLatin1String(FileLocations::FieldbusConfigXml), true);
-    else
-        service->emitGetFieldbusCfg();
-    if (!self)
-        return;
+    const struct
+    {
+        ConfigFile file;
+        const char* key;
+        const char* path;
+    } files[] = {{ConfigFile::BusRoles, "fieldbus", FileLocations::FieldbusXml},
+                 {ConfigFile::IoMapping, "fieldbusCfg", FileLocations::FieldbusConfigXml}};
+    for (const auto& held : files) {
+        if (service->isFuncInfoNotified(QLatin1String(held.key))) {
+            ServiceFiles::noteHeld(held.file);
+            busNotification(0, QLatin1String(held.path), true);
+        } else {
+            ServiceFiles::request(held.file);
+        }
+        if (!self)
+            return;
+    }
     mouseEventTransParentSlot(false);
 }
 
@@ -133,25 +139,52 @@ void FbMainWidget::busNotification(int kind, const QString& path, bool success)
     if (kind != 0)
         return;
     if (path == QLatin1String(FileLocations::FieldbusXml) && m_busConfigPending) {
-        m_busConfigPending = false;
+        m_busConfigPending = !success;
         if (success) {
-            m_progressBar->setValue(ProgressBusesKnown);
-            for (const BusName& bus : BusFileDataManager::getInstance()->getBusNameList(true, true))
-                m_busNames.append(bus.name);
-            showButtonsOf(m_busNames);
             const QPointer<FbMainWidget> self(this);
-            showPage(PageRegistry::StartPage);
+            showStart();
             if (!self)
                 return;
-            m_progressBar->setValue(ProgressStartPage);
         }
-        countNotification();
+        countNotification(m_busConfigAwaited);
     } else if (path == QLatin1String(FileLocations::FieldbusConfigXml) && m_mappingPending) {
         m_mappingPending = false;
         if (success)
             m_progressBar->setValue(ProgressMappingKnown);
-        countNotification();
+        bool isAwaited = true;
+        countNotification(isAwaited);
     }
+}
+
+void FbMainWidget::showStart()
+{
+    showRetryNotice(false);
+    m_progressBar->setValue(ProgressBusesKnown);
+    for (const BusName& bus : BusFileDataManager::getInstance()->getBusNameList(true, true))
+        m_busNames.append(bus.name);
+    showButtonsOf(m_busNames);
+    const QPointer<FbMainWidget> self(this);
+    // What was opened without them stays in sight.
+    if (m_chosenPage < 0)
+        showPage(PageRegistry::StartPage);
+    if (self)
+        m_progressBar->setValue(ProgressStartPage);
+}
+
+void FbMainWidget::showRetryNotice(bool shown)
+{
+    ui->retryNotice->setVisible(shown);
+    ui->fieldbusSetSWidget->setVisible(!shown);
+}
+
+// Over the area that has no page to show as long as the roles are not known.
+void FbMainWidget::retry()
+{
+    const QPointer<FbMainWidget> self(this);
+    mouseEventTransParentSlot(true);
+    ServiceFiles::read(ConfigFile::BusRoles);
+    if (self)
+        mouseEventTransParentSlot(false);
 }
 
 void FbMainWidget::showButtonsOf(const QStringList& busNames)
@@ -162,14 +195,17 @@ void FbMainWidget::showButtonsOf(const QStringList& busNames)
     }
 }
 
-void FbMainWidget::countNotification()
+void FbMainWidget::countNotification(bool& isAwaited)
 {
+    if (!std::exchange(isAwaited, false))
+        return;
     if (++m_notificationCount != NotificationsAwaited)
         return;
     if (m_progressBar->isVisible())
         m_progressBar->close();
     if (isHidden())
         show();
+    showRetryNotice(m_busConfigPending && m_chosenPage < 0);
     showUnfinishedImport();
     if (UnfinishedImport::exists())
         QTimer::singleShot(0, this, &FbMainWidget::tellUnfinishedImport);
@@ -205,6 +241,7 @@ void FbMainWidget::showPage(int id)
     // A page that waits while it is made does not come in front of the one that was chosen meanwhile.
     if (!self || !page || m_chosenPage != id)
         return;
+    showRetryNotice(false);
     ui->fieldbusSetSWidget->setCurrentWidget(page);
     // For a page without a button none is pressed, which an exclusive group does not allow.
     QAbstractButton* button = m_menuButtons->button(id);

@@ -4,6 +4,7 @@
 #include "BusObserver.h"
 #include "InputBlock.h"
 #include "PageRegistry.h"
+#include "ServiceFiles.h"
 
 #include <QStringList>
 #include <QWidget>
@@ -44,11 +45,15 @@ private slots:
     /// A page begins (true) or ends (false) a time in which the operator's input is ignored.
     void mouseEventTransParentSlot(bool status);
     void slotGetFileToUi();
+    void retry();
 
 private:
     void buildMenu();
     void showButtonsOf(const QStringList& busNames);
-    void countNotification();
+    void countNotification(bool& isAwaited);
+    /// The roles are known: their buttons, and the first page.
+    void showStart();
+    void showRetryNotice(bool shown);
     /// The band over the pages follows whether an import is to be settled.
     void showUnfinishedImport();
     void tellUnfinishedImport();
@@ -60,13 +65,15 @@ private:
     QButtonGroup* m_menuButtons;
     int m_mouseBlockCount = 0;
     InputBlock m_inputBlock{this};
+    ServiceFiles m_serviceFiles;  ///< hears the service before the pages do
     int m_chosenPage = -1;        // id of the page that was asked for last, -1 before the first
     int m_pageInPreparation = -1; // id of the page that prepares itself to be shown, -1 for none
     QStringList m_busNames;       // switched on
     std::array<PageBase*, PageRegistry::PageCount> m_pages{};
     std::unique_ptr<ProgressBarWidget> m_progressBar;
     int m_notificationCount = 0;
-    bool m_busConfigPending = true;
+    bool m_busConfigPending = true; ///< until it was read
+    bool m_busConfigAwaited = true; ///< until it was read, or could not be
     bool m_mappingPending = true;
 };
 

@@ -16,16 +16,18 @@ const char* const SlaveModule = "/fa/fbslave.cfgx";
 
 namespace {
 
+constexpr const char* NoCopy = "";
+
 struct ConfigRow
 {
     ConfigFile file;
-    const char* local; ///< below the working directory
+    const char* local; ///< below the working directory; null: in a place of its own
     const char* controller;
 };
 
 // The controller's fieldbus directory is written "/FA" for the files of the slave drivers and "/fa" for the
 // DeviceNet master and the transfer set; both spellings are the controller's own.
-constexpr ConfigRow ConfigRows[] = {
+const ConfigRow ConfigRows[] = {
     {ConfigFile::BusSwitch, nullptr, "/application/fidbus/Fieldbus.cfg"},
     {ConfigFile::Override, "/override.cfg", "/FA/override.cfg"},
     {ConfigFile::PfbSlave, "/pfb.cfg", "/FA/pfb.cfg"},
@@ -42,6 +44,9 @@ constexpr ConfigRow ConfigRows[] = {
     {ConfigFile::MesServer, "/TcpServerConfig.xml", "/application/mes/TcpServerConfig.xml"},
     {ConfigFile::FinsClient, "/FinsTcpConfig.xml", "/application/finstcp/FinsTcpConfig.xml"},
     {ConfigFile::Heartbeat, "/heartbeat.xml", "/application/fidbus/heartbeat.xml"},
+    {ConfigFile::BusRoles, NoCopy, FieldbusXml},
+    {ConfigFile::IoMapping, NoCopy, FieldbusConfigXml},
+    {ConfigFile::SlaveModule, NoCopy, "/fa/fbslave.cfgx"},
 };
 
 constexpr auto ConfigCount = static_cast<std::size_t>(ConfigFile::Count);
@@ -56,10 +61,12 @@ std::array<FileLocation, ConfigCount> configLocations()
 {
     std::array<FileLocation, ConfigCount> locations;
     for (const ConfigRow& row : ConfigRows) {
-        locations[static_cast<std::size_t>(row.file)] = {
-            row.local ? workingDirectory() + QLatin1String(row.local)
-                      : localised(QStringLiteral("../Application/Setup/Fieldbus.cfg")),
-            QLatin1String(row.controller)};
+        QString local = QLatin1String(row.local);
+        if (!row.local)
+            local = localised(QStringLiteral("../Application/Setup/Fieldbus.cfg"));
+        else if (!local.isEmpty())
+            local.prepend(workingDirectory());
+        locations[static_cast<std::size_t>(row.file)] = {local, QLatin1String(row.controller)};
     }
     return locations;
 }
@@ -125,7 +132,7 @@ QString controllerPathOf(const QString& localPath)
 {
     const auto& all = locations();
     const auto found = std::find_if(all.begin(), all.end(), [&localPath](const FileLocation& location) {
-        return location.local == localPath;
+        return !location.isOfService() && location.local == localPath;
     });
     return found == all.end() ? QString() : found->controller;
 }

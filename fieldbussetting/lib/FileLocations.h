@@ -8,8 +8,10 @@
 /// Where a configuration file lies on the pendant and on the controller.
 struct FileLocation
 {
-    QString local;      ///< relative to the pendant's working directory, localised
+    QString local;      ///< relative to the pendant's working directory, localised; empty without a copy
     QString controller; ///< absolute in the controller's file system, as written there
+
+    bool isOfService() const { return local.isEmpty(); }
 };
 
 /// The files that pages fetch, edit and send.
@@ -30,6 +32,10 @@ enum class ConfigFile {
     MesServer,
     FinsClient,
     Heartbeat,
+    // The bus file data service's: it fetches and sends them, and the pendant has no copy.
+    BusRoles,
+    IoMapping,
+    SlaveModule,
     Count
 };
 

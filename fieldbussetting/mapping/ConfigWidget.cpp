@@ -22,6 +22,20 @@ BusFileDataManager* service()
     return BusFileDataManager::getInstance();
 }
 
+// What the operator enters, to be compared.
+QString entriesOf(const Buses& buses)
+{
+    QStringList entries;
+    for (const MappingBus& bus : buses) {
+        for (const MappingArea& area : bus.areas) {
+            entries << QString::number(area.start);
+            for (const MappingRow& row : area.user)
+                entries << QString::number(row.quantity) << QString::number(row.start);
+        }
+    }
+    return entries.join(QLatin1Char(' '));
+}
+
 } // namespace
 
 ConfigWidget::ConfigWidget()
@@ -35,6 +49,7 @@ ConfigWidget::ConfigWidget()
     const QList<QToolButton*> arrows = ui->tabWidget_Bus->tabBar()->findChildren<QToolButton*>();
     for (QToolButton* arrow : arrows)
         arrow->setFocusPolicy(Qt::NoFocus);
+    edits().add([this] { return entriesOf(m_model.buses()); });
     applyStyle();
     showCurrent();
 
@@ -114,69 +129,42 @@ void ConfigWidget::showAll()
     showCurrent();
 }
 
-void ConfigWidget::slotGetFileToUi()
+// The mode and the roles that are on belong to what is shown.
+std::vector<PageBase::PageFile> ConfigWidget::files() const
+{
+    return {heldByService(ConfigFile::BusRoles), heldByService(ConfigFile::IoMapping)};
+}
+
+void ConfigWidget::beginLoad()
+{
+    if (m_editing)
+        setEditing(false);
+}
+
+void ConfigWidget::fill()
 {
     m_model.load(MappingService::fromService(service()->getBusNumAndAddr()),
                  service()->isOpenFreeBus() ? MappingConfig::Free : MappingConfig::Fixed);
     m_busNames = switchedOnBuses();
     m_loaded = true;
-    m_outdated = false;
-    // The service forgets what it has told when the controller restarts; what was read stays so.
-    m_isRead = m_isRead || service()->isFuncInfoNotified(QStringLiteral("fieldbusCfg"));
     enableTabs();
     showAll();
-}
-
-void ConfigWidget::takeReading(bool success)
-{
-    if (!m_reading) {
-        m_outdated = m_outdated || (success && (m_editing || m_save.isUnderWay()));
-        if (success && m_loaded && !m_outdated)
-            slotGetFileToUi();
-        return;
-    }
-    m_reading = false;
-    if (!success) {
-        tell(MsgBox::Warning, translated(QT_TRANSLATE_NOOP("PageBase", "Failed to get file.")));
-        return;
-    }
-    slotGetFileToUi();
-    tell(MsgBox::Information,
-         translated(QT_TRANSLATE_NOOP("PageBase", "Loaded now. Look at the settings, then save.")));
-}
-
-void ConfigWidget::catchUp()
-{
-    if (!m_outdated)
-        return;
-    const Answer answer =
-        m_editing ? ask(tr("Changed on the controller since it was read.\nReload?"), MsgBox::YesNo)
-                  : Answer::Confirmed;
-    if (answer == Answer::Gone)
-        return;
-    m_outdated = false;
-    if (answer != Answer::Confirmed)
-        return;
-    setEditing(false);
-    slotGetFileToUi();
 }
 
 // Another page may have switched the mode or a bus meanwhile. What was loaded before would be saved to a mode
 // that it does not belong to; a bus only has its tab or has it no more.
 void ConfigWidget::showEvent(QShowEvent* event)
 {
-    PageBase::showEvent(event);
-    if (!m_loaded || m_save.isUnderWay())
-        return;
-    if (m_outdated)
-        scheduleOnce(0, &ConfigWidget::catchUp);
-    if (m_model.isFree() != service()->isOpenFreeBus()) {
-        setEditing(false);
-        slotGetFileToUi();
-    } else if (m_busNames != switchedOnBuses()) {
-        m_busNames = switchedOnBuses();
-        enableTabs();
+    if (m_loaded && !m_save.isUnderWay()) {
+        if (m_model.isFree() != service()->isOpenFreeBus()) {
+            setEditing(false);
+            refill();
+        } else if (m_busNames != switchedOnBuses()) {
+            m_busNames = switchedOnBuses();
+            enableTabs();
+        }
     }
+    PageBase::showEvent(event);
 }
 
 void ConfigWidget::setEditing(bool editing)
@@ -255,6 +243,7 @@ void ConfigWidget::take(const MappingModel::Entry& entry)
     if (entry.movedSlaveBlock)
         MappingSave::changeUpdateBits(0, UpdateState::SlaveBlocksMoved);
     showAll();
+    edits().check();
 }
 
 void ConfigWidget::refuse(const Message& message)
@@ -264,18 +253,10 @@ void ConfigWidget::refuse(const Message& message)
 
 void ConfigWidget::on_bt_EditOrSave_clicked()
 {
-    if (!m_editing) {
-        // What was never read is nobody's configuration.
-        if (m_isRead) {
-            setEditing(true);
-        } else {
-            m_reading = true;
-            service()->emitGetFieldbusCfg(); // the notification goes on
-        }
+    if (!isReadyToSave())
         return;
-    }
-    if (m_outdated) {
-        catchUp();
+    if (!m_editing) {
+        setEditing(true);
         return;
     }
     if (const Refusal refusal = m_model.saveRefusal(switchedOnBuses())) {
@@ -287,7 +268,7 @@ void ConfigWidget::on_bt_EditOrSave_clicked()
         break;
     case Answer::Second:
         setEditing(false);
-        slotGetFileToUi();
+        refill();
         return;
     default:
         return;
@@ -307,12 +288,9 @@ void ConfigWidget::forbidEditing()
 
 void ConfigWidget::busNotification(int kind, const QString& path, bool success)
 {
-    constexpr int Read = 0;
     constexpr int Sent = 1;
     if (kind == Sent)
         m_save.sent(path, success);
-    else if (kind == Read && path == QLatin1String(FileLocations::FieldbusConfigXml))
-        takeReading(success);
 }
 
 void ConfigWidget::refreshStatus()

@@ -36,6 +36,9 @@ signals:
     void sendSaveSignal();
 
 protected:
+    void beginLoad() override;
+    std::vector<PageFile> files() const override;
+    void fill() override;
     void showEvent(QShowEvent* event) override;
 
 private slots:
@@ -55,7 +58,6 @@ private slots:
     void slotSetMtcpFreeByteAndAddr(double value) { enterStart(value); }
     void on_bt_EditOrSave_clicked();
     void slotSaveAndReboot();
-    void slotGetFileToUi();
     void slotRestoreUi();
 
 private:
@@ -68,11 +70,6 @@ private:
     /// Fills the tables of all tabs.
     void showAll();
 
-    /// The service has read its file anew, or could not: because this page asked for it, or for an import.
-    void takeReading(bool success);
-    /// Shows what the controller has since; what is edited only if the operator wants that. The page may be
-    /// gone afterwards.
-    void catchUp();
     void setEditing(bool editing);
     void editCell(Mapping::Bus bus, int row, int column);
     /// Opens the keyboard or says why not. The page may be gone afterwards.
@@ -92,9 +89,6 @@ private:
     QStringList m_busNames; // switched on when the quantities were loaded
     std::vector<BusMappingTab*> m_tabs;
     bool m_loaded = false;
-    bool m_isRead = false;   // the service had read its file when the page was filled
-    bool m_outdated = false; // the service has read another configuration while this one was edited
-    bool m_reading = false;  // the service was asked to read its file for this page
     bool m_editing = false;
     bool m_entering = false;              // a keyboard or a refusal is open
     int m_editedTable = 0;                // the one of the cell that was pressed last

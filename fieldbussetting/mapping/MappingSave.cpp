@@ -1,7 +1,6 @@
 #include "MappingSave.h"
 
 #include "BusFileDataManager.h"
-#include "ControllerCopies.h"
 #include "ControllerVariables.h"
 #include "FormerFiles.h"
 #include "SysSettingApi.h"
@@ -54,8 +53,8 @@ void MappingSave::sent(const QString& path, bool success)
     if (!isUnderWay() || path != QLatin1String(FileLocations::FieldbusConfigXml))
         return;
     FormerFiles::instance().serviceEnds(path, success);
+    m_page.noteServiceSent(ConfigFile::IoMapping, success);
     if (success) {
-        ControllerCopies::instance().changed(path);
         // The answer to the save before, which was rejected or came too late, is not the one to this save.
         changeUpdateBits(UpdateState::Taken | UpdateState::Rejected, UpdateState::Announced);
         m_waiting = true;
@@ -78,9 +77,10 @@ void MappingSave::lookForAcknowledgement()
     if (!m_waiting || !isUpdateBitSet(UpdateState::Taken))
         return;
     endWaiting();
-    switch (m_page.ask(tr("Save successfully, and send Configuration file to controller! Are you sure to "
-                          "restart robot to make it effect?"),
-                       MsgBox::YesNo)) {
+    switch (
+        m_page.askGrave(tr("Save successfully, and send Configuration file to controller! Are you sure to "
+                           "restart robot to make it effect?"),
+                        MsgBox::YesNo)) {
     case PageBase::Answer::Gone:
         return;
     case PageBase::Answer::Confirmed:

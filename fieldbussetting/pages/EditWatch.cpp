@@ -45,6 +45,12 @@ void EditWatch::settle()
     setEdited(false);
 }
 
+void EditWatch::resume()
+{
+    m_paused = false;
+    check();
+}
+
 void EditWatch::check()
 {
     if (m_paused)

@@ -24,6 +24,8 @@ public:
     void pause() { m_paused = true; }
     /// What stands there now is not edited.
     void settle();
+    /// What stands there now may be.
+    void resume();
     /// Looks whether something changed.
     void check();
     bool isEdited() const { return m_edited; }

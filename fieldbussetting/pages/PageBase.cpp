@@ -95,6 +95,13 @@ PageBase::Answer PageBase::ask(const QString& text, MsgBox::Buttons buttons)
     return runBox(new MsgBox(MsgBox::Information, text, this, buttons));
 }
 
+PageBase::Answer PageBase::askGrave(const QString& text, MsgBox::Buttons buttons)
+{
+    auto* box = new MsgBox(MsgBox::Information, text, this, buttons);
+    box->setProperty("grave", true);
+    return runBox(box);
+}
+
 Outcome PageBase::failed(const TransferTexts& texts, const char* text, const QString& file)
 {
     const QString message = translated(text).replace(QLatin1String("%1"), file);
@@ -110,6 +117,14 @@ Outcome PageBase::fetchAndRead(ConfigFile file, const FileOperation& read, const
 {
     const QPointer<PageBase> self(this);
     const FileLocation& location = FileLocations::of(file);
+    if (location.isOfService()) {
+        const bool isThere = read({});
+        if (!self)
+            return Outcome::Gone;
+        if (isThere)
+            return Outcome::Done;
+        return isAskedFor() ? failed(texts, texts.getFailed, location.controller) : Outcome::Failed;
+    }
     const bool fetched = lib()->getFileFromCtrl(location.local, location.controller);
     if (!self)
         return Outcome::Gone;
@@ -159,6 +174,13 @@ Outcome PageBase::writeAndSend(ConfigFile file, const FileOperation& operation, 
     return written == Outcome::Done ? send(file, texts) : written;
 }
 
+void PageBase::noteServiceSent(ConfigFile file, bool sent)
+{
+    m_provenance.accept(file);
+    if (sent)
+        m_edits.settle();
+}
+
 bool PageBase::mayBeSaved(SaveWhen when)
 {
     return when == SaveWhen::ServoOff ? checkServoOff() : Restart::isAllowed();
@@ -174,14 +196,8 @@ bool PageBase::checkServoOff()
 
 PageBase::Answer PageBase::askRestart()
 {
-    auto* box =
-        new MsgBox(MsgBox::Information,
-                   translated(QT_TRANSLATE_NOOP(
-                       "PageBase", "Save successfully, Are you sure to restart robot to make it effect?")),
-                   this, MsgBox::OkCancel);
-    // Its "yes" is kept from under a hand that only goes on pressing, where the host can.
-    box->setProperty("grave", true);
-    return runBox(box);
+    return askGrave(translated(QT_TRANSLATE_NOOP(
+        "PageBase", "Save successfully, Are you sure to restart robot to make it effect?")));
 }
 
 PageBase::Answer PageBase::tellRestarted(bool stopped)

@@ -77,7 +77,8 @@ public:
     static FileOperation plain(PlainOperation operation);
 
     /// A file that a page shows: how its local copy is read into the library's record, and what is said when
-    /// it cannot be had.
+    /// it cannot be had. One that the bus file data service holds is fetched and read in one, and a failure
+    /// is said only to whoever wants to save.
     struct PageFile
     {
         ConfigFile file;
@@ -108,6 +109,9 @@ public:
 
     static FieldbusSettingLib* lib() { return FieldbusSettingLib::getInstance(); }
 
+    /// The bus file data service's file, which it has read already or is asked to read.
+    static PageFile heldByService(ConfigFile file, const TransferTexts& texts = {});
+
     /// A text in the operator's language: by the page's own translation, else by the one that all pages
     /// share. What the pages share is marked with QT_TRANSLATE_NOOP("PageBase", ...).
     QString translated(const char* text) const;
@@ -116,6 +120,9 @@ public:
     Answer tell(MsgBox::Kind kind, const QString& text);
     /// Asks a question; the box is of kind information.
     Answer ask(const QString& text, MsgBox::Buttons buttons = MsgBox::OkCancel);
+    /// A question after which the robot restarts: its "yes" is kept from under a hand that only goes on
+    /// pressing, where the host can.
+    Answer askGrave(const QString& text, MsgBox::Buttons buttons = MsgBox::OkCancel);
     bool confirmed(const QString& text) { return ask(text) == Answer::Confirmed; }
 
     enum class Input { Blocked, Free };
@@ -135,6 +142,11 @@ public:
     /// Sends the local file. When all files of the page are sent, what stands on it counts as saved.
     Outcome send(ConfigFile file, const TransferTexts& texts = {});
     Outcome writeAndSend(ConfigFile file, const FileOperation& operation, const TransferTexts& texts = {});
+    /// The bus file data service has sent the last file of a save, or could not.
+    void noteServiceSent(ConfigFile file, bool sent);
+    /// Loads the page again when the controller's files are newer; with edits on it, if the operator wants
+    /// that. The page may be gone afterwards.
+    void catchUp();
 
     /// What must hold before anything is saved.
     enum class SaveWhen {
@@ -174,6 +186,9 @@ protected:
     virtual Outcome fetch();
     /// Shows the records, whether or not they were read just now. What it shows counts as not edited.
     virtual void fill() {}
+    /// Whether what stands on the page may be saved although one of its files could not be read. It is then
+    /// left as the operator chose it.
+    virtual bool isUsableUnread() const { return false; }
 
     /// Applies the page's style sheet and puts the line on the origin of the contents under the title; to be
     /// called when the form is built.
@@ -184,7 +199,7 @@ protected:
 
     /// Whether the load that runs is one that the operator waits for, to save.
     bool isAskedFor() const { return m_isAskedFor; }
-    /// Shows the records again; what they hold counts as not edited.
+    /// Shows the records again. What a save that failed has left in them is still to be saved.
     void refill();
 
     void showEvent(QShowEvent* event) override;
@@ -196,9 +211,8 @@ private slots:
     void catchUpWhenShown();
 
 private:
-    /// Loads the page again; with edits on it, if the operator wants that. The page may be gone afterwards.
-    void catchUp();
     Answer askReload();
+    bool holdsService() const;
     void noteSent(ConfigFile file);
     Outcome giveWay();
     Outcome sayUnread(const PageFile& file);
@@ -212,6 +226,7 @@ private:
     std::vector<ConfigFile> m_unsent; ///< files of the page that a save has still to send
     bool m_loading = false;
     bool m_isAskedFor = false;
+    QDateTime m_readAt;         ///< the first of the files that are fetched now
     PageHead* m_head = nullptr; ///< none on a page without a title
     std::optional<Busy> m_catchingUp;
 };

@@ -3,6 +3,7 @@
 
 #include "ControllerCopies.h"
 #include "PageHead.h"
+#include "ServiceFiles.h"
 
 #include <QAbstractButton>
 
@@ -17,7 +18,11 @@ Outcome PageBase::fetch()
             return read;
         // A file that holds nothing of what belongs into it was read without a fault; whoever wants to save
         // is told.
-        const bool isFilled = read == Outcome::Done && ControllerCopies::instance().isRead(file.file);
+        const bool isOfService = FileLocations::of(file.file).isOfService();
+        const bool isFilled =
+            read == Outcome::Done && (isOfService || ControllerCopies::instance().isRead(file.file));
+        if (isOfService && isFilled && ServiceFiles::readAt(file.file).isValid())
+            m_readAt = qMin(m_readAt, ServiceFiles::readAt(file.file));
         if (read == Outcome::Done && !isFilled && isAskedFor() && sayUnread(file) == Outcome::Gone)
             return Outcome::Gone;
         if (!isFilled)
@@ -39,12 +44,17 @@ Outcome PageBase::load(Input input)
     for (const PageFile& file : files())
         names.push_back(file.file);
     m_provenance.begin(names);
+    m_readAt = QDateTime::currentDateTime();
     const Outcome outcome = fetch();
     if (outcome == Outcome::Gone)
         return outcome;
     m_loading = false;
-    m_provenance.end(outcome == Outcome::Done);
-    refill();
+    m_provenance.end(outcome == Outcome::Done, m_readAt);
+    if (outcome == Outcome::Done || !isAskedFor() || !isUsableUnread()) {
+        m_edits.pause();
+        fill();
+        m_edits.settle();
+    }
     if (m_head)
         m_head->showProvenance(showsFiles() ? m_provenance : Provenance());
     return outcome;
@@ -54,14 +64,31 @@ void PageBase::refill()
 {
     m_edits.pause();
     fill();
-    m_edits.settle();
+    m_edits.resume();
+}
+
+PageBase::PageFile PageBase::heldByService(ConfigFile file, const TransferTexts& texts)
+{
+    const auto read = [file](const QString&) {
+        return ServiceFiles::isCurrent(file) || ServiceFiles::read(file);
+    };
+    return {file, read, texts};
+}
+
+// A file of the service that was read anew for somebody else, or could not be.
+bool PageBase::holdsService() const
+{
+    const std::vector<ConfigFile> sources = m_provenance.files();
+    return std::all_of(sources.begin(), sources.end(), [](ConfigFile file) {
+        return !ServiceFiles::keeps(file) || ServiceFiles::isCurrent(file);
+    });
 }
 
 bool PageBase::isReadyToSave()
 {
     if (m_loading)
         return false;
-    if (m_provenance.state() != Provenance::State::Read) {
+    if (m_provenance.state() != Provenance::State::Read || !holdsService()) {
         m_isAskedFor = true;
         const Outcome loaded = load();
         if (loaded == Outcome::Gone)
@@ -70,9 +97,9 @@ bool PageBase::isReadyToSave()
         if (loaded == Outcome::Done)
             tell(MsgBox::Information,
                  translated(QT_TRANSLATE_NOOP("PageBase", "Loaded now. Look at the settings, then save.")));
-        return false;
-    }
-    if (m_provenance.isOutdated()) {
+        if (loaded == Outcome::Done || !isUsableUnread())
+            return false;
+    } else if (m_provenance.isOutdated()) {
         catchUp();
         return false;
     }
@@ -105,7 +132,7 @@ void PageBase::noteSent(ConfigFile file)
 void PageBase::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (m_loading || m_catchingUp || !m_provenance.isOutdated())
+    if (m_loading || m_catchingUp || isAtWork() || !m_provenance.isOutdated())
         return;
     m_catchingUp.emplace(this);
     scheduleOnce(0, &PageBase::catchUpWhenShown);
@@ -115,7 +142,7 @@ void PageBase::catchUpWhenShown()
 {
     const QPointer<PageBase> self(this);
     // One that was left meanwhile catches up when it is shown again.
-    if (isVisible() && m_provenance.isOutdated())
+    if (isVisible())
         catchUp();
     if (self)
         m_catchingUp.reset();
@@ -123,6 +150,8 @@ void PageBase::catchUpWhenShown()
 
 void PageBase::catchUp()
 {
+    if (!m_provenance.isOutdated())
+        return;
     const Answer answer = isEdited() ? askReload() : Answer::Confirmed;
     if (answer == Answer::Confirmed)
         load();

@@ -20,10 +20,10 @@ void Provenance::begin(const std::vector<ConfigFile>& files)
         m_sources.push_back({file, versionOf(file)});
 }
 
-void Provenance::end(bool read)
+void Provenance::end(bool read, const QDateTime& time)
 {
     m_state = read ? State::Read : State::NotRead;
-    m_time = QTime::currentTime();
+    m_time = time;
 }
 
 bool Provenance::isOutdated() const

@@ -3,7 +3,7 @@
 
 #include "FileLocations.h"
 
-#include <QTime>
+#include <QDateTime>
 
 #include <vector>
 
@@ -20,12 +20,12 @@ public:
 
     /// The page is about to fetch these files. What changes from now on is newer than what is read.
     void begin(const std::vector<ConfigFile>& files);
-    /// It has read them all, or has not.
-    void end(bool read);
+    /// It has read them all, the first of them at `time`, or has not.
+    void end(bool read, const QDateTime& time);
 
     State state() const { return m_state; }
     /// When they were read.
-    QTime time() const { return m_time; }
+    QDateTime time() const { return m_time; }
     /// Whether one of the files was changed on the controller since the page fetched it. Never before the
     /// first fetch.
     bool isOutdated() const;
@@ -45,7 +45,7 @@ private:
 
     std::vector<Source> m_sources;
     State m_state = State::Nothing;
-    QTime m_time;
+    QDateTime m_time;
 };
 
 #endif

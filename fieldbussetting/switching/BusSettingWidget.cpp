@@ -1,8 +1,10 @@
 #include "BusSettingWidget.h"
 
 #include "BusFileDataManager.h"
+#include "ControllerCopies.h"
 #include "FieldbusModule.h"
 #include "ImportRoles.h"
+#include "ServiceFiles.h"
 #include "ui_BusSettingWidget.h"
 
 #include <QComboBox>
@@ -30,6 +32,7 @@ BusSettingWidget::BusSettingWidget()
     for (int i = 0; i < Count; ++i)
         connect(m_board.combo(static_cast<Switch>(i)), QOverload<int>::of(&QComboBox::currentIndexChanged),
                 this, &BusSettingWidget::showDifferences);
+    edits().add([this] { return m_board.choices(); });
     applyStyle();
 
     setIsFieldXml(true);
@@ -45,31 +48,46 @@ BusSettingWidget::~BusSettingWidget()
 
 void BusSettingWidget::slotGetFileToUi()
 {
-    if (reloadBlocked() == Outcome::Gone)
+    if (load() == Outcome::Gone)
         return;
     m_moduleCheck.start([] { return lib()->get_ifidbus_anybus_fm() != 0; },
                         [this](Poll::Answer) { checkAnybus(m_board.combo(EtherCatSlave)->currentIndex()); });
 }
 
-Outcome BusSettingWidget::reload()
+void BusSettingWidget::beginLoad()
 {
     m_board.setProfisafePresent(FieldbusModule::isProfisafePresent());
-    const Outcome read =
-        fetchAndRead(ConfigFile::Override, plain(&FieldbusSettingLib::readEtherCatFile), Texts);
-    if (read == Outcome::Gone)
-        return read;
-    m_overrideRead = read == Outcome::Done;
-    // What was chosen is to be saved all the same when nothing more is known than before.
-    if (m_overrideRead || !m_keepsChoices)
-        m_board.showRunning(m_overrideRead);
+    m_overrideRead = false;
+}
+
+std::vector<PageBase::PageFile> BusSettingWidget::files() const
+{
+    const auto readOverride = [this](const QString& localPath) {
+        return m_overrideRead = lib()->readEtherCatFile(localPath);
+    };
+    return {heldByService(ConfigFile::BusRoles, Texts), {ConfigFile::Override, readOverride, Texts}};
+}
+
+void BusSettingWidget::fill()
+{
+    m_board.takeRunning();
+    m_overrideRead = m_overrideRead && ControllerCopies::instance().isRead(ConfigFile::Override);
+    m_board.showRunning(m_overrideRead);
     showDifferences();
-    return read;
+}
+
+// Without the devices of the override file the EtherCAT slave's role stays as it is, and the others can be
+// switched.
+bool BusSettingWidget::isUsableUnread() const
+{
+    return ServiceFiles::isCurrent(ConfigFile::BusRoles);
 }
 
 void BusSettingWidget::showDifferences()
 {
     const int differences = m_board.markDifferences();
     ui->saveBusBt->setText(differences == 0 ? tr("Save") : tr("Save (%1)").arg(differences));
+    edits().check();
 }
 
 void BusSettingWidget::slotCheckFBSEcat()
@@ -174,25 +192,8 @@ void BusSettingWidget::showWarnings()
 
 void BusSettingWidget::on_saveBusBt_clicked()
 {
-    if (!m_transfer.isSaveAllowed() || !checkServoOff())
-        return;
-    // What was not known yet is looked at before it is saved; what cannot be known keeps its role.
-    m_keepsChoices = true;
-    const Outcome read = m_overrideRead ? Outcome::Failed : reloadBlocked();
-    if (read == Outcome::Gone)
-        return;
-    m_keepsChoices = false;
-    if (read == Outcome::Done)
-        tell(MsgBox::Information,
-             translated(QT_TRANSLATE_NOOP("PageBase", "Loaded now. Look at the settings, then save.")));
-    else
+    if (m_transfer.isSaveAllowed() && checkServoOff() && isReadyToSave())
         m_save.begin();
-}
-
-Outcome BusSettingWidget::reloadBlocked()
-{
-    const Busy busy(this);
-    return reload();
 }
 
 void BusSettingWidget::slotSaveAndReboot()
@@ -202,8 +203,7 @@ void BusSettingWidget::slotSaveAndReboot()
 
 void BusSettingWidget::busNotification(int kind, const QString& path, bool success)
 {
-    Q_UNUSED(path)
-    if (kind == WrittenAndSent)
+    if (kind == WrittenAndSent && path == QLatin1String(FileLocations::FieldbusXml))
         m_save.finish(success);
 }
 
@@ -234,14 +234,10 @@ RoleConditions BusSettingWidget::roleConditions() const
     return {canHaveProfinetSlave(), m_board.isProfisafePresent()};
 }
 
-void BusSettingWidget::holdSave()
-{
-    ui->saveBusBt->setEnabled(false);
-}
-
 void BusSettingWidget::refreshStatus()
 {
-    if (canHaveProfinetSlave() && !m_pfnSlaveManaged) {
+    // Nothing is told to the controller before its roles are known.
+    if (canHaveProfinetSlave() && !m_pfnSlaveManaged && m_board.isKnown()) {
         m_pfnSlaveManaged = true;
         m_board.showProfinetSlave();
         showDifferences();

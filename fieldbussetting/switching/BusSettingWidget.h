@@ -45,7 +45,7 @@ private slots:
     void on_devnetmSwitch_currentIndexChanged(int index);
     /// One step of a save that waits for the controller.
     void slotSaveAndReboot();
-    void slotGetFileToUi();
+    void slotGetFileToUi() override;
     /// Waits for the code of the fieldbus module, and then checks that the EtherCAT slave has its device.
     void slotCheckFBSEcat();
     void on_btn_import_clicked();
@@ -60,15 +60,18 @@ private:
         QComboBox* switchBack = nullptr; ///< goes back to off when the warning was read
     };
 
+    void beginLoad() override;
+    std::vector<PageFile> files() const override;
+    void fill() override;
+    bool isUsableUnread() const override;
+
     // What the save and the transfer ask of the page.
-    Outcome reload() override;
+    Outcome reload() override { return load(); }
     bool isOverrideRead() const override { return m_overrideRead; }
     void takeInput(bool take) override;
     const TransferTexts& overrideTexts() const override { return Texts; }
     RoleConditions roleConditions() const override;
-    void holdSave() override;
 
-    Outcome reloadBlocked();
     /// Which switches differ from what runs, and how many.
     void showDifferences();
     void openDeviceNet(Switch which, Switch other, int index, const char* warning);
@@ -83,8 +86,7 @@ private:
 
     SwitchBoard m_board{this};
     std::unique_ptr<Ui::BusSettingWidget> ui;
-    bool m_overrideRead = true;
-    bool m_keepsChoices = false; ///< a load that fails leaves the switches as they were chosen
+    mutable bool m_overrideRead = true; ///< by the last load
     QQueue<SwitchWarning> m_warnings;
     bool m_showingWarnings = false;
     Poll m_moduleCheck{{70, 10}, this};

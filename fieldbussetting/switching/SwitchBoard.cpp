@@ -1,6 +1,7 @@
 #include "SwitchBoard.h"
 
 #include "BusFileDataManager.h"
+#include "ServiceFiles.h"
 #include "SwitchRules.h"
 
 #include <QComboBox>
@@ -19,22 +20,32 @@ constexpr QSize IconSize(44, 24); // that of the pictures
 
 SwitchBoard::SwitchBoard(QWidget* page)
 {
-    BusFileDataManager* service = BusFileDataManager::getInstance();
-    const std::vector<BusName> running = service->getBusNameList(true, true);
     for (int i = 0; i < Count; ++i) {
         m_combos[i] = new QComboBox(page);
         m_combos[i]->setObjectName(QLatin1String(rows()[i].objectName));
         m_combos[i]->setIconSize(IconSize);
         m_combos[i]->addItem(QIcon(QStringLiteral(":/image/switch_off.png")), tr("OFF"));
         m_combos[i]->addItem(QIcon(QStringLiteral(":/image/switch_on.png")), tr("ON"));
-        m_running[i] = std::any_of(running.begin(), running.end(), [i](const BusName& bus) {
-            return bus.name == QLatin1String(rows()[i].busName());
-        });
     }
-    m_running[FreeBus] = service->isOpenFreeBus();
+    takeRunning();
     // Until it is known that the controller has them.
     combo(EipSlave)->setEnabled(false);
     combo(PfnSlave)->setEnabled(false);
+}
+
+void SwitchBoard::takeRunning()
+{
+    const int reading = ServiceFiles::readings(ConfigFile::BusRoles);
+    if (reading == m_reading)
+        return;
+    m_reading = reading;
+    BusFileDataManager* service = BusFileDataManager::getInstance();
+    const std::vector<BusName> running = service->getBusNameList(true, true);
+    for (int i = 0; i < Count; ++i)
+        m_running[i] = std::any_of(running.begin(), running.end(), [i](const BusName& bus) {
+            return bus.name == QLatin1String(rows()[i].busName());
+        });
+    m_running[FreeBus] = service->isOpenFreeBus();
 }
 
 void SwitchBoard::layOut(QGridLayout* layout)
@@ -63,6 +74,14 @@ RoleTable::States SwitchBoard::switchedOn() const
     RoleTable::States on{};
     for (int i = 0; i < Count; ++i)
         on[static_cast<std::size_t>(rows()[i].role)] = isOn(static_cast<Switch>(i));
+    return on;
+}
+
+QString SwitchBoard::choices() const
+{
+    QString on;
+    for (int i = 0; i < Count; ++i)
+        on += QLatin1Char(isOn(static_cast<Switch>(i)) ? '1' : '0');
     return on;
 }
 

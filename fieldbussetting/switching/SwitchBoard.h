@@ -22,7 +22,7 @@ public:
     using Switch = BusSwitches::Switch;
 
     /// Makes the switches as children of `page`, before its form is built, which connects them to their slots
-    /// by name. What runs is what the bus file data service knows now, for as long as the page lives.
+    /// by name. What runs is what the bus file data service knows now.
     explicit SwitchBoard(QWidget* page);
     /// Puts them, with their labels, into the form's layout.
     void layOut(QGridLayout* layout);
@@ -34,6 +34,14 @@ public:
     bool runs(Switch which) const { return m_running[which]; }
     bool differs(Switch which) const { return isOn(which) != runs(which); }
     RoleTable::States switchedOn() const;
+    /// What is chosen, to be compared.
+    QString choices() const;
+
+    /// What runs is what the service has read since, if it has: an import may have brought other roles.
+    /// Otherwise it stays what it was, whatever the service was told to save.
+    void takeRunning();
+    /// Whether the service has read the roles at all.
+    bool isKnown() const { return m_reading > 0; }
 
     /// With ProfiSAFE two of the masters cannot be had, and more roles need the free configuration.
     void setProfisafePresent(bool present);
@@ -60,6 +68,7 @@ private:
     std::array<bool, BusSwitches::Count> m_running{};
     std::array<bool, BusSwitches::Count> m_changed{}; ///< toggled with the switch
     bool m_profisafePresent = false;
+    int m_reading = 0; ///< number of the service's reading that says what runs
 };
 
 #endif

@@ -1,7 +1,6 @@
 #include "SwitchSave.h"
 
 #include "BusFileDataManager.h"
-#include "ControllerCopies.h"
 #include "ControllerVariables.h"
 #include "FormerFiles.h"
 #include "SwitchBoard.h"
@@ -56,12 +55,11 @@ void SwitchSave::begin()
             return;
         }
     }
-    const Answer answer = m_page.ask(
+    const Answer answer = m_page.askGrave(
         tr("This operation will cause the robot to restart.\n Are you sure to save the configuration?"));
     if (answer == Answer::Gone)
         return;
     if (answer != Answer::Confirmed) {
-        const PageBase::Busy busy(&m_page);
         m_host.reload();
         return;
     }
@@ -201,14 +199,16 @@ void SwitchSave::sendSwitches()
 
 void SwitchSave::finish(bool sent)
 {
+    if (m_state != State::Ending)
+        return; // somebody else's
     m_notice.close();
     FormerFiles::instance().serviceEnds(QLatin1String(FileLocations::FieldbusXml), sent);
+    m_page.noteServiceSent(ConfigFile::BusRoles, sent);
     if (!sent) {
         if (m_page.tell(MsgBox::Error, tr("Failed to write file.")) != Answer::Gone)
             end();
         return;
     }
-    ControllerCopies::instance().changed(QLatin1String(FileLocations::FieldbusXml));
     if (SwitchRules::losesPerformance(lib()->get_ifidbus_performance_switch(), m_board.switchedOn()))
         lib()->set_ifidbus_performance_switch(0);
     switch (m_page.tell(MsgBox::Information,

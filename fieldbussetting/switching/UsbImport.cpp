@@ -63,7 +63,7 @@ void UsbImport::run(const QString& drive, const ExportFolder& folder)
 {
     replaceFiles(drive, folder);
     if (!m_page)
-        ServiceFiles::readAnew(); // the service may have read in the middle of it
+        ServiceFiles::requestAll(); // the service may have read in the middle of it
 }
 
 void UsbImport::replaceFiles(const QString& drive, const ExportFolder& folder)
@@ -81,6 +81,8 @@ void UsbImport::replaceFiles(const QString& drive, const ExportFolder& folder)
         takeFilesOver();
     else
         tellFailure(result, transfer);
+    if (m_page && !result.isDone() && transfer.hasSent())
+        showFiles(); // what was put back, or the mixture
 }
 
 bool UsbImport::prepare(const QString& drive, const ExportFolder& folder, ImportTransfer& transfer,
@@ -119,12 +121,12 @@ bool UsbImport::isConfirmed(const ExportFolder& folder, const std::vector<Import
         return false;
     const int missing = missingOf(entries);
     const int all = static_cast<int>(entries.size());
-    return missing == 0 || m_page->ask(tr("The folder %1 is not a whole export:\n"
-                                          "it brings %2 of %3 files. The others stay as they are.\n"
-                                          "Import it all the same?")
-                                           .arg(folder.name, QString::number(all - missing),
-                                                QString::number(all)),
-                                       MsgBox::YesNo) == Answer::Confirmed;
+    return missing == 0 ||
+           m_page->ask(tr("The folder %1 is not a whole export:\n"
+                          "it brings %2 of %3 files. The others stay as they are.\n"
+                          "Import it all the same?")
+                           .arg(folder.name, QString::number(all - missing), QString::number(all)),
+                       MsgBox::YesNo) == Answer::Confirmed;
 }
 
 TransferResult UsbImport::send(ImportTransfer& transfer, int files)
@@ -149,16 +151,16 @@ TransferResult UsbImport::send(ImportTransfer& transfer, int files)
     return result;
 }
 
-bool UsbImport::holdFiles()
+bool UsbImport::showFiles()
 {
-    m_host.holdSave();
-    ServiceFiles::readAnew();
+    ServiceFiles::requestAll();
+    m_page->catchUp();
     return !m_page.isNull();
 }
 
 void UsbImport::takeFilesOver()
 {
-    if (!holdFiles())
+    if (!showFiles())
         return;
     switch (m_page->askRestart()) {
     case Answer::Confirmed:
@@ -171,9 +173,7 @@ void UsbImport::takeFilesOver()
         break;
     default:
         m_page->tell(MsgBox::Information,
-                     tr("The files of the controller take effect with the next restart.\n"
-                        "Until then the pages may show what was there before,\n"
-                        "and the bus switches cannot be saved."));
+                     tr("The files of the controller take effect with the next restart."));
         break;
     }
 }
@@ -237,10 +237,10 @@ bool UsbImport::settleUnfinished()
             offerPutBack(transfer);
     } // the page may be gone, and what was left put back
     if (!m_page)
-        ServiceFiles::readAnew();
+        ServiceFiles::requestAll();
     else if (!ImportJournal::isThere(keptDirectory()))
         takeFilesOver();
     else // a mixture, for which no restart is offered
-        holdFiles();
+        showFiles();
     return false;
 }

@@ -36,9 +36,9 @@ private:
     bool isConfirmed(const ExportFolder& folder, const std::vector<ImportEntry>& entries,
                      const ImportedRoles& roles);
     TransferResult send(ImportTransfer& transfer, int files);
-    /// To be called when the controller's files have changed below what the pages show. False when the page
-    /// is gone.
-    bool holdFiles();
+    /// To be called when the controller's files have changed below what the pages show: the one of the
+    /// buttons shows them, the others when they are shown. False when it is gone.
+    bool showFiles();
     /// ... and offers the restart.
     void takeFilesOver();
     void tellFailure(const TransferResult& result, ImportTransfer& transfer);

@@ -4,7 +4,6 @@
 #include "ImportFolderDialog.h"
 #include "PageBase.h"
 #include "ProgressDialog.h"
-#include "ServiceFiles.h"
 #include "TransferHost.h"
 #include "TransferProgress.h"
 #include "TransferUnderWay.h"
@@ -15,7 +14,6 @@
 UsbTransfer::UsbTransfer(PageBase& page, TransferHost& host)
     : m_page(page)
     , m_host(host)
-    , m_shownVersion(ServiceFiles::version())
 {
 }
 
@@ -46,18 +44,10 @@ bool UsbTransfer::isSaveAllowed()
         return false;
     ProgressDialog::hideOn(m_page);
     // Only a question: where the former files cannot be put back, the operator must not be locked out.
-    if (UnfinishedImport::exists() && m_page.ask(tr("An earlier import was neither finished nor undone.\n"
-                                                    "With Import the former files can be put back.\n"
-                                                    "Save the bus switches all the same?"),
-                                                 MsgBox::YesNo) != PageBase::Answer::Confirmed)
-        return false;
-    if (m_shownVersion != ServiceFiles::version()) {
-        m_page.tell(MsgBox::Warning,
-                    tr("The files of the controller have changed since this page was opened.\n"
-                       "Please close the application and open it again first."));
-        return false;
-    }
-    return true;
+    return !UnfinishedImport::exists() || m_page.ask(tr("An earlier import was neither finished nor undone.\n"
+                                                        "With Import the former files can be put back.\n"
+                                                        "Save the bus switches all the same?"),
+                                                     MsgBox::YesNo) == PageBase::Answer::Confirmed;
 }
 
 QString UsbTransfer::insertedDrive()

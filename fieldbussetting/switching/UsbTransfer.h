@@ -36,7 +36,6 @@ private:
 
     PageBase& m_page;
     TransferHost& m_host;
-    const int m_shownVersion; ///< of the service's files, when the page was made
 };
 
 #endif

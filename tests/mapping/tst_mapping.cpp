@@ -125,7 +125,7 @@ private slots:
             MsgBoxScript::answerNext(reload ? MsgBox::Confirmed : MsgBox::Second);
             QVERIFY(showAgain());
             QCOMPARE(messages().constLast(),
-                     QString("Changed on the controller since it was read.\nReload?"));
+                     QString("Changed on the controller since it was read"));
             QCOMPARE(isEditing(), !reload);
             QCOMPARE(cell("Mtcp", 1, 1), QString(reload ? "64" : "16"));
         }

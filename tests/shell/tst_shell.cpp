@@ -108,6 +108,40 @@ private slots:
             QVERIFY(!(window->isVisible() && window->inherits("ProgressBarWidget")));
     }
 
+    // What is opened without the list of roles saves and tells the controller nothing; Retry brings them.
+    void rolesAreReadAgain()
+    {
+        QVERIFY(controller().files().write(FieldbusXml, fieldbusWith({"Mes", "ProfinetSlave"})));
+        set("ifidbus.anybus_fm", 14);
+        set("ifidbus.is_rp2pro", 1);
+        for (const bool isPageOpened : {false, true}) {
+            QVERIFY(fail("fetch-fails:-1:" + FieldbusXml));
+            window().openApplication("fieldbussetting");
+            QVERIFY(QTest::qWaitFor([this] { return isOpen() && visibleButtons().contains("btn_retry"); }) &&
+                    settle());
+            QVERIFY(press("btn_retry") && settle());
+            QVERIFY(visibleButtons().contains("btn_retry") && !visibleButtons().contains("mesBtn"));
+            if (isPageOpened) {
+                traffic().clear();
+                MsgBoxScript::answerByDefault(MsgBox::Confirmed);
+                QVERIFY(openPage("busSetting") && tick(3));
+                QVERIFY(press("saveBusBt") && settle());
+                QCOMPARE(messages(), QStringList("Failed to get file:" + FieldbusXml));
+                QCOMPARE(traffic().stores().size() + int(traffic().writes().size()), 0);
+            }
+            controller().faults().clearAll();
+            QVERIFY(press(isPageOpened ? "saveBusBt" : "btn_retry") && settle());
+            QVERIFY(visibleButtons().contains("mesBtn") && !visibleButtons().contains("btn_retry"));
+            QVERIFY(find("BusSettingWidget")->isVisible());
+            QCOMPARE(chosen("mesSwitch"), 1);
+            QVERIFY(tick(3) && press("exitBtn"));
+            QTRY_VERIFY(!isOpen());
+            stop();
+            start();
+            QVERIFY(controller().files().write(FieldbusXml, fieldbusWith({"Mes"})));
+        }
+    }
+
     void secondNotificationIsIgnored()
     {
         QVERIFY(open());

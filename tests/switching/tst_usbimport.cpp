@@ -13,9 +13,7 @@
 namespace {
 
 const QString Exported = QStringLiteral("Export file success!");
-const QString Imported = QStringLiteral("The files of the controller take effect with the next restart.\n"
-                                        "Until then the pages may show what was there before,\n"
-                                        "and the bus switches cannot be saved.");
+const QString Imported = QStringLiteral("The files of the controller take effect with the next restart.");
 const QString NothingChanged = QStringLiteral("Nothing was changed on the controller.");
 const QString PutBack = QStringLiteral("The former files were put back.");
 const QString Unfinished = QStringLiteral("An earlier import was neither finished nor undone.\n"
@@ -119,6 +117,8 @@ private slots:
     void pendantCannotWrite();
     void controllerChangesMeanwhile_data();
     void controllerChangesMeanwhile();
+    void pageShowsWhatCame_data();
+    void pageShowsWhatCame();
     void restartIsOffered();
 
 private:
@@ -186,7 +186,6 @@ void TestUsbImport::freshControllerGetsTheSame()
     QCOMPARE(exported.size(), 36);
     QCOMPARE(pendant.configuration(), exported);
     QCOMPARE(pendant.shownFiles.values().count("different"), 36);
-    QVERIFY(!pendant.find("saveBusBt")->isEnabled()); // it would bring the former roles back
     QVERIFY(!pendant.progressDialog()->isVisible());
     QCOMPARE(pendant.find<QProgressBar>("progressBar")->value(), 99);
 }
@@ -914,7 +913,6 @@ void TestUsbImport::unfinishedImportIsSettledFirst()
     QVERIFY(isPutBack(pendant));
     QCOMPARE(pendant.controllerFile(path), former);
     QVERIFY(isMesOn());
-    QVERIFY(!pendant.find("saveBusBt")->isEnabled());
 }
 
 // Input is blocked for fingers; a key gets through to the button that has the focus.
@@ -1043,6 +1041,55 @@ void TestUsbImport::controllerChangesMeanwhile()
         before["fa/pfb.cfg"] = content + "; by somebody else\n";
     QVERIFY(pendant.configuration() == before);
     QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 0);
+}
+
+void TestUsbImport::pageShowsWhatCame_data()
+{
+    QTest::addColumn<bool>("isEdited");
+    QTest::addColumn<bool>("isKept");
+    QTest::addColumn<bool>("isPutBack");
+    QTest::newRow("import") << false << false << false;
+    QTest::newRow("import over edits, kept") << true << true << false;
+    QTest::newRow("import over edits, loaded") << true << false << false;
+    QTest::newRow("put back") << false << false << true;
+    QTest::newRow("put back over edits, kept") << true << true << true;
+    QTest::newRow("put back over edits, loaded") << true << false << true;
+}
+
+// The switches are the controller's new ones at once, and what is saved next is theirs.
+void TestUsbImport::pageShowsWhatCame()
+{
+    QFETCH(bool, isEdited);
+    QFETCH(bool, isKept);
+    QFETCH(bool, isPutBack);
+    const QString changed = "Changed on the controller since it was read";
+    const QString path = "/application/fidbus/fieldbus.xml";
+    UsbPendant pendant;
+    QVERIFY(pendant.controller().files().write(path, roles({{"DeviceNetSlave", false}, {"Mes", false}})));
+    QVERIFY(pendant.open());
+    QVERIFY(write(pendant.usbDirectory() + "/fidbus_20240102_030405/fieldbus.xml",
+                  roles({{"DeviceNetSlave", false}, {"FreeBus", true}, {"Mes", true}})));
+    if (isPutBack) {
+        leaveUnfinished(pendant); // the one file was sent, and kept
+        QVERIFY(pendant.controllerFile(path).contains("FreeBus"));
+    }
+    if (isEdited)
+        pendant.choose("devnetSwitch", 1);
+    if (isKept)
+        pendant.declined << changed;
+    const int told = pendant.messages().size();
+    QCOMPARE(pendant.runImport(), Imported);
+    QCOMPARE(pendant.messages().mid(told).contains(changed), isEdited);
+    QCOMPARE(pendant.chosen("mesSwitch"), int(isPutBack == isKept));
+    QCOMPARE(pendant.chosen("devnetSwitch"), int(isKept));
+    QCOMPARE(pendant.find("label_edited")->isHidden(), !isKept);
+
+    pendant.controller().setRestartAllowed(false);
+    pendant.run("saveBusBt");
+    QTRY_VERIFY(pendant.messages().constLast().startsWith("Successfully saved"));
+    // What was imported beside the switches is not brought back.
+    QCOMPARE(pendant.controllerFile(path).contains("FreeBus"), !isPutBack);
+    QCOMPARE(pendant.controllerFile(path).contains("\"DeviceNetSlave\" enable=\"1\""), isKept);
 }
 
 void TestUsbImport::restartIsOffered()
