@@ -1,6 +1,7 @@
 #include "WholeFile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <cerrno>
@@ -78,6 +79,9 @@ bool WholeFile::writeThrough(int descriptor, Sync sync)
 
 bool WholeFile::replace(const QString& path, const QByteArray& content, Sync sync)
 {
+    // A link goes as the link it is: QSaveFile would write what it points to.
+    if (QFileInfo(path).isSymLink() && !QFile::remove(path))
+        return false;
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
            writeThrough(file.handle(), sync) && file.commit();

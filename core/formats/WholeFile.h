@@ -41,7 +41,8 @@ bool writeThrough(int descriptor, Sync sync = nullptr);
 
 /// Replaces the file in one step: it holds either the old bytes or the new ones. The new ones are flushed and
 /// written through, and both results checked, before the new file takes the old one's place: on a full disk
-/// or a failing one the old file stays. `sync` is another one for tests of that.
+/// or a failing one the old file stays. A link in its place is replaced, and what it points to stays. `sync`
+/// is another one for tests of that.
 bool replace(const QString& path, const QByteArray& content, Sync sync = nullptr);
 
 /// Whether both files can be read and hold the same bytes.

@@ -50,6 +50,13 @@ template <>
 inline constexpr FieldRange RangeOf<&MesServerConfig::IpPortIndex>{0, 1};
 
 template <>
+inline constexpr FieldRange RangeOf<&FinsClientConfig::ServerPort>{0, 65535};
+// A word of the data memory is addressed by 16 bits.
+template <>
+inline constexpr FieldRange RangeOf<&FinsClientConfig::ReadDmAddress>{0, 65535};
+template <>
+inline constexpr FieldRange RangeOf<&FinsClientConfig::WriteDmAddress>{0, 65535};
+template <>
 inline constexpr FieldRange RangeOf<&FinsClientConfig::AutoConnect>{0, 1};
 template <>
 inline constexpr FieldRange RangeOf<&FinsClientConfig::IpPortIndex>{0, 1};

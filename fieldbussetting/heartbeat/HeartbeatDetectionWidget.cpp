@@ -1,6 +1,7 @@
 #include "HeartbeatDetectionWidget.h"
 
 #include "FieldRanges.h"
+#include "FormFields.h"
 #include "OutsideMark.h"
 #include "QTouchLineEdit.h"
 #include "TouchCheckBox.h"
@@ -73,9 +74,8 @@ void HeartbeatDetectionWidget::buildRows()
         caption->setBuddy(checkBox);
         auto* edit = new QTouchLineEdit(this);
         edit->setObjectName(QLatin1String(row.edit));
-        edit->setCast(QTouchLineEdit::CastReal, TimeoutDecimals);
-        edit->setValueRange(RangeOf<&HeartbeatConfig::Mtcp_Timeout>.least,
-                            RangeOf<&HeartbeatConfig::Mtcp_Timeout>.most);
+        prepareEntry(edit, numberEntry(QTouchLineEdit::CastReal, RangeOf<&HeartbeatConfig::Mtcp_Timeout>,
+                                       TimeoutDecimals));
         edit->setProperty("caption", tr(row.caption));
         edit->setProperty("unit", tr("s"));
         edit->setAccessibleName(tr("%1, time").arg(tr(row.caption)));

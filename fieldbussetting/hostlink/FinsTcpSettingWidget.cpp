@@ -1,5 +1,6 @@
 #include "FinsTcpSettingWidget.h"
 
+#include "FieldRanges.h"
 #include "NetworkPorts.h"
 #include "ui_FinsTcpSettingWidget.h"
 
@@ -8,14 +9,17 @@ namespace {
 using Form = Ui_FinsTcpSettingWidget;
 using Record = FinsClientConfig;
 
+constexpr NumberEntry Port = numberEntry(QTouchLineEdit::CastInteger, RangeOf<&Record::ServerPort>);
+constexpr NumberEntry Address = numberEntry(QTouchLineEdit::CastInteger, RangeOf<&Record::ReadDmAddress>);
+
 constexpr FormField<Form, Record> Fields[] = {
     {&Form::serverIP_Edit, &Record::ServerIP},
-    {&Form::serverPort_edit, &Record::ServerPort},
+    {&Form::serverPort_edit, &Record::ServerPort, Port},
     {&Form::clientNode_edit, &Record::ClientNode},
     // Never shown; what the file says is kept in it and saved again.
     {&Form::autoConnectCB, &Record::AutoConnect},
-    {&Form::readAddress_edit, &Record::ReadDmAddress},
-    {&Form::writeAddress_edit, &Record::WriteDmAddress},
+    {&Form::readAddress_edit, &Record::ReadDmAddress, Address},
+    {&Form::writeAddress_edit, &Record::WriteDmAddress, Address},
     // Last: a change of the port replaces the node that the file gave.
     {&Form::interfaceCB, &Record::IpPortIndex},
 };
@@ -36,8 +40,6 @@ FinsTcpSettingWidget::FinsTcpSettingWidget()
     ui->autoConnectLb->hide();
     ui->autoConnectCB->hide();
     ui->serverIP_Edit->setCast(QTouchLineEdit::CastIpAddress);
-    for (QTouchLineEdit* edit : {ui->serverPort_edit, ui->readAddress_edit, ui->writeAddress_edit})
-        edit->setCast(QTouchLineEdit::CastInteger, -1);
     m_fields.bind(*ui, lib()->finsClient, Fields, edits());
 }
 

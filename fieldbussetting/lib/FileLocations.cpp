@@ -46,7 +46,7 @@ const ConfigRow ConfigRows[] = {
     {ConfigFile::Heartbeat, "/heartbeat.xml", "/application/fidbus/heartbeat.xml"},
     {ConfigFile::BusRoles, NoCopy, FieldbusXml},
     {ConfigFile::IoMapping, NoCopy, FieldbusConfigXml},
-    {ConfigFile::SlaveModule, NoCopy, "/fa/fbslave.cfgx"},
+    {ConfigFile::SlaveModule, NoCopy, SlaveModule},
 };
 
 constexpr auto ConfigCount = static_cast<std::size_t>(ConfigFile::Count);

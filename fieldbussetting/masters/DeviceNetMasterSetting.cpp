@@ -2,6 +2,8 @@
 
 #include "BusFileDataManager.h"
 #include "FieldRanges.h"
+#include "FormFields.h"
+#include "OutsideMark.h"
 #include "QTouchLineEdit.h"
 #include "RoleTable.h"
 #include "ZelFunctions.h"
@@ -30,10 +32,11 @@ const char* refusalText(List::Verdict verdict)
     return nullptr;
 }
 
-// A value that the combo does not offer leaves it as it is.
+// A value that the combo does not offer leaves it as it is, with a mark.
 void choose(QComboBox* combo, const QString& text)
 {
     const int index = combo->findText(text);
+    OutsideMark::show(combo, index < 0, text);
     if (index >= 0)
         combo->setCurrentIndex(index);
 }
@@ -75,14 +78,17 @@ void DeviceNetMasterSetting::connectSettings()
 {
     const auto connectEdit = [this](QTouchLineEdit* edit, FieldRange range,
                                     int DeviceNetMasterConfig::*member) {
-        edit->setCast(QTouchLineEdit::CastUnsigned);
-        edit->setValueRange(range.least, range.most);
+        prepareEntry(edit, numberEntry(QTouchLineEdit::CastUnsigned, range));
+        OutsideMark::follow(edit, range.least, range.most);
         connect(edit, &QTouchLineEdit::valueSetted, this,
                 [this, member](const QString& text) { m_list.settings().*member = text.toInt(); });
     };
     connectEdit(ui->le_wsid, RangeOf<&DeviceNetMasterConfig::WS_ID>, &DeviceNetMasterConfig::WS_ID);
     connectEdit(ui->le_ratio, RangeOf<&DeviceNetMasterConfig::PACHET_RATIO>,
                 &DeviceNetMasterConfig::PACHET_RATIO);
+    for (QComboBox* combo : {ui->cbb_endian, ui->cbb_baudrate})
+        connect(combo, qOverload<int>(&QComboBox::activated), combo,
+                [combo] { OutsideMark::show(combo, false, {}); });
     connect(ui->cbb_endian, qOverload<int>(&QComboBox::activated), this,
             [this](int index) { m_list.settings().ENDIAN = ui->cbb_endian->itemText(index); });
     connect(ui->cbb_baudrate, qOverload<int>(&QComboBox::activated), this,

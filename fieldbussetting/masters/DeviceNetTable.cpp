@@ -25,11 +25,26 @@ static_assert(std::size(Columns) == List::ColumnCount);
 constexpr int TableWidth = 808;
 constexpr int HeaderHeight = 35;
 constexpr int RowHeight = 40;
+constexpr int MarkSize = 16;
 
 // What is wider than its column is set narrower rather than smaller.
 constexpr int CaptionStretch = 75; // per cent
 constexpr int FlagStretch = 85;    // "0x4444"
 constexpr int StateStretch = 68;   // "Disconnected::12"
+
+// A file may hold what could not be entered.
+bool isOutside(const List& list, int row, int column)
+{
+    const List::Range range = List::rangeOf(column);
+    const double number = list.number(row, column);
+    return number < range.minimum || number > range.maximum;
+}
+
+void markOutside(QTableWidgetItem* cell, bool isOutside)
+{
+    if (cell->icon().isNull() == isOutside)
+        cell->setIcon(isOutside ? QIcon(QStringLiteral(":/image/C0_Done_warning.png")) : QIcon());
+}
 
 QFont stretched(int percent)
 {
@@ -48,6 +63,7 @@ DeviceNetTable::DeviceNetTable(QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // Of a state that is still too long the code at its end is what matters.
     setWordWrap(false);
+    setIconSize({MarkSize, MarkSize});
     setTextElideMode(Qt::ElideLeft);
     verticalHeader()->hide();
     horizontalHeader()->setFixedHeight(HeaderHeight);
@@ -86,8 +102,10 @@ void DeviceNetTable::showRow(const DeviceNetScanList& list, int row)
         item(row, List::CfgFlag)->setFont(stretched(FlagStretch));
         item(row, List::Connect)->setFont(stretched(StateStretch));
     }
-    for (int column = 0; column < List::Connect; ++column)
+    for (int column = 0; column < List::Connect; ++column) {
         item(row, column)->setText(list.text(row, column));
+        markOutside(item(row, column), List::isEditable(column) && isOutside(list, row, column));
+    }
 }
 
 // Delete takes the last row.

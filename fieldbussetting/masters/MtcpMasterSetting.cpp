@@ -2,6 +2,7 @@
 
 #include "BusFileDataManager.h"
 #include "FieldRanges.h"
+#include "FormFields.h"
 #include "OutsideMark.h"
 #include "ui_MtcpMasterSetting.h"
 
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -99,16 +101,15 @@ MtcpMasterSetting::~MtcpMasterSetting() = default;
 void MtcpMasterSetting::prepareFields()
 {
     ui->le_masterIp->setCast(QTouchLineEdit::CastIpAddress);
-    ui->le_masterPort->setCast(QTouchLineEdit::CastInteger);
-    ui->le_masterPort->setValueRange(RangeOf<&MtcpMasterConfig::SlavePort>.least,
-                                     RangeOf<&MtcpMasterConfig::SlavePort>.most);
-    ui->le_masterId->setCast(QTouchLineEdit::CastInteger);
-    ui->le_masterId->setValueRange(RangeOf<&MtcpMasterConfig::SlaveId>.least,
-                                   RangeOf<&MtcpMasterConfig::SlaveId>.most);
-    ui->le_timeout->setCast(QTouchLineEdit::CastReal, TimeoutDecimals);
-    ui->le_timeout->setValueRange(RangeOf<&MtcpMasterConfig::TimeOut>.least,
-                                  RangeOf<&MtcpMasterConfig::TimeOut>.most);
-    ui->le_timeout->setProperty("unit", tr("s"));
+    const std::pair<QTouchLineEdit*, NumberEntry> numbers[] = {
+        {ui->le_masterPort, numberEntry(QTouchLineEdit::CastInteger, RangeOf<&Record::SlavePort>)},
+        {ui->le_masterId, numberEntry(QTouchLineEdit::CastInteger, RangeOf<&Record::SlaveId>)},
+        {ui->le_timeout, numberEntry(QTouchLineEdit::CastReal, RangeOf<&Record::TimeOut>, TimeoutDecimals)},
+    };
+    for (const auto& [edit, entry] : numbers) {
+        prepareEntry(edit, entry);
+        OutsideMark::follow(edit, entry.least, entry.most);
+    }
     for (const auto& order : ByteOrders) {
         for (const char* name : ByteOrderNames)
             (ui.get()->*order.combo)->addItem(QLatin1String(name));

@@ -24,6 +24,14 @@ QString withoutBlanks(QString text)
 
 } // namespace
 
+void prepareEntry(QTouchLineEdit* edit, const NumberEntry& entry)
+{
+    edit->setCast(entry.cast, entry.decimals);
+    edit->setValueRange(entry.least, entry.most);
+    if (*entry.unit)
+        edit->setProperty("unit", QLatin1String(entry.unit));
+}
+
 QString FormFields::Field::entered() const
 {
     return edit ? edit->text() : QString::number(combo->currentIndex());
@@ -53,8 +61,7 @@ void FormFields::add(QWidget* widget, const Value& value, const std::optional<Nu
     m_fields.push_back({edit, combo, value, entry, typed, {}});
     watch.add(widget);
     if (auto* keyboardEdit = qobject_cast<QTouchLineEdit*>(edit); keyboardEdit && entry) {
-        keyboardEdit->setCast(entry->cast, entry->decimals);
-        keyboardEdit->setValueRange(entry->least, entry->most);
+        prepareEntry(keyboardEdit, *entry);
     }
     // What is entered can be entered.
     if (edit)

@@ -25,13 +25,17 @@ struct NumberEntry
     double least;
     double most;
     int decimals = -1;
+    const char* unit = ""; ///< shown on the keyboard
 };
+
+/// Prepares an edit for what its keyboard lets through.
+void prepareEntry(QTouchLineEdit* edit, const NumberEntry& entry);
 
 /// The entry of a range that a table of ranges gives.
 template <typename Range>
 constexpr NumberEntry numberEntry(int cast, const Range& range, int decimals = -1)
 {
-    return {cast, range.least, range.most, decimals};
+    return {cast, range.least, range.most, decimals, range.unit};
 }
 
 /// A field of a form and the member of a record that it shows. An edit shows a text or a number; a combo box

@@ -1,5 +1,6 @@
 #include "OutsideMark.h"
 
+#include <QLineEdit>
 #include <QStyle>
 #include <QWidget>
 
@@ -12,4 +13,13 @@ void OutsideMark::show(QWidget* field, bool isOutside, const QString& value)
     field->setToolTip(isOutside ? value : QString());
     field->style()->unpolish(field);
     field->style()->polish(field);
+}
+
+void OutsideMark::follow(QLineEdit* edit, double least, double most)
+{
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [edit, least, most](const QString& text) {
+        bool isNumber = false;
+        const double number = text.trimmed().toDouble(&isNumber);
+        show(edit, !isNumber || number < least || number > most, text);
+    });
 }

@@ -1,8 +1,10 @@
 #include "PageBase.h"
 
+#include "ControllerCopies.h"
 #include "DataAccess.h"
 #include "FitCaption.h"
 #include "PageHead.h"
+#include "ServiceFiles.h"
 #include "TouchCheckBox.h"
 #include "ZelFunctions.h"
 
@@ -176,6 +178,8 @@ Outcome PageBase::writeAndSend(ConfigFile file, const FileOperation& operation, 
 
 void PageBase::noteServiceSent(ConfigFile file, bool sent)
 {
+    if (!ServiceFiles::keeps(file)) // nor hears of it
+        ControllerCopies::instance().changed(FileLocations::of(file).controller);
     m_provenance.accept(file);
     if (sent)
         m_edits.settle();

@@ -180,10 +180,6 @@ protected:
     virtual std::vector<PageFile> files() const { return {}; }
     /// Comes first in a load: the page decides what it shows.
     virtual void beginLoad() {}
-    /// Whether its contents come from the controller, so that it says when they were read.
-    virtual bool showsFiles() const { return !files().empty(); }
-    /// Fetches what the page shows and reads it into the records; it shows what failed.
-    virtual Outcome fetch();
     /// Shows the records, whether or not they were read just now. What it shows counts as not edited.
     virtual void fill() {}
     /// Whether what stands on the page may be saved although one of its files could not be read. It is then
@@ -211,6 +207,10 @@ private slots:
     void catchUpWhenShown();
 
 private:
+    /// Whether its contents come from the controller, so that it says when they were read.
+    bool showsFiles() const { return !files().empty(); }
+    /// Fetches the files and reads them into the records; it shows what failed.
+    Outcome fetch();
     Answer askReload();
     bool holdsService() const;
     void noteSent(ConfigFile file);

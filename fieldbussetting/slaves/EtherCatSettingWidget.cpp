@@ -69,12 +69,12 @@ void EtherCatSettingWidget::on_btn_saveFbECAT_clicked()
     if (!self)
         return;
     busy.release();
+    noteServiceSent(ConfigFile::SlaveModule, sent);
     if (!sent) {
         tell(MsgBox::Warning, tr("Failed to write file."));
         return;
     }
-    m_endian = endian;
-    edits().settle();
+    *m_endian = endian;
     offerRestart(Restart::Way::WhenAllowed);
 }
 
@@ -91,14 +91,19 @@ void EtherCatSettingWidget::beginLoad()
         ui->stackedWidget->setCurrentWidget(ui->page_fbOther);
 }
 
+// A failed reading leaves the byte order that was known before, or big endian.
 std::vector<PageBase::PageFile> EtherCatSettingWidget::files() const
 {
-    return m_isModule ? std::vector<PageFile>() : std::vector<PageFile>{m_functions->file()};
-}
-
-Outcome EtherCatSettingWidget::fetch()
-{
-    return m_isModule ? fetchByteOrder() : PageBase::fetch();
+    if (!m_isModule)
+        return {m_functions->file()};
+    const auto readByteOrder = [endian = m_endian](const QString&) {
+        QString text = *endian;
+        const bool isRead = BusFileDataManager::getInstance()->getAndReadFbslave(text);
+        if (isRead)
+            *endian = text;
+        return isRead;
+    };
+    return {{ConfigFile::SlaveModule, readByteOrder}};
 }
 
 void EtherCatSettingWidget::fill()
@@ -113,25 +118,8 @@ void EtherCatSettingWidget::fill()
         connect(box, &QCheckBox::clicked, this, &EtherCatSettingWidget::BtnsClicxkedSlot);
 }
 
-// The byte order that was known before stays, or big endian. A failed read says so only when it was asked
-// for.
-Outcome EtherCatSettingWidget::fetchByteOrder()
-{
-    const QPointer<EtherCatSettingWidget> self(this);
-    QString endian = m_endian;
-    const bool read = BusFileDataManager::getInstance()->getAndReadFbslave(endian);
-    if (!self)
-        return Outcome::Gone;
-    m_endian = endian;
-    if (read)
-        return Outcome::Done;
-    if (isAskedFor() && tell(MsgBox::Warning, tr("Failed to get file.")) == Answer::Gone)
-        return Outcome::Gone;
-    return Outcome::Failed;
-}
-
 void EtherCatSettingWidget::showByteOrder()
 {
-    const bool little = m_endian.trimmed().compare(littleEndianText(), Qt::CaseInsensitive) == 0;
+    const bool little = m_endian->trimmed().compare(littleEndianText(), Qt::CaseInsensitive) == 0;
     ui->cbb_Endian->setCurrentIndex(little ? LittleEndian : BigEndian);
 }

@@ -22,9 +22,7 @@ public:
 
 protected:
     void beginLoad() override;
-    bool showsFiles() const override { return true; }
     std::vector<PageFile> files() const override;
-    Outcome fetch() override;
     void fill() override;
 
 private slots:
@@ -35,13 +33,13 @@ private slots:
     void BtnsClicxkedSlot();
 
 private:
-    Outcome fetchByteOrder();
     void showByteOrder();
 
     std::unique_ptr<Ui::EtherCatSettingWidget> ui;
     std::optional<FunctionTable> m_functions;
     bool m_isModule = false; ///< the face: the module's, or the functions'
-    QString m_endian;        ///< as last read or saved: "littleEndian" or "bigEndian", empty before
+    /// As last read or saved: "littleEndian" or "bigEndian", empty before. A reading may outlive the page.
+    const std::shared_ptr<QString> m_endian = std::make_shared<QString>();
 };
 
 #endif

@@ -237,7 +237,7 @@ RoleConditions BusSettingWidget::roleConditions() const
 void BusSettingWidget::refreshStatus()
 {
     // Nothing is told to the controller before its roles are known.
-    if (canHaveProfinetSlave() && !m_pfnSlaveManaged && m_board.isKnown()) {
+    if (canHaveProfinetSlave() && !m_pfnSlaveManaged && isUsableUnread()) {
         m_pfnSlaveManaged = true;
         m_board.showProfinetSlave();
         showDifferences();

@@ -40,8 +40,6 @@ public:
     /// What runs is what the service has read since, if it has: an import may have brought other roles.
     /// Otherwise it stays what it was, whatever the service was told to save.
     void takeRunning();
-    /// Whether the service has read the roles at all.
-    bool isKnown() const { return m_reading > 0; }
 
     /// With ProfiSAFE two of the masters cannot be had, and more roles need the free configuration.
     void setProfisafePresent(bool present);

@@ -494,7 +494,8 @@ private slots:
         constexpr int StartPage = 5;
         const PageFile& last = page().files.back();
         // A variant of a driver file is written only.
-        const QString path = last.isTemplate && last.getText.isEmpty() ? page().files.front().path : last.path;
+        const QString path =
+            last.isTemplate && last.getText.isEmpty() ? page().files.front().path : last.path;
         const QString copy = "../Application/sent-elsewhere";
         const struct
         {

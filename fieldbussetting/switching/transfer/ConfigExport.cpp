@@ -1,8 +1,10 @@
 #include "ConfigExport.h"
 
+#include "ControllerCopies.h"
 #include "DriveFiles.h"
 #include "DurableFiles.h"
 #include "FieldbusSettingLib.h"
+#include "FileCheck.h"
 #include "FileLocations.h"
 #include "ImportSet.h"
 #include "Logging.h"
@@ -64,14 +66,23 @@ QString secondCopy()
     return FileLocations::stagingDirectory() + QStringLiteral("-compared");
 }
 
-// An XML file that ends in the middle was cut on its way, also when it is so each time.
-bool isCutShort(const QString& path, bool isXml)
+// A file that ends in the middle was cut on its way, also when it is so each time: an XML file does not end
+// well, and a text file lacks keywords that its reader looks for. What was read of it before is the measure:
+// a controller's own file may lack them.
+bool isCutShort(const TransferFile& file)
 {
     QByteArray content;
-    if (!isXml || !WholeFile::read(path, content) || !content.trimmed().startsWith('<'))
-        return false;
-    return !pugi::xml_document().load_buffer(content.constData(), static_cast<std::size_t>(content.size()),
-                                             pugi::parse_minimal);
+    if (!WholeFile::read(file.staging, content))
+        return true;
+    if (file.xmlRoot)
+        return content.trimmed().startsWith('<') &&
+               !pugi::xml_document().load_buffer(
+                   content.constData(), static_cast<std::size_t>(content.size()), pugi::parse_minimal);
+    const KnownFile* known = KnownFiles::named(file.path);
+    const ControllerCopies::Copy copy = ControllerCopies::instance().copy(file.controller);
+    const auto fault = known ? FileCheck::faultOf(*known, content, copy.isKnown ? &copy.bytes : nullptr)
+                             : std::optional<FileCheck::Fault>();
+    return fault && fault->kind == FileCheck::Fault::Incomplete;
 }
 
 } // namespace
@@ -134,8 +145,7 @@ bool ConfigExport::isFetched(const TransferFile& file) const
     FieldbusSettingLib* lib = FieldbusSettingLib::getInstance();
     return lib->getFileFromCtrl(file.staging, file.controller) &&
            lib->getFileFromCtrl(secondCopy(), file.controller) &&
-           WholeFile::areSame(file.staging, secondCopy()) &&
-           !isCutShort(file.staging, file.xmlRoot != nullptr);
+           WholeFile::areSame(file.staging, secondCopy()) && !isCutShort(file);
 }
 
 // A folder that is there already is not written into, nor is what a link of that name points to.
