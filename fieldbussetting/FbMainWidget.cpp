@@ -146,13 +146,13 @@ void FbMainWidget::busNotification(int kind, const QString& path, bool success)
             if (!self)
                 return;
         }
-        countNotification(m_busConfigAwaited);
+        if (std::exchange(m_busConfigAwaited, false))
+            countNotification();
     } else if (path == QLatin1String(FileLocations::FieldbusConfigXml) && m_mappingPending) {
         m_mappingPending = false;
         if (success)
             m_progressBar->setValue(ProgressMappingKnown);
-        bool isAwaited = true;
-        countNotification(isAwaited);
+        countNotification();
     }
 }
 
@@ -195,10 +195,8 @@ void FbMainWidget::showButtonsOf(const QStringList& busNames)
     }
 }
 
-void FbMainWidget::countNotification(bool& isAwaited)
+void FbMainWidget::countNotification()
 {
-    if (!std::exchange(isAwaited, false))
-        return;
     if (++m_notificationCount != NotificationsAwaited)
         return;
     if (m_progressBar->isVisible())

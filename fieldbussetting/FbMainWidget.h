@@ -50,7 +50,7 @@ private slots:
 private:
     void buildMenu();
     void showButtonsOf(const QStringList& busNames);
-    void countNotification(bool& isAwaited);
+    void countNotification();
     /// The roles are known: their buttons, and the first page.
     void showStart();
     void showRetryNotice(bool shown);

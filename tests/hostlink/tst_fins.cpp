@@ -287,8 +287,10 @@ private slots:
     {
         QVERIFY(show());
         QVERIFY(enter("serverIP_Edit", "127.0.0.9"));
-        QVERIFY(enter("serverPort_edit", "99999"));
-        QVERIFY(enter("writeAddress_edit", "-7"));
+        // What no port is, and no address of a word: the keyboard refuses.
+        QVERIFY(enter("serverPort_edit", "65536") && enter("writeAddress_edit", "-7"));
+        QCOMPARE(NumericKeyboardScript::refusals().size(), 2);
+        QVERIFY(enter("serverPort_edit", "65535") && enter("writeAddress_edit", "65535"));
         find<QLineEdit>("clientNode_edit")->setText("a node");
         find<QLineEdit>("readAddress_edit")->setText("");
         answer({MsgBox::Confirmed, MsgBox::Confirmed});
@@ -297,9 +299,9 @@ private slots:
         QCOMPARE(traffic().stores(), QStringList({FilePath}));
         const QByteArray saved = controllerFile(FilePath);
         QVERIFY2(saved.endsWith(
-                     "<ClientConfig>\n\t<ServerIP>127.0.0.9</ServerIP>\n\t<ServerPort>99999</ServerPort>\n"
+                     "<ClientConfig>\n\t<ServerIP>127.0.0.9</ServerIP>\n\t<ServerPort>65535</ServerPort>\n"
                      "\t<ClientNode>0</ClientNode>\n\t<AutoConnect>0</AutoConnect>\n"
-                     "\t<ReadDmAddress>0</ReadDmAddress>\n\t<WriteDmAddress>-7</WriteDmAddress>\n"
+                     "\t<ReadDmAddress>0</ReadDmAddress>\n\t<WriteDmAddress>65535</WriteDmAddress>\n"
                      "\t<IpPortIndex>1</IpPortIndex>\n</ClientConfig>\n"),
                  saved.constData());
     }

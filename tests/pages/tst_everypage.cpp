@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QTabWidget>
 
 namespace {
@@ -531,6 +532,38 @@ private slots:
             QVERIFY(selectPage(StartPage) && show() && settle());
             QCOMPARE(messages().size(), int(isEdited));
         }
+    }
+
+    void marksWhatCannotBeEntered_data()
+    {
+        // from, to: of the file; typed: what puts the field right
+        const Rows<int, QByteArray, QByteArray, QString, QString> row;
+        const auto add = [&row](const char* page, const char* from, const char* to, const char* field,
+                                const char* typed) {
+            for (int index = 0; index < int(pages().size()); ++index) {
+                if (pages()[index].name == QLatin1String(page))
+                    row(page, index, from, to, field, typed);
+            }
+        };
+        add("heartbeat", "<Mtcp_Timeout>2.500", "<Mtcp_Timeout>-2", "modbusLineEdit", "3");
+        add("MES", "<Port>8008", "<Port>123456", "port_edit", "9009");
+        add("FINS", "<ServerPort>9600", "<ServerPort>70000", "serverPort_edit", "9601");
+        add("Modbus TCP master", "<SlaveId>1<", "<SlaveId>300<", "le_masterId", "4");
+        add("DeviceNet master", "WS_ID 1", "WS_ID 99", "le_wsid", "9");
+    }
+
+    void marksWhatCannotBeEntered()
+    {
+        const auto [index, from, to, field, typed] =
+            Rows<int, QByteArray, QByteArray, QString, QString>::current();
+        const PageFile& file = pages()[index].files.front();
+        QVERIFY(put(file.path, controllerFile(file.path).replace(from, to)));
+        QVERIFY(controllerFile(file.path).contains(to));
+        QVERIFY(openUpTo() && show());
+        const auto* edit = findOn<QLineEdit>(page().widget, field);
+        QVERIFY(edit->property("outside").toBool());
+        QVERIFY(!page().edit || pressOn(page().widget, page().edit));
+        QVERIFY(enter(field, typed) && !edit->property("outside").toBool());
     }
 
     void whatStopsASave_data() { eachPage(); }

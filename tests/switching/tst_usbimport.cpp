@@ -119,6 +119,7 @@ private slots:
     void controllerChangesMeanwhile();
     void pageShowsWhatCame_data();
     void pageShowsWhatCame();
+    void otherPagesShowWhatCame();
     void restartIsOffered();
 
 private:
@@ -1090,6 +1091,41 @@ void TestUsbImport::pageShowsWhatCame()
     // What was imported beside the switches is not brought back.
     QCOMPARE(pendant.controllerFile(path).contains("FreeBus"), !isPutBack);
     QCOMPARE(pendant.controllerFile(path).contains("\"DeviceNetSlave\" enable=\"1\""), isKept);
+}
+
+// A page that was opened before catches up when it is shown again, after an import as after a put-back.
+void TestUsbImport::otherPagesShowWhatCame()
+{
+    const QString changed = "Changed on the controller since it was read";
+    const QString path = "/application/fidbus/heartbeat.xml";
+    UsbPendant pendant;
+    QVERIFY(pendant.open() && pendant.openPage("heartbeatBtn"));
+    putOtherRobot(pendant);
+    const struct
+    {
+        bool isPutBack;
+        bool isEdited;
+        bool isKept;
+    } rows[] = {{false, false, false}, {true, false, false}, {false, true, true},
+                {true, false, true},   {true, true, false},  {false, true, false}};
+    for (const auto& row : rows) {
+        if (row.isEdited)
+            QVERIFY(pendant.press("modbusCheckBox"));
+        const bool hasEdits = !pendant.findOn("HeartbeatDetectionWidget", "label_edited")->isHidden();
+        QVERIFY(pendant.openPage("busSetting") && pendant.vary(path, "since"));
+        if (row.isPutBack)
+            leaveUnfinished(pendant);
+        pendant.declined.removeAll(TryAgain);
+        QCOMPARE(pendant.runImport(), Imported);
+        pendant.controller().traffic().clear();
+        pendant.declined.removeAll(changed);
+        if (row.isKept)
+            pendant.declined << changed;
+        const int told = pendant.messages().size();
+        QVERIFY(pendant.openPage("heartbeatBtn"));
+        QCOMPARE(pendant.messages().mid(told), hasEdits ? QStringList(changed) : QStringList());
+        QCOMPARE(pendant.controller().traffic().fetches().contains(path), !(hasEdits && row.isKept));
+    }
 }
 
 void TestUsbImport::restartIsOffered()
