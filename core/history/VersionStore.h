@@ -46,7 +46,7 @@ public:
     bool setSent(qint64 number, const Bytes& sent);
     /// The transfer failed.
     bool setFailed(qint64 number);
-    /// Nothing was sent.
+    /// It has changed nothing.
     bool remove(qint64 number);
 
     /// Changes with every version; for those who look whether there is a new one.

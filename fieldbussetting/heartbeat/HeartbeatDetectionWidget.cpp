@@ -77,7 +77,6 @@ void HeartbeatDetectionWidget::buildRows()
         prepareEntry(edit, numberEntry(QTouchLineEdit::CastReal, RangeOf<&HeartbeatConfig::Mtcp_Timeout>,
                                        TimeoutDecimals));
         edit->setProperty("caption", tr(row.caption));
-        edit->setProperty("unit", tr("s"));
         edit->setAccessibleName(tr("%1, time").arg(tr(row.caption)));
         auto* light = new QLabel(this);
         light->setObjectName(QLatin1String(row.light));

@@ -113,16 +113,23 @@ void FormerFiles::failed(qint64 number)
 
 void FormerFiles::serviceBegins(const QString& ctrlPath)
 {
-    m_byService[ctrlPath.toLower()] = add(ctrlPath, fetched(ctrlPath), {});
+    const Bytes former = fetched(ctrlPath);
+    m_byService[ctrlPath.toLower()] = {add(ctrlPath, former, {}), former};
 }
 
 void FormerFiles::serviceEnds(const QString& ctrlPath, bool success)
 {
-    const qint64 number = m_byService.take(ctrlPath.toLower());
-    if (number == 0)
+    const Pending pending = m_byService.take(ctrlPath.toLower());
+    if (pending.number == 0)
         return;
-    if (success)
-        store().setSent(number, fetched(ctrlPath));
+    if (!success) {
+        store().setFailed(pending.number);
+        return;
+    }
+    const Bytes sent = fetched(ctrlPath);
+    const bool isKnown = sent.content == Content::Kept && pending.former.content == Content::Kept;
+    if (isKnown && sent.bytes == pending.former.bytes)
+        store().remove(pending.number);
     else
-        store().setFailed(number);
+        store().setSent(pending.number, sent);
 }

@@ -55,13 +55,20 @@ public:
     void serviceEnds(const QString& ctrlPath, bool success);
 
 private:
+    /// What the service is sending.
+    struct Pending
+    {
+        qint64 number = 0;
+        VersionStore::Bytes former;
+    };
+
     FormerFiles() = default;
 
     VersionStore::Bytes formerOf(const QString& ctrlPath);
     qint64 add(const QString& ctrlPath, const VersionStore::Bytes& former, const VersionStore::Bytes& sent);
 
     QHash<QString, VersionStore::Bytes> m_seen; ///< by path in lower case
-    QHash<QString, qint64> m_byService;         ///< numbers, by path in lower case
+    QHash<QString, Pending> m_byService;        ///< by path in lower case
     FileVersion::Act m_act = FileVersion::Act::Saved;
     qint64 m_group = 0;                   ///< of the act; 0 before its first file
     std::vector<FileVersion> m_unwritten; ///< that the disk did not take: told with the next one

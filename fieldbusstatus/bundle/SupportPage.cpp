@@ -4,6 +4,7 @@
 #include "HistoryRecorder.h"
 #include "StatusBox.h"
 #include "SysSettingApi.h"
+#include "TransferLock.h"
 #include "WholeFile.h"
 #include "WorkFolder.h"
 #include "ZelFunctions.h"
@@ -12,6 +13,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <optional>
 
 using Result = SupportBundle::Result;
 
@@ -80,6 +83,11 @@ void SupportPage::write()
         StatusBox::show(this, MsgBox::Error, tr("No device found!"));
         return;
     }
+    std::optional<TransferLock> lock(std::in_place);
+    if (!lock->isHeld()) {
+        StatusBox::showHeldUp(this);
+        return;
+    }
     m_write->setEnabled(false);
     SupportBundle bundle(drive, WorkFolder::path(), [self](int step, int steps) {
         if (self)
@@ -93,6 +101,7 @@ void SupportPage::write()
     QByteArray history;
     WholeFile::read(context().history.path(), history);
     const Result result = bundle.run(known, running, history);
+    lock.reset();
     if (!self)
         return;
     m_write->setEnabled(true);

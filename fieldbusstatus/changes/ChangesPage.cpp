@@ -5,6 +5,7 @@
 #include "HistoryRecorder.h"
 #include "StateText.h"
 #include "SysSettingApi.h"
+#include "TransferLock.h"
 #include "WorkFolder.h"
 
 #include <QHBoxLayout>
@@ -13,6 +14,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <optional>
 
 using Act = FileVersion::Act;
 using Answer = StatusBox::Answer;
@@ -218,6 +220,11 @@ void ChangesPage::putBackConfirmed(const FileChanges::Change& change)
     if (StatusBox::show(this, MsgBox::Information, question, MsgBox::YesNo, true) != Answer::Confirmed ||
         !isRobotAtRest())
         return;
+    std::optional<TransferLock> lock(std::in_place);
+    if (!lock->isHeld()) {
+        StatusBox::showHeldUp(this);
+        return;
+    }
     PutBack work(FileChanges::store(), change, WorkFolder::path());
     Result result = work.look();
     // Nobody is there any more who wants it.
@@ -225,6 +232,7 @@ void ChangesPage::putBackConfirmed(const FileChanges::Change& change)
         return;
     if (result == Result::Done)
         result = work.send();
+    lock.reset();
     if (self)
         tellResult(result, work);
 }

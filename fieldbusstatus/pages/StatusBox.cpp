@@ -1,5 +1,6 @@
 #include "StatusBox.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
 StatusBox::Answer StatusBox::show(QWidget* page, MsgBox::Kind kind, const QString& text,
@@ -16,4 +17,12 @@ StatusBox::Answer StatusBox::show(QWidget* page, MsgBox::Kind kind, const QStrin
     return result == MsgBox::Confirmed ? Answer::Confirmed
            : result == MsgBox::Second  ? Answer::Second
                                        : Answer::Dismissed;
+}
+
+StatusBox::Answer StatusBox::showHeldUp(QWidget* page)
+{
+    return show(page, MsgBox::Information,
+                QCoreApplication::translate("StatusBox",
+                                            "The last import or export is still coming to its end.\n"
+                                            "Please try again in a moment."));
 }

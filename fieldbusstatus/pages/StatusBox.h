@@ -13,6 +13,9 @@ enum class Answer { Dismissed, Confirmed, Second, Gone };
 Answer show(QWidget* page, MsgBox::Kind kind, const QString& text, MsgBox::Buttons buttons = MsgBox::Ok,
             bool isGrave = false);
 
+/// Says that an import or export has to end first.
+Answer showHeldUp(QWidget* page);
+
 } // namespace StatusBox
 
 #endif

@@ -142,6 +142,11 @@ void TestFormerFiles::serviceIsBracketed()
     QCOMPARE(kept(all[0].former), Former);
     QCOMPARE(kept(all[0].sent), sent);
     QCOMPARE(all[0].hasFailed, !success);
+
+    // A save that changes nothing is none.
+    FormerFiles::instance().serviceBegins(Mes);
+    FormerFiles::instance().serviceEnds(Mes, true);
+    QCOMPARE(store().versions().size(), std::size_t(1));
 }
 
 QTEST_GUILESS_MAIN(TestFormerFiles)

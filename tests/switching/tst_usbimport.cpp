@@ -1,6 +1,7 @@
 #include "UsbPendant.h"
 
 #include "BusFileDataManager.h"
+#include "VersionStore.h"
 
 #include <QLockFile>
 #include <QRegularExpression>
@@ -223,6 +224,14 @@ void TestUsbImport::changesWhatThePreviewNames()
     }
     QCOMPARE(pendant.configuration(), expected);
     QCOMPARE(pendant.controller().traffic().count(Traffic::Store), 3);
+    // The former ones are kept, as one change.
+    const VersionStore store(FileLocations::versionsDirectory());
+    QCOMPARE(store.versions().size(), std::size_t(3));
+    for (const FileVersion& version : store.versions()) {
+        QVERIFY(version.act == FileVersion::Act::Imported && version.group == 1 && !version.hasFailed);
+        QCOMPARE(version.former.content == FileVersion::Content::Absent,
+                 version.file.endsWith("user_groupio.cfg"));
+    }
 
     // Nothing is left to be imported.
     pendant.runImport();
@@ -506,6 +515,8 @@ void TestUsbImport::sendFailsAtEveryFile()
     pendant.controller().faults().set(Faults::SendFails, 1, QString(), 1);
     QVERIFY(pendant.runImport().endsWith(PutBack));
     QVERIFY(pendant.configuration() == before);
+    const FileVersion last = VersionStore(FileLocations::versionsDirectory()).versions().back();
+    QVERIFY(last.act == FileVersion::Act::ImportUndone);
 }
 
 void TestUsbImport::fetchIsWrongAtEveryFile()
