@@ -7,6 +7,9 @@ pendant_packages=(build-essential cmake ninja-build ccache qtbase5-dev libqt5ser
 # What showing the pendant in every language takes.
 font_packages=(fonts-noto-cjk)
 
+# What fieldbusctl takes.
+tool_packages=(build-essential cmake ninja-build ccache qtbase5-dev libpugixml-dev libcli11-dev)
+
 # need_packages PACKAGE...: installs those that are missing. Asks nothing of apt when all are there.
 need_packages() {
     local missing=() package as_root=()
