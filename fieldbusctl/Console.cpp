@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <sys/ioctl.h>
@@ -42,15 +43,17 @@ const char* escapeOf(Console::Tone tone)
     return "";
 }
 
+bool isControl(QChar c)
+{
+    const ushort code = c.unicode();
+    return code < 0xa0 && (code >= 0x7f || (code < 0x20 && code != '\n' && code != '\t'));
+}
+
 // What stands in a file may hold anything; a terminal must not take it for a command.
 QString harmless(QString text)
 {
-    for (QChar& c : text) {
-        const ushort code = c.unicode();
-        const bool isControl = code < 0x20 || (code >= 0x7f && code < 0xa0);
-        if (isControl && code != '\n' && code != '\t')
-            c = QChar::ReplacementCharacter;
-    }
+    if (std::any_of(text.cbegin(), text.cend(), isControl))
+        std::replace_if(text.begin(), text.end(), isControl, QChar(QChar::ReplacementCharacter));
     return text;
 }
 
@@ -64,10 +67,9 @@ Console::Console()
 
 QString Console::painted(Tone tone, const QString& text) const
 {
-    const QString clean = harmless(text);
-    if (!m_isColoured || tone == Tone::Plain || clean.isEmpty())
-        return clean;
-    return QLatin1String(escapeOf(tone)) + clean + QLatin1String("\x1b[0m");
+    if (!m_isColoured || tone == Tone::Plain || text.isEmpty())
+        return harmless(text);
+    return QLatin1String(escapeOf(tone)) + harmless(text) + QLatin1String("\x1b[0m");
 }
 
 void Console::line(const QString& text)
@@ -82,11 +84,16 @@ void Console::data(const QByteArray& bytes)
         flush();
 }
 
-void Console::json(const char* schema, QJsonObject content)
+void Console::json(const char* schema, const QJsonObject& content)
+{
+    data(jsonBytes(schema, content));
+}
+
+QByteArray Console::jsonBytes(const char* schema, QJsonObject content)
 {
     content.insert(QStringLiteral("schema"), QLatin1String("fieldbusctl/") + QLatin1String(schema));
     content.insert(QStringLiteral("version"), JsonVersion);
-    data(QJsonDocument(content).toJson());
+    return QJsonDocument(content).toJson();
 }
 
 void Console::complain(const QString& text)

@@ -23,8 +23,9 @@ public:
 
     void line(const QString& text = {});
     void data(const QByteArray& bytes);
-    /// One JSON document, indented, that begins with its schema ("fieldbusctl/diff") and version.
-    void json(const char* schema, QJsonObject content);
+    /// One JSON document, indented, with its schema ("fieldbusctl/diff") and version.
+    void json(const char* schema, const QJsonObject& content);
+    static QByteArray jsonBytes(const char* schema, QJsonObject content);
 
     /// To the standard error, behind the name of the program.
     static void complain(const QString& text);

@@ -9,8 +9,10 @@
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/openat2.h>
 #include <strings.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -39,6 +41,16 @@ void forEachEntry(int folder, Visitor visit)
             visit(entry->d_name);
     }
     ::closedir(list);
+}
+
+// A file that is spelt like `path`, with no link on the way, by one call of the system. -1 when it is not to
+// be had so, also on a system without that call: the way folder by folder then tells why.
+int openAtOnce(int root, const char* path)
+{
+    open_how how = {};
+    how.flags = FileFlags;
+    how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS;
+    return static_cast<int>(::syscall(SYS_openat2, root, path, &how, sizeof how));
 }
 
 mode_t kindOf(int folder, const char* name)
@@ -124,18 +136,40 @@ FolderReader::~FolderReader()
         ::close(m_root);
 }
 
-int FolderReader::openAnyCase(int parent, const QByteArray& name, int flags)
+const std::vector<QByteArray>& FolderReader::namesIn(const QByteArray& path)
 {
-    const int exact = ::openat(parent, name.constData(), flags);
+    const auto [known, isNew] = m_names.try_emplace(path);
+    std::vector<QByteArray>& names = known->second;
+    if (isNew)
+        forEachEntry(folder(path), [&names](const char* name) { names.emplace_back(name); });
+    return names;
+}
+
+// What lies at `path`, folder by folder, whatever the case of the names. -1 and `errno` when it cannot be
+// had; ENOENT also when one of the folders cannot.
+int FolderReader::openStepwise(const QByteArray& path, int flags)
+{
+    const int slash = path.lastIndexOf('/');
+    const QByteArray above = slash < 0 ? QByteArray() : path.left(slash);
+    const QByteArray name = path.mid(slash + 1);
+    const int parent = folder(above);
+    errno = ENOENT;
+    if (parent < 0)
+        return -1;
+    // Once it is known what is there, nothing is tried in vain.
+    const bool isSearched = m_names.find(above) != m_names.end();
+    const int exact = isSearched ? -1 : ::openat(parent, name.constData(), flags);
     if (exact >= 0 || errno != ENOENT)
         return exact;
-    QByteArray other;
-    forEachEntry(parent, [&](const char* entry) {
-        if (strcasecmp(entry, name.constData()) == 0 && (other.isEmpty() || other > entry))
-            other = entry;
-    });
+    QByteArray found;
+    for (const QByteArray& entry : namesIn(above)) {
+        if (strcasecmp(entry.constData(), name.constData()) != 0 || found == name)
+            continue;
+        if (entry == name || found.isEmpty() || found > entry)
+            found = entry;
+    }
     errno = ENOENT;
-    return other.isEmpty() ? -1 : ::openat(parent, other.constData(), flags);
+    return found.isEmpty() ? -1 : ::openat(parent, found.constData(), flags);
 }
 
 int FolderReader::folder(const QByteArray& path)
@@ -143,22 +177,15 @@ int FolderReader::folder(const QByteArray& path)
     if (path.isEmpty() || m_root < 0)
         return m_root;
     const auto known = m_folders.find(path);
-    if (known != m_folders.end())
-        return known->second;
-    const int slash = path.lastIndexOf('/');
-    const int parent = folder(slash < 0 ? QByteArray() : path.left(slash));
-    const int opened = parent < 0 ? -1 : openAnyCase(parent, path.mid(slash + 1), FolderFlags);
-    return m_folders[path] = opened;
+    return known != m_folders.end() ? known->second : m_folders[path] = openStepwise(path, FolderFlags);
 }
 
 template <typename Use>
-FoundFile FolderReader::withFile(const QByteArray& path, Use use)
+FoundFile FolderReader::withFile(const char* path, Use use)
 {
-    const int slash = path.lastIndexOf('/');
-    const int parent = folder(slash < 0 ? QByteArray() : path.left(slash));
-    if (parent < 0)
-        return {};
-    const int file = openAnyCase(parent, path.mid(slash + 1), FileFlags);
+    int file = openAtOnce(m_root, path);
+    if (file < 0)
+        file = openStepwise(path, FileFlags);
     if (file < 0) {
         const bool isRefused = errno == ELOOP || errno == ENXIO;
         return {errno == ENOENT ? FoundFile::State::Missing
@@ -175,14 +202,20 @@ FoundFile FolderReader::withFile(const QByteArray& path, Use use)
     return found;
 }
 
-FoundFile FolderReader::read(const QByteArray& path)
+FoundFile FolderReader::read(const char* path)
 {
     return withFile(path, readAll);
 }
 
-FoundFile FolderReader::digest(const QByteArray& path)
+FoundFile FolderReader::digest(const char* path)
 {
     return withFile(path, digestOf);
+}
+
+bool FolderReader::has(const char* path)
+{
+    const auto leave = [](int, qint64) { return FoundFile{FoundFile::State::Read, {}}; };
+    return withFile(path, leave).state != FoundFile::State::Missing;
 }
 
 QStringList FolderReader::entries()

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <map>
+#include <vector>
 
 /// A file as it was found.
 struct FoundFile
@@ -40,10 +41,13 @@ public:
 
     /// The file at `path` below the folder; without one that is spelt like that, one that differs in case
     /// only: the controller's file system does not regard it, and a drive may have changed it.
-    FoundFile read(const QByteArray& path);
+    FoundFile read(const char* path);
 
     /// As `read`, of any size, with the SHA-256 in hexadecimal instead of the bytes.
-    FoundFile digest(const QByteArray& path);
+    FoundFile digest(const char* path);
+
+    /// Whether anything lies at `path`, whatever its case; a link is something, too.
+    bool has(const char* path);
 
     /// Whether there is a folder at `path`, whatever its case.
     bool hasFolder(const QByteArray& path) { return folder(path) >= 0; }
@@ -55,13 +59,15 @@ public:
 
 private:
     template <typename Use>
-    FoundFile withFile(const QByteArray& path, Use use);
+    FoundFile withFile(const char* path, Use use);
+    int openStepwise(const QByteArray& path, int flags);
     int folder(const QByteArray& path);
-    static int openAnyCase(int parent, const QByteArray& name, int flags);
+    const std::vector<QByteArray>& namesIn(const QByteArray& path);
     void collect(const QByteArray& path, int depth, QStringList& files);
 
     int m_root;
     std::map<QByteArray, int> m_folders; ///< descriptors by path; -1 for one that is not there
+    std::map<QByteArray, std::vector<QByteArray>> m_names; ///< by path, of folders that were searched
 };
 
 #endif

@@ -13,9 +13,8 @@ const QString ExportPrefix = QStringLiteral("fidbus_");
 bool holdsExport(FolderReader& reader)
 {
     const auto& files = KnownFiles::all();
-    return std::any_of(files.begin(), files.end(), [&reader](const KnownFile& file) {
-        return reader.read(file.name).state != FoundFile::State::Missing;
-    });
+    return std::any_of(files.begin(), files.end(),
+                       [&reader](const KnownFile& file) { return reader.has(file.name); });
 }
 
 std::vector<Folder> exportsOn(const QString& drive, FolderReader& reader, Folders::Choice choice)

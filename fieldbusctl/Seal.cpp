@@ -14,7 +14,7 @@ std::optional<Seal::Sums> Seal::of(const Folder& folder, QString& trouble)
     FolderReader reader(folder.path);
     Sums sums;
     for (const QString& path : reader.allFiles()) {
-        const FoundFile file = reader.digest(path.toUtf8());
+        const FoundFile file = reader.digest(path.toUtf8().constData());
         if (file.state != FoundFile::State::Read) {
             trouble = QStringLiteral("%1/%2: %3").arg(folder.path, path, file.trouble());
             return std::nullopt;

@@ -3,9 +3,21 @@
 
 #include <CLI/CLI.hpp>
 
+#include <QtGlobal>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
+#endif
 
 namespace {
+
+// Names of files and all that is printed; the locale has no say in it. With Qt 6 it never has.
+void useUtf8()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
+}
 
 constexpr const char* Description =
     "Shows, checks, compares, lists, documents and seals fieldbus configurations of robots.\n\n"
@@ -26,9 +38,7 @@ std::string examplesOf(const CommandRow& row)
 
 int main(int argc, char* argv[])
 {
-    // Names of files and all that is printed; the locale has no say in it.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-
+    useUtf8();
     CLI::App app(Description, "fieldbusctl");
     app.set_version_flag("--version", "fieldbusctl " FIELDBUS_VERSION);
     app.require_subcommand(1);

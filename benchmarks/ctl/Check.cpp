@@ -1,5 +1,5 @@
-// `fieldbusctl check` beside what reading and parsing the same files takes. Ends with 1 when it costs more
-// than the limit below.
+// `fieldbusctl check` beside what reading and parsing the same files takes, both on all cores. Ends with 1
+// when it costs more than the limit below, in time or in processor time.
 #include "CheckCommand.h"
 #include "Console.h"
 #include "ExportDrive.h"
@@ -7,16 +7,18 @@
 #include <benchmark/benchmark.h>
 #include <pugixml.hpp>
 
+#include <atomic>
 #include <cstdio>
 #include <fcntl.h>
 #include <map>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
 
 constexpr int FolderCount = 1000;
-constexpr int Repetitions = 5; // the quickest of each counts: what else the machine does only adds
+constexpr int Repetitions = 7; // the quickest of each counts: what else the machine does only adds
 constexpr double MostTimes = 1.5;
 
 const ExportDrive& drive()
@@ -37,17 +39,35 @@ bool readFile(const std::string& path, std::vector<char>& bytes)
     return isRead;
 }
 
-void readAndParse(benchmark::State& state)
+// Files of the next folders that nobody has taken, until there are none.
+void readAndParseSome(std::atomic<std::size_t>& next, std::atomic<bool>& isRead)
 {
+    const auto& files = drive().files();
     std::vector<char> bytes;
-    for (auto _ : state) {
-        for (const ExportDrive::File& file : drive().files()) {
+    for (std::size_t first = next.fetch_add(ExportDrive::FilesTaken); first < files.size();
+         first = next.fetch_add(ExportDrive::FilesTaken)) {
+        for (std::size_t i = first; i < std::min(first + ExportDrive::FilesTaken, files.size()); ++i) {
             pugi::xml_document document;
-            if (!readFile(file.path, bytes) ||
-                (file.isXml && !document.load_buffer(bytes.data(), bytes.size())))
-                return state.SkipWithError("a file cannot be read");
+            if (!readFile(files[i].path, bytes) ||
+                (files[i].isXml && !document.load_buffer(bytes.data(), bytes.size())))
+                isRead = false;
             benchmark::DoNotOptimize(document.first_child());
         }
+    }
+}
+
+void readAndParse(benchmark::State& state)
+{
+    for (auto _ : state) {
+        std::atomic<std::size_t> next = 0;
+        std::atomic<bool> isRead = true;
+        std::vector<std::thread> threads;
+        for (unsigned i = 0; i < std::max(1u, std::thread::hardware_concurrency()); ++i)
+            threads.emplace_back([&] { readAndParseSome(next, isRead); });
+        for (std::thread& thread : threads)
+            thread.join();
+        if (!isRead)
+            return state.SkipWithError("a file cannot be read");
     }
 }
 
@@ -82,15 +102,22 @@ void check(benchmark::State& state)
         CLI::App app;
         CheckCommand command;
         command.addOptions(app);
-        app.parse({drive().path(), "--all", "1", "--jobs"}); // taken from the back
+        app.parse({drive().path(), "--all"}); // taken from the back
         Console console;
         if (command.run(console) != ExitSame || !console.flush())
             return state.SkipWithError("the plant has findings");
     }
 }
 
-/// Prints as usual and keeps the least processor time of each row, in seconds.
-class LeastTimes : public benchmark::ConsoleReporter
+/// In seconds.
+struct Cost
+{
+    double elapsed;
+    double processor;
+};
+
+/// Prints as usual and keeps the least cost of each row.
+class LeastCosts : public benchmark::ConsoleReporter
 {
 public:
     void ReportRuns(const std::vector<Run>& runs) override
@@ -100,16 +127,17 @@ public:
             m_failed = m_failed || run.error_occurred;
             if (run.run_type != Run::RT_Iteration)
                 continue;
-            const double seconds = run.cpu_accumulated_time / static_cast<double>(run.iterations);
-            const auto known = m_least.emplace(run.run_name.function_name, seconds).first;
-            known->second = std::min(known->second, seconds);
+            const auto iterations = static_cast<double>(run.iterations);
+            const Cost cost{run.real_accumulated_time / iterations, run.cpu_accumulated_time / iterations};
+            Cost& least = m_least.emplace(run.run_name.function_name, cost).first->second;
+            least = {std::min(least.elapsed, cost.elapsed), std::min(least.processor, cost.processor)};
         }
     }
     bool isWhole() const { return !m_failed && m_least.size() == 2; }
-    double of(const char* name) const { return m_least.at(name); }
+    const Cost& of(const char* name) const { return m_least.at(name); }
 
 private:
-    std::map<std::string, double> m_least;
+    std::map<std::string, Cost> m_least;
     bool m_failed = false;
 };
 
@@ -117,11 +145,13 @@ private:
 
 BENCHMARK(readAndParse)
     ->MeasureProcessCPUTime()
+    ->UseRealTime()
     ->Iterations(1)
     ->Repetitions(Repetitions)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(check)
     ->MeasureProcessCPUTime()
+    ->UseRealTime()
     ->Iterations(1)
     ->Repetitions(Repetitions)
     ->Unit(benchmark::kMillisecond);
@@ -131,13 +161,16 @@ int main(int argc, char* argv[])
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv) || !drive().isMade())
         return 2;
-    LeastTimes times;
-    benchmark::RunSpecifiedBenchmarks(&times);
+    LeastCosts costs;
+    benchmark::RunSpecifiedBenchmarks(&costs);
     benchmark::Shutdown();
-    if (!times.isWhole())
+    if (!costs.isWhole())
         return 2;
-    const double ratio = times.of("check") / times.of("readAndParse");
-    std::printf("check of %d folders: %.2f times reading and parsing them (at most %.2f)\n", FolderCount,
-                ratio, MostTimes);
-    return ratio <= MostTimes ? 0 : 1;
+    const Cost& floor = costs.of("readAndParse");
+    const Cost times{costs.of("check").elapsed / floor.elapsed,
+                     costs.of("check").processor / floor.processor};
+    std::printf("check of %d folders beside reading and parsing them: %.2f times as long, %.2f times the "
+                "processor time (at most %.2f)\n",
+                FolderCount, times.elapsed, times.processor, MostTimes);
+    return std::max(times.elapsed, times.processor) <= MostTimes ? 0 : 1;
 }

@@ -1,6 +1,5 @@
 #include "ExportDrive.h"
 
-#include "KnownFiles.h"
 #include "WholeFile.h"
 
 #include <QDir>

@@ -1,6 +1,8 @@
 #ifndef BENCHMARKS_EXPORTDRIVE_H
 #define BENCHMARKS_EXPORTDRIVE_H
 
+#include "KnownFiles.h"
+
 #include <QTemporaryDir>
 
 #include <string>
@@ -15,6 +17,9 @@ public:
         std::string path;
         bool isXml;
     };
+
+    /// A few folders' worth, for a thread to take at once.
+    static constexpr std::size_t FilesTaken = 4 * ExportedFileCount;
 
     explicit ExportDrive(int folders);
 

@@ -46,8 +46,18 @@ std::string_view firstWord(std::string_view line, Between between);
 /// Without regard to case; `lowerCase` is ASCII and given in lower case.
 bool equalsIgnoringCase(std::string_view text, std::string_view lowerCase);
 
-bool isAscii(const QByteArray& bytes);
-bool isUtf8(const QByteArray& bytes);
+/// The bytes to search in: far quicker than with the functions of the array.
+inline std::string_view view(const QByteArray& bytes)
+{
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+/// Where `text` stands from `from` on, as `std::string_view::find`. That one looks at each byte that the text
+/// begins with, and every line of a file begins with the same.
+std::size_t find(std::string_view bytes, std::string_view text, std::size_t from = 0);
+
+bool isAscii(std::string_view bytes);
+bool isUtf8(std::string_view bytes);
 
 /// A character a byte, so that `bytes` gives back any bytes that were read.
 QString text(std::string_view bytes);
@@ -61,6 +71,9 @@ QByteArray raw(std::string_view bytes);
 /// Whole decimal number of 32 bits; false when `word` is none, and `value` stays as it was.
 bool readNumber(std::string_view word, int& value);
 bool readNumber(std::string_view word, unsigned& value);
+
+/// Whether `word` is how `value` is written here: decimal, no zero or sign too much.
+bool isWritten(std::string_view word, int value);
 
 } // namespace AsciiText
 

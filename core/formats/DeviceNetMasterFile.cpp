@@ -103,11 +103,25 @@ bool beginsDevice(std::string_view line)
     return AsciiText::parts(AsciiText::Between::WhiteSpace, next) || (next >= '0' && next <= '9');
 }
 
-// A comment ends the line; a line that is commented out has no words.
-AsciiText::Words lineWords(std::string_view line)
+/// What a line says: a comment ends it, and one that is commented out says nothing. Most lines are comments
+/// or lists of registers, so that no more than the keyword is looked for before it is known.
+class Statement
 {
-    return {line.substr(0, line.find(';')), AsciiText::Between::WhiteSpace};
-}
+public:
+    explicit Statement(std::string_view line)
+        : m_text(line.substr(0, line.find(';')))
+        , m_keyword(AsciiText::firstWord(m_text, AsciiText::Between::WhiteSpace))
+    {
+    }
+
+    std::string_view keyword() const { return m_keyword; }
+    /// With the keyword.
+    AsciiText::Words words() const { return {m_text, AsciiText::Between::WhiteSpace}; }
+
+private:
+    std::string_view m_text;
+    std::string_view m_keyword;
+};
 
 template <typename Record>
 const Field<Record>* fieldOf(const Field<Record>* begin, const Field<Record>* end, std::string_view keyword)
@@ -117,30 +131,38 @@ const Field<Record>* fieldOf(const Field<Record>* begin, const Field<Record>* en
     return found == end ? nullptr : found;
 }
 
-const Field<Master>* settingOf(const AsciiText::Words& words)
+const Field<Master>* settingOf(const Statement& statement)
 {
-    return fieldOf(std::begin(SettingFields), std::end(SettingFields), words[0]);
+    return fieldOf(std::begin(SettingFields), std::end(SettingFields), statement.keyword());
 }
 
 template <typename Record>
-void readField(const Field<Record>* field, const AsciiText::Words& words, Record& record)
+void readField(const Field<Record>* field, const Statement& statement, Record& record)
 {
-    if (field && words.size() > 1)
-        std::visit([&](auto member) { readValue(record, field->keyword, member, words[1]); }, field->member);
+    if (!field)
+        return;
+    const std::string_view value = statement.words()[1];
+    if (!value.empty())
+        std::visit([&](auto member) { readValue(record, field->keyword, member, value); }, field->member);
 }
 
-void readDeviceLine(const AsciiText::Words& words, Device& device)
+void readBlock(const Direction& direction, const AsciiText::Words& words, Device& device)
 {
     if (words.size() < 2)
         return;
+    AsciiText::readNumber(words[1], device.*direction.firstRegister);
+    if (words.size() > BlockBytesWord)
+        device.kept.read(direction.blockKeyword, words[BlockBytesWord], device.*direction.bytes);
+    device.*direction.bytes = qBound(0, device.*direction.bytes, Device::MostBytes);
+}
+
+void readDeviceLine(const Statement& statement, Device& device)
+{
     for (const Direction& direction : Directions) {
-        if (words[0] == direction.blockKeyword) {
-            AsciiText::readNumber(words[1], device.*direction.firstRegister);
-            if (words.size() > BlockBytesWord)
-                device.kept.read(direction.blockKeyword, words[BlockBytesWord], device.*direction.bytes);
-            device.*direction.bytes = qBound(0, device.*direction.bytes, Device::MostBytes);
-        }
-        readField(fieldOf(direction.fieldsBegin, direction.fieldsEnd, words[0]), words, device);
+        if (statement.keyword() == direction.blockKeyword)
+            readBlock(direction, statement.words(), device);
+        readField(fieldOf(direction.fieldsBegin, direction.fieldsEnd, statement.keyword()), statement,
+                  device);
     }
 }
 
@@ -165,12 +187,14 @@ public:
                 return;
             }
         }
-        const AsciiText::Words words = lineWords(line);
+        const Statement statement(line);
+        if (statement.keyword().empty())
+            return;
         if (m_device) {
-            readDeviceLine(words, *m_device);
-            m_hasOutputs = m_hasOutputs || words[0] == Directions[1].blockKeyword;
+            readDeviceLine(statement, *m_device);
+            m_hasOutputs = m_hasOutputs || statement.keyword() == Directions[1].blockKeyword;
         } else {
-            readField(settingOf(words), words, m_record);
+            readField(settingOf(statement), statement, m_record);
         }
     }
 
@@ -201,7 +225,7 @@ bool isScanList(const QByteArray& content)
 {
     bool found = false;
     TextTemplate::forEachLine(content, [&found](std::string_view line, std::string_view /*end*/) {
-        found = TextTemplate::contains(line, Marker) || settingOf(lineWords(line));
+        found = TextTemplate::contains(line, Marker) || settingOf(Statement(line));
         return !found;
     });
     return found;
@@ -213,7 +237,7 @@ QByteArray rewrittenHeader(const QByteArray& content, const Master& record)
     TextTemplate::forEachLine(content, [&](std::string_view line, std::string_view end) {
         if (TextTemplate::contains(line, Marker))
             return false;
-        if (const Field<Master>* setting = settingOf(lineWords(line)))
+        if (const Field<Master>* setting = settingOf(Statement(line)))
             header.append(written(*setting, record));
         else
             TextTemplate::keep(line, header);

@@ -31,23 +31,24 @@ void KeptNumbers::read(std::string_view key, std::string_view word, int& value)
 {
     if (!AsciiText::readNumber(word, value))
         readOtherForm(AsciiText::raw(word), value);
-    note(key, AsciiText::raw(word), value);
+    note(key, word, value);
 }
 
 // Of a key that stands twice the last counts.
-void KeptNumbers::note(std::string_view key, const QByteArray& word, int value)
+void KeptNumbers::note(std::string_view key, std::string_view word, int value)
 {
-    m_kept.erase(std::remove_if(m_kept.begin(), m_kept.end(),
-                                [key](const Kept& kept) { return key == kept.key.constData(); }),
-                 m_kept.end());
-    if (word != QByteArray::number(value))
-        m_kept.push_back({AsciiText::raw(key), value, word});
+    if (!m_kept.empty())
+        m_kept.erase(std::remove_if(m_kept.begin(), m_kept.end(),
+                                    [key](const Kept& kept) { return key == AsciiText::view(kept.key); }),
+                     m_kept.end());
+    if (!AsciiText::isWritten(word, value))
+        m_kept.push_back({AsciiText::raw(key), value, AsciiText::raw(word)});
 }
 
 QByteArray KeptNumbers::written(std::string_view key, int value) const
 {
     const auto kept = std::find_if(m_kept.begin(), m_kept.end(), [key, value](const Kept& candidate) {
-        return candidate.value == value && key == candidate.key.constData();
+        return candidate.value == value && key == AsciiText::view(candidate.key);
     });
     return kept == m_kept.end() ? QByteArray::number(value) : kept->word;
 }

@@ -15,7 +15,7 @@ public:
     /// is none of them leaves it as it was. `key` tells the record's numbers apart.
     void read(std::string_view key, std::string_view word, int& value);
     /// The same for a value that was read by other rules.
-    void note(std::string_view key, const QByteArray& word, int value);
+    void note(std::string_view key, std::string_view word, int value);
     /// What stands for `value` in the file.
     QByteArray written(std::string_view key, int value) const;
     void clear() { m_kept.clear(); }

@@ -1,5 +1,6 @@
 #include "KeptXml.h"
 
+#include "AsciiText.h"
 #include "KnownFiles.h"
 
 namespace KeptXml {
@@ -21,7 +22,7 @@ public:
 pugi::xml_node load(const QByteArray& bytes, const char* root, pugi::xml_document& document)
 {
     // The parser takes a NUL for the end of the text, and what follows would be lost with the next write.
-    if (bytes.size() > KnownFiles::MostBytes || bytes.contains('\0'))
+    if (bytes.size() > KnownFiles::MostBytes || AsciiText::view(bytes).find('\0') != std::string_view::npos)
         return {};
     // As UTF-8 whatever the bytes are: a comment in another encoding comes through as it is.
     if (!document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()), pugi::parse_full,

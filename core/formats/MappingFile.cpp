@@ -3,6 +3,7 @@
 #include "KeptXml.h"
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 
 namespace MappingFile {
@@ -28,6 +29,43 @@ struct RowKind
 constexpr std::array<RowKind, 2> RowKinds = {
     {{"User", &MappingArea::user}, {"System", &MappingArea::system}}};
 
+bool areSame(const char* one, const char* other)
+{
+    return *one == *other && std::strcmp(one, other) == 0;
+}
+
+// The index of `name` in `names`, their number when it is none of them.
+template <std::size_t Count>
+std::size_t indexOf(const char* name, const std::array<const char*, Count>& names)
+{
+    std::size_t index = 0;
+    while (index < Count && !areSame(names[index], name))
+        ++index;
+    return index;
+}
+
+// Whom the attribute `key` names among the children `element`, in one pass over them: calls `use` with each
+// of `names` that is there and the first child that is called so.
+template <std::size_t Count, typename Use>
+bool forEachNamed(const pugi::xml_node& parent, const char* element, const char* key,
+                  const std::array<const char*, Count>& names, Use use)
+{
+    std::array<bool, Count> isSeen{};
+    for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling()) {
+        if (!areSame(child.name(), element))
+            continue;
+        for (pugi::xml_attribute at = child.first_attribute(); at; at = at.next_attribute()) {
+            const std::size_t index = areSame(at.name(), key) ? indexOf(at.value(), names) : Count;
+            if (index == Count || isSeen[index])
+                continue;
+            isSeen[index] = true;
+            if (!use(index, child))
+                return false;
+        }
+    }
+    return true;
+}
+
 bool readAddress(const pugi::xml_attribute& attribute, quint32& address)
 {
     if (!attribute)
@@ -46,8 +84,6 @@ bool readAddresses(const pugi::xml_node& node, Info& info)
 
 bool readRow(const pugi::xml_node& node, MappingRow& row)
 {
-    if (!node)
-        return true;
     const std::optional<quint32> quantity = KeptXml::number(node.attribute("quantity"), MostVariables);
     row.quantity = static_cast<int>(quantity.value_or(0));
     return quantity && readAddresses(node, row);
@@ -57,21 +93,19 @@ bool readArea(const pugi::xml_node& node, MappingArea& area)
 {
     bool isRead = readAddresses(node, area);
     for (const RowKind& kind : RowKinds) {
-        for (std::size_t type = 0; type < MappedTypeCount && isRead; ++type)
-            isRead = readRow(node.find_child_by_attribute(kind.element, "type", MappingFile::TypeNames[type]),
-                             (area.*kind.rows)[type]);
+        const auto read = [&](std::size_t type, const pugi::xml_node& row) {
+            return readRow(row, (area.*kind.rows)[type]);
+        };
+        isRead = isRead && forEachNamed(node, kind.element, "type", MappingFile::TypeNames, read);
     }
     return isRead;
 }
 
 bool readBus(const pugi::xml_node& node, MappingBus& bus)
 {
-    for (std::size_t i = 0; i < MappingDirectionCount; ++i) {
-        if (!readArea(node.find_child_by_attribute("Area", "direction", MappingFile::DirectionNames[i]),
-                      bus.areas[i]))
-            return false;
-    }
-    return true;
+    return forEachNamed(
+        node, "Area", "direction", MappingFile::DirectionNames,
+        [&bus](std::size_t i, const pugi::xml_node& area) { return readArea(area, bus.areas[i]); });
 }
 
 void writeAddress(pugi::xml_node node, const char* name, quint32 address)
@@ -179,14 +213,14 @@ bool MappingFile::readFrom(const pugi::xml_document& document, MappingConfig& co
     if (!root)
         return false;
     const auto found = std::make_unique<MappingConfig>(); // some ten kilobytes
-    for (std::size_t mode = 0; mode < MappingConfig::ModeCount; ++mode) {
-        const pugi::xml_node modeNode = root.find_child_by_attribute("Mode", "name", ModeNames[mode]);
-        for (std::size_t bus = 0; bus < MappingConfig::BusCount; ++bus) {
-            if (!readBus(modeNode.find_child_by_attribute("Bus", "name", MappingConfig::busNames()[bus]),
-                         found->buses[mode][bus]))
-                return false;
-        }
-    }
+    const auto readMode = [&found](std::size_t mode, const pugi::xml_node& node) {
+        return forEachNamed(node, "Bus", "name", MappingConfig::busNames(),
+                            [&](std::size_t bus, const pugi::xml_node& busNode) {
+                                return readBus(busNode, found->buses[mode][bus]);
+                            });
+    };
+    if (!forEachNamed(root, "Mode", "name", ModeNames, readMode))
+        return false;
     config = *found;
     return true;
 }

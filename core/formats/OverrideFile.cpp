@@ -71,8 +71,9 @@ bool isSelected(std::string_view line, std::string_view slot)
 
 void setName(OverrideEntry& entry, std::string_view text)
 {
-    const QByteArray raw = AsciiText::raw(AsciiText::trimmed(text));
-    const bool isUtf8 = AsciiText::isUtf8(raw);
+    const std::string_view trimmed = AsciiText::trimmed(text);
+    const QByteArray raw = AsciiText::raw(trimmed);
+    const bool isUtf8 = AsciiText::isUtf8(trimmed);
     // A name in an unknown encoding is shown as well as can be; what is written back is `foreignName`.
     entry.name = isUtf8 ? QString::fromUtf8(raw).toUpper().trimmed() : QString::fromLatin1(raw).toUpper();
     entry.foreignName = isUtf8 ? QByteArray() : raw;

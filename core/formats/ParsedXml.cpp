@@ -2,41 +2,17 @@
 
 #include "AsciiText.h"
 
-#include <cstring>
-
-namespace {
-
-// Looks for an attribute with white space other than a blank. No recursion: a file may be nested as deep as
-// it is long.
-struct BrokenValues : pugi::xml_tree_walker
-{
-    bool for_each(pugi::xml_node& node) override
-    {
-        for (pugi::xml_attribute at = node.first_attribute(); at && !found; at = at.next_attribute())
-            found = std::strpbrk(at.value(), "\n\t") != nullptr;
-        return !found;
-    }
-    bool found = false;
-};
-
-bool hasBrokenValue(pugi::xml_node document)
-{
-    BrokenValues values;
-    document.traverse(values);
-    return values.found;
-}
-
-} // namespace
-
 // What is no good declaration only some of the readers refuse.
-ParsedXml::ParsedXml(const QByteArray& content)
-    : m_hasGoodDeclaration(load(content, pugi::parse_pi | pugi::parse_doctype | pugi::parse_declaration))
+void ParsedXml::load(const QByteArray& content)
 {
+    const unsigned options = (m_reader == Reader::KeptXml ? pugi::parse_default : pugi::parse_minimal) |
+                             pugi::parse_pi | pugi::parse_doctype;
+    m_hasGoodDeclaration = parse(content, options | pugi::parse_declaration);
     if (!m_hasGoodDeclaration)
-        load(content, pugi::parse_pi | pugi::parse_doctype);
+        parse(content, options);
 }
 
-bool ParsedXml::load(const QByteArray& content, unsigned options)
+bool ParsedXml::parse(const QByteArray& content, unsigned options)
 {
     m_result = m_document.load_buffer(content.constData(), static_cast<std::size_t>(content.size()), options,
                                       pugi::encoding_utf8);
@@ -52,15 +28,11 @@ pugi::xml_node ParsedXml::root() const
     return {};
 }
 
-// There the declaration has a say in the encoding.
-bool ParsedXml::servesXmlFile(const QByteArray& content) const
+// A NUL ends the text for the parser, and is for the readers to refuse. For one of them the declaration has a
+// say in the encoding, the other one refuses a bad declaration.
+bool ParsedXml::servesReader(const QByteArray& content) const
 {
-    return m_result && AsciiText::isAscii(content) && !content.contains('\0');
-}
-
-// There references, line ends and CDATA sections are resolved, and white space in attributes becomes blanks.
-bool ParsedXml::servesKeptXml(const QByteArray& content) const
-{
-    return m_result && m_hasGoodDeclaration && !content.contains('\0') && !content.contains('&') &&
-           !content.contains('\r') && !content.contains("<![") && !hasBrokenValue(m_document);
+    const std::string_view bytes = AsciiText::view(content);
+    return m_result && bytes.find('\0') == std::string_view::npos &&
+           (m_reader == Reader::KeptXml ? m_hasGoodDeclaration : AsciiText::isAscii(bytes));
 }

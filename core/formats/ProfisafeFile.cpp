@@ -19,12 +19,7 @@ QMap<int, QString> readBits(const pugi::xml_node& block)
 bool ProfisafeFile::read(const QByteArray& bytes, ProfisafeDescription& description)
 {
     pugi::xml_document document;
-    return KeptXml::load(bytes, "ProfiSafe", document) && readFrom(document, description);
-}
-
-bool ProfisafeFile::readFrom(const pugi::xml_document& document, ProfisafeDescription& description)
-{
-    const pugi::xml_node root = document.child("ProfiSafe");
+    const pugi::xml_node root = KeptXml::load(bytes, "ProfiSafe", document);
     if (!root)
         return false;
     description = {readBits(root.child("Output")), readBits(root.child("Input"))};

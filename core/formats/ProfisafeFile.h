@@ -5,10 +5,6 @@
 #include <QMap>
 #include <QString>
 
-namespace pugi {
-class xml_document;
-}
-
 /// Record of pfs_description.xml, the texts of the ProfiSAFE bits. Bits without a text are reserved.
 struct ProfisafeDescription
 {
@@ -24,8 +20,6 @@ namespace ProfisafeFile {
 /// An entry with another number is passed over; of two with one number the last counts. False (and
 /// `description` untouched) when the bytes are not well-formed or have another root.
 bool read(const QByteArray& bytes, ProfisafeDescription& description);
-/// From a document that is parsed already.
-bool readFrom(const pugi::xml_document& document, ProfisafeDescription& description);
 
 } // namespace ProfisafeFile
 

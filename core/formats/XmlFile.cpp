@@ -5,6 +5,8 @@
 #include <QDateTime>
 #include <QLocale>
 
+#include <algorithm>
+#include <functional>
 #include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale and uselocale are POSIX
 
 namespace XmlFile {
@@ -27,18 +29,26 @@ private:
     QByteArray& m_bytes;
 };
 
+// Control characters cannot stand in an XML file in any form.
+bool canStand(QChar c)
+{
+    return c >= QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\n') ||
+           c == QLatin1Char('\r');
+}
+
 // Texts are written in the pendant's 8-bit encoding. Under a locale whose bytes would break the file, which
-// is declared as UTF-8, or that cannot hold the text, it is UTF-8.
+// is declared as UTF-8, or that cannot hold the text, it is UTF-8. ASCII is the same in all of them.
 QByteArray encoded(QString text)
 {
-    for (QChar& c : text) {
-        const ushort code = c.unicode();
-        // Control characters cannot stand in an XML file in any form.
-        if (code < 0x20 && code != '\t' && code != '\n' && code != '\r')
-            c = QLatin1Char(' ');
-    }
+    if (!std::all_of(text.cbegin(), text.cend(), canStand))
+        std::replace_if(text.begin(), text.end(), std::not_fn(canStand), QLatin1Char(' '));
+    const QByteArray utf8 = text.toUtf8();
+    if (utf8.size() == text.size())
+        return utf8;
     const QByteArray local = text.toLocal8Bit();
-    return AsciiText::isUtf8(local) && QString::fromLocal8Bit(local) == text ? local : text.toUtf8();
+    return local != utf8 && AsciiText::isUtf8(AsciiText::view(local)) && QString::fromLocal8Bit(local) == text
+               ? local
+               : utf8;
 }
 
 } // namespace

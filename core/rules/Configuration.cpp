@@ -10,7 +10,11 @@ namespace {
 using File = Configuration::File;
 using State = Configuration::State;
 
-File examined(const KnownFile& known, std::optional<QByteArray> bytes, std::optional<ParsedXml>& xml)
+using Content = const QByteArray&;
+using Xml = const pugi::xml_document&;
+using To = Configuration&;
+
+File examined(const KnownFile& known, std::optional<QByteArray> bytes, ParsedXml& xml)
 {
     File file;
     if (!bytes)
@@ -24,35 +28,36 @@ File examined(const KnownFile& known, std::optional<QByteArray> bytes, std::opti
     return file;
 }
 
-void readOverride(const QByteArray& bytes, Configuration& configuration)
+bool readOverride(Content bytes, To to)
 {
     MasterDevicesInUse devices;
-    OverrideFile::read(bytes, configuration.slaveDevices, devices);
-    OverrideFile::read(bytes, OverrideSlot::Masters, configuration.masterDevices);
+    OverrideFile::read(bytes, to.slaveDevices, devices);
+    OverrideFile::read(bytes, OverrideSlot::Masters, to.masterDevices);
+    return true;
 }
 
-// A record a file; false when the reader refuses what the check has let through.
-using Content = const QByteArray&;
-using Xml = const pugi::xml_document&;
-using To = Configuration&;
+// How a file gets into its record; false when the reader refuses what the check has let through.
 struct Reader
 {
     FileId file;
     bool (*read)(Content bytes, To to);
-    /// From the document of the check, for a reader that parses as `XmlFile` does, and one that does as
-    /// `KeptXml`.
-    void (*fromXmlFile)(Xml document, To to) = nullptr;
-    bool (*fromKeptXml)(Xml document, To to) = nullptr;
+    /// From the document of the check, which is parsed as `kind` says; null for a text.
+    bool (*readFrom)(Xml document, To to) = nullptr;
+    ParsedXml::Reader kind = ParsedXml::Reader::XmlFile;
 };
 #define XML_RECORD(id, Format, ...)                                                                          \
     {                                                                                                        \
         FileId::id, [](Content bytes, To to) { return Format::read(bytes, __VA_ARGS__); },                   \
-            [](Xml document, To to) { Format::readFrom(document, __VA_ARGS__); }, nullptr                    \
+            [](Xml document, To to) {                                                                        \
+                Format::readFrom(document, __VA_ARGS__);                                                     \
+                return true;                                                                                 \
+            }                                                                                                \
     }
 #define KEPT_RECORD(id, Format, record)                                                                      \
     {                                                                                                        \
-        FileId::id, [](Content bytes, To to) { return Format::read(bytes, record); }, nullptr,               \
-            [](Xml document, To to) { return Format::readFrom(document, record); }                           \
+        FileId::id, [](Content bytes, To to) { return Format::read(bytes, record); },                        \
+            [](Xml document, To to) { return Format::readFrom(document, record); },                          \
+            ParsedXml::Reader::KeptXml                                                                       \
     }
 #define TEXT_RECORD(id, Format, record)                                                                      \
     {                                                                                                        \
@@ -72,38 +77,40 @@ constexpr Reader Readers[] = {
     TEXT_RECORD(DeviceNetMaster, DeviceNetMasterFile, to.deviceNetMaster),
     TEXT_RECORD(PfbSlave, PfbSlaveFile, to.pfbSlave),
     TEXT_RECORD(EipSlave, EipSlaveFile, to.eipSlave),
-    {FileId::Override,
-     [](Content bytes, To to) {
-         readOverride(bytes, to);
-         return true;
-     }},
+    {FileId::Override, readOverride},
     KEPT_RECORD(SlaveModule, SlaveModuleFile, to.slaveEndian),
-    KEPT_RECORD(ProfisafeDescription, ProfisafeFile, to.profisafe),
+    // Its texts are for pages alone; here it counts whether they can be had.
+    {FileId::ProfisafeDescription, [](Content, To) { return false; }, [](Xml, To) { return true; },
+     ParsedXml::Reader::KeptXml},
     KEPT_RECORD(NetworkPorts, PortAddressFile, to.ports),
 };
 #undef TEXT_RECORD
 #undef KEPT_RECORD
 #undef XML_RECORD
 
-bool read(const Reader& reader, Content bytes, const std::optional<ParsedXml>& xml, To to)
+const Reader* readerOf(FileId file)
 {
-    if (xml && reader.fromXmlFile && xml->servesXmlFile(bytes)) {
-        reader.fromXmlFile(xml->document(), to);
-        return true;
-    }
-    if (xml && reader.fromKeptXml && xml->servesKeptXml(bytes))
-        return reader.fromKeptXml(xml->document(), to);
-    return reader.read(bytes, to);
+    const auto* found = std::find_if(std::begin(Readers), std::end(Readers),
+                                     [file](const Reader& reader) { return reader.file == file; });
+    return found == std::end(Readers) ? nullptr : found;
 }
 
-void readRecord(FileId id, File& file, const std::optional<ParsedXml>& xml, To to)
+bool read(const Reader& reader, Content bytes, const ParsedXml& xml, To to)
 {
-    const auto* reader = std::find_if(std::begin(Readers), std::end(Readers),
-                                      [id](const Reader& candidate) { return candidate.file == id; });
-    if (file.state != State::Read || reader == std::end(Readers) || read(*reader, file.bytes, xml, to))
+    return reader.readFrom && xml.servesReader(bytes) ? reader.readFrom(xml.document(), to)
+                                                      : reader.read(bytes, to);
+}
+
+void take(const KnownFile& known, std::optional<QByteArray> bytes, To to)
+{
+    File& file = to.files[static_cast<std::size_t>(known.id)];
+    const Reader* reader = readerOf(known.id);
+    ParsedXml xml(reader ? reader->kind : ParsedXml::Reader::XmlFile);
+    file = examined(known, std::move(bytes), xml);
+    if (file.state != State::Read || !reader || read(*reader, file.bytes, xml, to))
         return;
     file.state = State::Unreadable;
-    file.report.fault = FileCheck::refusedByReader(id);
+    file.report.fault = FileCheck::refusedByReader(known.id);
 }
 
 } // namespace
@@ -111,12 +118,8 @@ void readRecord(FileId id, File& file, const std::optional<ParsedXml>& xml, To t
 Configuration Configuration::from(const Source& source)
 {
     Configuration configuration;
-    for (const KnownFile& known : KnownFiles::all()) {
-        std::optional<ParsedXml> xml;
-        File& file = configuration.files[static_cast<std::size_t>(known.id)];
-        file = examined(known, source(known), xml);
-        readRecord(known.id, file, xml, configuration);
-    }
+    for (const KnownFile& known : KnownFiles::all())
+        take(known, source(known), configuration);
     for (const ListedRole& role : configuration.listed) {
         if (const RoleInfo* known = RoleTable::named(role.name))
             configuration.on[static_cast<std::size_t>(known->id)] = role.on;

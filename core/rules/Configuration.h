@@ -16,7 +16,6 @@
 #include "OverrideFile.h"
 #include "PfbSlaveFile.h"
 #include "PortAddressFile.h"
-#include "ProfisafeFile.h"
 #include "RoleListFile.h"
 #include "RoleTable.h"
 
@@ -76,10 +75,9 @@ struct Configuration
     DeviceNetMasterConfig deviceNetMaster;
     PfbSlaveConfig pfbSlave;
     EipSlaveConfig eipSlave;
-    OverrideRecord slaveDevices;  ///< override.cfg, slot 1
-    OverrideRecord masterDevices; ///< slot 2
-    QString slaveEndian;          ///< fbslave.cfgx: "littleEndian" or "bigEndian"
-    ProfisafeDescription profisafe;
+    OverrideRecord slaveDevices;    ///< override.cfg, slot 1
+    OverrideRecord masterDevices;   ///< slot 2
+    QString slaveEndian;            ///< fbslave.cfgx: "littleEndian" or "bigEndian"
     std::vector<PortAddress> ports; ///< netports.xml
 };
 

@@ -5,16 +5,14 @@ QString MarkedText::filled(const QString& translation) const
 {
     QString result;
     result.reserve(translation.size() + 64);
-    for (int i = 0; i < translation.size(); ++i) {
-        const int number = translation[i] == QLatin1Char('%') && i + 1 < translation.size()
-                               ? translation[i + 1].digitValue()
-                               : -1;
-        if (number < 1 || number > arguments.size()) {
-            result += translation[i];
+    int copied = 0; // up to there
+    for (int i = translation.indexOf(QLatin1Char('%')); i >= 0 && i + 1 < translation.size();
+         i = translation.indexOf(QLatin1Char('%'), i + 1)) {
+        const int number = translation[i + 1].digitValue();
+        if (number < 1 || number > arguments.size())
             continue;
-        }
-        result += arguments[number - 1];
-        ++i;
+        result.append(translation.constData() + copied, i - copied).append(arguments[number - 1]);
+        copied = i + 2;
     }
-    return result;
+    return result.append(translation.constData() + copied, translation.size() - copied);
 }

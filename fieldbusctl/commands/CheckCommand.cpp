@@ -4,14 +4,22 @@
 #include "Console.h"
 #include "FindingText.h"
 #include "FindingTone.h"
+#include "JsonRows.h"
 #include "LoadedFolder.h"
 #include "OrderedPool.h"
 
-#include <QJsonArray>
+#include <QStringBuilder>
 
 #include <algorithm>
+#include <optional>
 
 using Tone = Console::Tone;
+
+namespace {
+
+constexpr int LikelyLength = 400; // of a finding, characters
+
+} // namespace
 
 void CheckCommand::addOptions(CLI::App& app)
 {
@@ -24,47 +32,59 @@ void CheckCommand::addOptions(CLI::App& app)
     app.add_flag("--json", m_json, "print JSON");
 }
 
-CheckCommand::Checked CheckCommand::check(const Folder& folder)
+CheckCommand::Checked CheckCommand::check(const Folder& folder, const Console& console) const
 {
     const LoadedFolder loaded(folder);
-    return {findingsOf(loaded.configuration()), loaded.troubles(), loaded.isIncomplete(), loaded.json()};
+    const Findings findings = findingsOf(loaded.configuration());
+    Checked checked{{}, loaded.troubles(), codeOf(loaded, findings)};
+    if (m_json) {
+        QJsonObject json = loaded.json();
+        json.insert("findings", FindingText::jsonOf(findings));
+        checked.told = JsonRows::bytesOf(json);
+    } else {
+        checked.told = textOf(folder, findings, console).toUtf8();
+    }
+    return checked;
 }
 
-void CheckCommand::print(const Folder& folder, const Findings& findings, Console& console) const
+ExitCode CheckCommand::codeOf(const LoadedFolder& folder, const Findings& findings) const
 {
+    if (folder.isIncomplete())
+        return ExitTrouble;
+    const auto* least =
+        std::find(FindingText::SeverityNames.begin(), FindingText::SeverityNames.end(), m_failOn);
+    const auto line = static_cast<FindingSeverity>(least - FindingText::SeverityNames.begin());
+    const bool fails = std::any_of(findings.begin(), findings.end(),
+                                   [line](const Finding& finding) { return finding.severity >= line; });
+    return fails ? ExitFound : ExitSame;
+}
+
+QString CheckCommand::textOf(const Folder& folder, const Findings& findings, const Console& console) const
+{
+    QString text;
+    text.reserve(static_cast<int>(findings.size()) * LikelyLength);
     for (const Finding& finding : findings) {
         if (m_quiet && finding.severity == FindingSeverity::Information)
             continue;
         const QString place = FindingText::place(finding);
         const QString role = FindingText::roleTitle(finding);
-        console.line(
-            console.painted(Tone::Plain,
-                            folder.path + (place.isEmpty() ? QString() : QLatin1Char('/') + place)) +
-            QLatin1String(": ") +
-            console.painted(FindingText::toneOf(finding.severity),
-                            QLatin1String(FindingText::severityName(finding.severity)) + QLatin1Char(' ') +
-                                finding.codeText()) +
-            QLatin1String(": ") +
-            console.painted(Tone::Heading, (role.isEmpty() ? QString() : role + QLatin1String(": ")) +
-                                               finding.cause.inEnglish()));
+        const QString kind = QLatin1String(FindingText::severityName(finding.severity)) % QLatin1Char(' ') %
+                             finding.codeText();
+        const QString cause = finding.cause.inEnglish();
+        text += console.painted(Tone::Plain,
+                                place.isEmpty() ? folder.path : folder.path % QLatin1Char('/') % place) %
+                QLatin1String(": ") % console.painted(FindingText::toneOf(finding.severity), kind) %
+                QLatin1String(": ") %
+                console.painted(Tone::Heading, role.isEmpty() ? cause : role % QLatin1String(": ") % cause) %
+                QLatin1Char('\n');
         for (const Evidence& evidence : finding.evidence)
-            console.line(QLatin1String("    ") + console.painted(Tone::Faint, FindingText::textOf(evidence)));
-        console.line(QLatin1String("    ") + console.painted(Tone::Plain, finding.next.inEnglish()));
+            text += QLatin1String("    ") % console.painted(Tone::Faint, FindingText::textOf(evidence)) %
+                    QLatin1Char('\n');
+        text += QLatin1String("    ") % console.painted(Tone::Plain, finding.next.inEnglish()) %
+                QLatin1Char('\n');
     }
-    console.line(console.painted(Tone::Heading, folder.path) + QLatin1String(": ") +
-                 FindingText::countText(FindingText::counted(findings)));
-}
-
-ExitCode CheckCommand::codeOf(const Checked& checked) const
-{
-    if (checked.isIncomplete)
-        return ExitTrouble;
-    const auto* least =
-        std::find(FindingText::SeverityNames.begin(), FindingText::SeverityNames.end(), m_failOn);
-    const auto line = static_cast<FindingSeverity>(least - FindingText::SeverityNames.begin());
-    const bool fails = std::any_of(checked.findings.begin(), checked.findings.end(),
-                                   [line](const Finding& finding) { return finding.severity >= line; });
-    return fails ? ExitFound : ExitSame;
+    return text % console.painted(Tone::Heading, folder.path) % QLatin1String(": ") %
+           FindingText::countText(FindingText::counted(findings)) % QLatin1Char('\n');
 }
 
 ExitCode CheckCommand::run(Console& console)
@@ -72,25 +92,21 @@ ExitCode CheckCommand::run(Console& console)
     const std::vector<Folder> folders = m_folders.find();
     if (folders.empty())
         return ExitTrouble;
+    std::optional<JsonRows> rows;
+    if (m_json)
+        rows.emplace(console, "check", QJsonObject{{"failOn", QString::fromStdString(m_failOn)}}, "folders");
     ExitCode worst = ExitSame;
-    QJsonArray checked;
     OrderedPool<Checked> pool(m_jobs);
     pool.run(
-        folders.size(), [&folders](std::size_t i) { return check(folders[i]); },
-        [&](std::size_t i, const Checked& result) {
-            worst = std::max(worst, codeOf(result));
-            for (const QString& trouble : result.troubles)
+        folders.size(), [&](std::size_t i) { return check(folders[i], console); },
+        [&](std::size_t, const Checked& checked) {
+            worst = std::max(worst, checked.code);
+            for (const QString& trouble : checked.troubles)
                 Console::complain(trouble);
-            if (!m_json)
-                return print(folders[i], result.findings, console);
-            QJsonArray findings;
-            for (const Finding& finding : result.findings)
-                findings.append(FindingText::jsonOf(finding));
-            QJsonObject folder = result.folder;
-            folder.insert("findings", findings);
-            checked.append(folder);
+            if (rows)
+                rows->add(checked.told);
+            else
+                console.data(checked.told);
         });
-    if (m_json)
-        console.json("check", {{"failOn", QString::fromStdString(m_failOn)}, {"folders", checked}});
     return worst;
 }

@@ -5,10 +5,11 @@
 #include "Finding.h"
 #include "FolderOptions.h"
 
-#include <QJsonObject>
 #include <QStringList>
 
 #include <string>
+
+class LoadedFolder;
 
 /// Tells what is wrong with configurations.
 class CheckCommand : public Command
@@ -20,15 +21,14 @@ public:
 private:
     struct Checked
     {
-        Findings findings;
+        QByteArray told; ///< as it is printed
         QStringList troubles;
-        bool isIncomplete = false;
-        QJsonObject folder;
+        ExitCode code = ExitSame;
     };
-    static Checked check(const Folder& folder);
-
-    void print(const Folder& folder, const Findings& findings, Console& console) const;
-    ExitCode codeOf(const Checked& checked) const;
+    /// In any thread: all that can be done before the folders before it are done.
+    Checked check(const Folder& folder, const Console& console) const;
+    ExitCode codeOf(const LoadedFolder& folder, const Findings& findings) const;
+    QString textOf(const Folder& folder, const Findings& findings, const Console& console) const;
 
     FolderOptions m_folders;
     std::string m_failOn = "warning";

@@ -5,8 +5,6 @@
 #include "FolderOptions.h"
 #include "LoadedFolder.h"
 
-#include <array>
-
 /// Many robots in a table: which roles are on, what differs from the first, how much is found.
 class FleetCommand : public Command
 {
@@ -17,16 +15,18 @@ public:
 private:
     struct Robot
     {
-        QString path;
-        QStringList roles;     ///< names of those that are on
-        QStringList differing; ///< titles of what differs from the first, each once
-        std::array<int, 3> counts{};
+        QByteArray row;    ///< as it is printed
+        QString differing; ///< titles of what differs from the first, each once
         QStringList troubles;
-        bool isIncomplete = false;
-        bool isRead = false; ///< the list of roles could be read
+        ExitCode code = ExitSame;
     };
-    static Robot lookAt(const Folder& folder, const LoadedFolder& first);
-    static void print(const std::vector<Robot>& robots, Console& console);
+    /// In any thread. A path is `width` wide in the table.
+    Robot lookAt(const Folder& folder, const LoadedFolder& first, const Console& console, int width) const;
+    ExitCode printTable(const std::vector<Folder>& folders, Console& console) const;
+    ExitCode printJson(const std::vector<Folder>& folders, Console& console) const;
+    template <typename Use>
+    ExitCode forEachRobot(const std::vector<Folder>& folders, const Console& console, int width,
+                          Use use) const;
 
     FolderOptions m_folders;
     unsigned m_jobs = 0;

@@ -2,10 +2,10 @@
 
 #include "Console.h"
 #include "HtmlPage.h"
+#include "JsonRows.h"
 #include "LoadedFolder.h"
 #include "RoleSettings.h"
 
-#include <QJsonArray>
 #include <QJsonObject>
 
 #include <numeric>
@@ -94,13 +94,15 @@ void IolistCommand::forEachRow(const std::vector<IoRow>& ranges,
 void IolistCommand::print(const std::vector<IoRow>& ranges, const Folder& folder, Console& console) const
 {
     if (m_json) {
-        QJsonArray rows;
-        forEachRow(ranges, [&rows](const IoRow& row) { rows.append(jsonOf(row)); });
-        console.json("iolist", {{"folder", folder.path}, {"rows", rows}});
+        JsonRows rows(console, "iolist", {{"folder", folder.path}}, "rows");
+        forEachRow(ranges, [&rows](const IoRow& row) { rows.add(JsonRows::bytesOf(jsonOf(row))); });
     } else if (m_html) {
         HtmlPage page(QStringLiteral("I/O list of ") + folder.name());
         page.beginTable(IoList::header());
-        forEachRow(ranges, [&page](const IoRow& row) { page.row(IoList::cellsOf(row)); });
+        forEachRow(ranges, [&page, &console](const IoRow& row) {
+            page.row(IoList::cellsOf(row));
+            console.data(page.takeBytes());
+        });
         page.endTable();
         console.data(page.bytes());
     } else if (m_csv) {

@@ -1,10 +1,11 @@
 #include "SealCommand.h"
 
 #include "Console.h"
+#include "JsonRows.h"
 #include "Seal.h"
 #include "WholeFile.h"
 
-#include <QJsonArray>
+#include <optional>
 
 void SealCommand::addOptions(CLI::App& app)
 {
@@ -17,7 +18,9 @@ ExitCode SealCommand::run(Console& console)
     const std::vector<Folder> folders = m_folders.find();
     if (folders.empty())
         return ExitTrouble;
-    QJsonArray sealed;
+    std::optional<JsonRows> rows;
+    if (m_json)
+        rows.emplace(console, "seal", QJsonObject(), "folders");
     for (const Folder& folder : folders) {
         QString trouble;
         const std::optional<Seal::Sums> sums = Seal::of(folder, trouble);
@@ -29,12 +32,11 @@ ExitCode SealCommand::run(Console& console)
             return ExitTrouble;
         }
         const auto count = static_cast<int>(sums->size());
-        sealed.append(QJsonObject{{"folder", folder.path}, {"seal", path}, {"files", count}});
-        if (!m_json)
+        if (rows)
+            rows->add(JsonRows::bytesOf({{"folder", folder.path}, {"seal", path}, {"files", count}}));
+        else
             console.line(
                 QStringLiteral("%1: %2 files").arg(console.painted(Console::Tone::Heading, path)).arg(count));
     }
-    if (m_json)
-        console.json("seal", {{"folders", sealed}});
     return ExitSame;
 }

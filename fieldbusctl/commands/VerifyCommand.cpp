@@ -1,8 +1,11 @@
 #include "VerifyCommand.h"
 
 #include "Console.h"
+#include "JsonRows.h"
 #include "Seal.h"
 #include "WholeFile.h"
+
+#include <QJsonArray>
 
 #include <algorithm>
 
@@ -39,7 +42,7 @@ void VerifyCommand::addOptions(CLI::App& app)
     app.add_flag("--json", m_json, "print JSON");
 }
 
-ExitCode VerifyCommand::verify(const Folder& folder, Console& console, QJsonArray& verified) const
+ExitCode VerifyCommand::verify(const Folder& folder, Console& console, std::optional<JsonRows>& rows)
 {
     const QString path = Seal::pathOf(folder);
     QByteArray bytes;
@@ -58,13 +61,14 @@ ExitCode VerifyCommand::verify(const Folder& folder, Console& console, QJsonArra
     const std::vector<Deviation> found = deviations(*sealed, *present);
     for (const Deviation& deviation : found) {
         files.append(QJsonObject{{"kind", deviation.kind}, {"file", deviation.path}});
-        if (!m_json)
+        if (!rows)
             console.line(
                 console.painted(Console::Tone::Bad, QLatin1String(deviation.kind)) + QLatin1Char(' ') +
                 console.painted(Console::Tone::Plain, folder.name() + QLatin1Char('/') + deviation.path));
     }
-    verified.append(QJsonObject{{"folder", folder.path}, {"seal", path}, {"deviations", files}});
-    if (found.empty() && !m_json)
+    if (rows)
+        rows->add(JsonRows::bytesOf({{"folder", folder.path}, {"seal", path}, {"deviations", files}}));
+    if (found.empty() && !rows)
         console.line(QStringLiteral("%1: %2 files are as they were sealed")
                          .arg(console.painted(Console::Tone::Heading, folder.path))
                          .arg(present->size()));
@@ -74,11 +78,13 @@ ExitCode VerifyCommand::verify(const Folder& folder, Console& console, QJsonArra
 ExitCode VerifyCommand::run(Console& console)
 {
     const std::vector<Folder> folders = m_folders.find();
-    ExitCode worst = folders.empty() ? ExitTrouble : ExitSame;
-    QJsonArray verified;
+    if (folders.empty())
+        return ExitTrouble;
+    std::optional<JsonRows> rows;
+    if (m_json)
+        rows.emplace(console, "verify", QJsonObject(), "folders");
+    ExitCode worst = ExitSame;
     for (const Folder& folder : folders)
-        worst = std::max(worst, verify(folder, console, verified));
-    if (m_json && worst != ExitTrouble)
-        console.json("verify", {{"folders", verified}});
+        worst = std::max(worst, verify(folder, console, rows));
     return worst;
 }

@@ -4,7 +4,9 @@
 #include "Command.h"
 #include "FolderOptions.h"
 
-#include <QJsonArray>
+#include <optional>
+
+class JsonRows;
 
 /// Compares folders with the checksums that were written when they were sealed.
 class VerifyCommand : public Command
@@ -14,7 +16,7 @@ public:
     ExitCode run(Console& console) override;
 
 private:
-    ExitCode verify(const Folder& folder, Console& console, QJsonArray& verified) const;
+    static ExitCode verify(const Folder& folder, Console& console, std::optional<JsonRows>& rows);
 
     FolderOptions m_folders;
     bool m_json = false;

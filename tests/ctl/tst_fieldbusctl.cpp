@@ -9,6 +9,8 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <cstdlib>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -433,8 +435,70 @@ private slots:
         const ConfigFolders::Outcome outcome = folders.run(QStringList{command, "--json"} + arguments);
         const QJsonObject json = jsonOf(outcome.out);
         QTEST(json.keys(), "keys");
+        QCOMPARE(outcome.out, QJsonDocument(json).toJson()); // also where rows are printed as they come
         QCOMPARE(json["schema"].toString(), "fieldbusctl/" + command);
         QCOMPARE(json["version"].toInt(), 1);
+    }
+
+    void coloursATerminalAlone_data()
+    {
+        QTest::addColumn<bool>("isTerminal");
+        QTest::addColumn<QStringList>("environment");
+        QTest::addColumn<bool>("isColoured");
+        QTest::newRow("a terminal") << true << QStringList{"TERM=xterm"} << true;
+        QTest::newRow("no colour wanted") << true << QStringList{"TERM=xterm", "NO_COLOR=1"} << false;
+        QTest::newRow("empty is not set") << true << QStringList{"TERM=xterm", "NO_COLOR="} << true;
+        QTest::newRow("a terminal without any") << true << QStringList{"TERM=dumb"} << false;
+        QTest::newRow("a file") << false << QStringList{"TERM=xterm"} << false;
+    }
+    void coloursATerminalAlone()
+    {
+        QFETCH(bool, isTerminal);
+        QFETCH(QStringList, environment);
+        ConfigFolders folders;
+        QVERIFY(folders.makeExport(First));
+        const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
+        QVERIFY(terminal >= 0 && ::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0);
+        const QString file = isTerminal ? QString(::ptsname(terminal)) : folders.path("told");
+        // Open for as long as it is read, or what was written there is lost.
+        QFile other(file);
+        QVERIFY(other.open(QIODevice::ReadWrite));
+        QProcess process;
+        process.setEnvironment(environment);
+        process.setStandardOutputFile(file);
+        process.start(FIELDBUSCTL, {"check", "-q", folders.path(First)});
+        QVERIFY(process.waitForFinished());
+        char bytes[4096];
+        const auto size =
+            isTerminal ? ::read(terminal, bytes, sizeof bytes) : other.read(bytes, sizeof bytes);
+        ::close(terminal);
+        const QByteArray told(bytes, static_cast<int>(std::max<qint64>(size, 0)));
+        QVERIFY2(told.contains("of information"), told);
+        QTEST(told.contains("\x1b["), "isColoured");
+    }
+
+    void completes_data()
+    {
+        QTest::addColumn<QByteArray>("typed");
+        QTest::addColumn<QByteArray>("offered");
+        QTest::newRow("a command") << QByteArray("fieldbusctl s") << QByteArray("show seal");
+        QTest::newRow("an option of a command")
+            << QByteArray("fieldbusctl iolist --e") << QByteArray("--expand");
+        QTest::newRow("a value") << QByteArray("fieldbusctl check --fail-on w") << QByteArray("warning");
+        QTest::newRow("a file") << QByteArray("fieldbusctl show dri") << QByteArray();
+    }
+    void completes()
+    {
+        QFETCH(QByteArray, typed);
+        ConfigFolders folders;
+        const QString script = QStringLiteral(SOURCE_DIRECTORY "/fieldbusctl/fieldbusctl.bash");
+        const QString program = QFileInfo(FIELDBUSCTL).path();
+        const ConfigFolders::Outcome outcome = folders.run(
+            {"--norc", "-c",
+             "PATH=" + program + ":$PATH; source " + script + "; COMP_WORDS=(" + typed +
+                 "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _fieldbusctl; echo \"${COMPREPLY[*]}\""},
+            "bash");
+        QTEST(outcome.out.trimmed(), "offered");
     }
 
     void tellsWhenNothingCanBeWritten()

@@ -138,6 +138,9 @@ private slots:
             Refused);
         row("mapping: another direction", mapping, mapped(R"( quantity="8")", R"( direction="RO")"),
             "0 4294967295 4294967295");
+        row("mapping: the first of a type counts", mapping,
+            mapped(R"( quantity="8"/><User type="Int" quantity="1"/><User type="Bool" quantity="x")"),
+            "8 4294967295 4294967295");
         row("mapping: nothing but the root", mapping, "<FieldbusConfig/>", "0 4294967295 4294967295");
     }
     void reads()

@@ -11,7 +11,7 @@ struct Edit
 {
     FileId file;
     QByteArray from;
-    const char* to;
+    QByteArray to; ///< null: the file is removed
 };
 
 /// The factory files, with changes.
@@ -45,10 +45,10 @@ private:
     void take(const Edit& edit)
     {
         auto& content = at(edit.file);
-        if (!edit.to) {
+        if (edit.to.isNull()) {
             content.reset();
         } else if (edit.from.isEmpty()) {
-            content = QByteArray(edit.to);
+            content = edit.to;
         } else {
             const int found = content->indexOf(edit.from);
             m_isEdited = m_isEdited && found >= 0;

@@ -107,6 +107,8 @@ private slots:
         row("a quantity that is no number", {{F::Mapping, "quantity=\"512\"", "quantity=\"5x\""}}, "FB105e");
         row("a text file of zeros", {{F::EipSlave, {}, "\1\2IPADDR NETMASK RUN_ALWAYS"}},
             "FB307e FB603w FB602w FB601w");
+        row("a NUL behind the end", {{F::ProfisafeDescription, "</ProfiSafe>", {"</ProfiSafe>\0", 13}}},
+            "FB105e");
         row("Latin-1 in an XML file", {{F::FinsClient, "<ServerIP>", "<ServerIP>\xe4"}}, "FB107e");
         row("an element of another version", {{F::MesServer, "<Mode>", "<Modus>1</Modus><Mode>"}}, "FB108i");
         row("a role of another version",

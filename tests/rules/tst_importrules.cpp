@@ -85,6 +85,14 @@ private slots:
         row("a DOCTYPE", FileId::Heartbeat, "<!DOCTYPE a [<!ENTITY x 'y'>]><Fidbus><Mtcp/></Fidbus>", "-",
             "line 1: DOCTYPE");
         row("UTF-16", FileId::Heartbeat, QByteArray("\xff\xfe<\0F\0", 6), "-", "is not in UTF-8");
+        for (const char* bytes : {"\xC0\xAF", "\xED\xA0\x80", "\xE0\x80\x80", "\xF0\x8F\xBF\xBF",
+                                  "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\x80", "\xC3", "\xE2\x82 "})
+            row(QByteArray(bytes).toHex() + QString(" is no character"), FileId::Heartbeat,
+                "<Fidbus><Mtcp/></Fidbus><!--" + QByteArray(bytes) + "-->", "-", "is not in UTF-8");
+        row("characters of each length", FileId::Heartbeat,
+            "<Fidbus><Mtcp/></Fidbus><!--\xC2\x80\xDF\xBF\xE0\xA0\x80\xED\x9F\xBF\xEF\xBF\xBF"
+            "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF-->",
+            "-", "");
         row("two roots", FileId::Heartbeat, "<Fidbus><Mtcp/></Fidbus>\n<Fidbus/>", "-", "line 2: Fidbus");
         row("an address that is no number", FileId::Mapping,
             "<FieldbusConfig><Mode name='free'><Bus name='EtherCatSlave'><Area direction='ro'><User "

@@ -60,7 +60,7 @@ void files(const Configuration& configuration, FindingList& found)
 {
     for (const KnownFile& known : KnownFiles::all()) {
         const Configuration::File& file = configuration.file(known.id);
-        const QString name = QLatin1String(known.name);
+        const QLatin1String name(known.name);
         if (file.state == State::Missing && known.isExported())
             found.add(FindingCode::FileMissing, {{}, known.id}, {name},
                       {{QStringLiteral("file"), name, QLatin1String(known.controller)}});

@@ -4,7 +4,7 @@
 
 QString textOf(FindingCode code)
 {
-    return QStringLiteral("FB%1").arg(static_cast<int>(code));
+    return QLatin1String("FB") + QString::number(static_cast<int>(code));
 }
 
 const std::vector<FindingKind>& findingKinds()

@@ -1,5 +1,6 @@
 #include "FindingList.h"
 
+#include "AsciiText.h"
 #include "FileCheck.h"
 
 #include <algorithm>
@@ -36,14 +37,17 @@ int FindingList::lineOf(const About& about) const
     if (!about.file || about.at.empty())
         return 0;
     const QByteArray& bytes = m_configuration.bytes(*about.file);
-    int found = -1;
+    const std::string_view content = AsciiText::view(bytes);
+    constexpr std::size_t Nowhere = std::string_view::npos;
+    std::size_t found = Nowhere;
     for (const QByteArray& text : about.at) {
-        const int next = bytes.indexOf(text, found + 1);
-        if (next < 0)
+        const std::size_t next =
+            AsciiText::find(content, AsciiText::view(text), found == Nowhere ? 0 : found + 1);
+        if (next == Nowhere)
             break;
         found = text.startsWith('\n') ? next + 1 : next; // a keyword that begins its line
     }
-    return found < 0 ? 0 : FileCheck::lineAt(bytes, found);
+    return found == Nowhere ? 0 : FileCheck::lineAt(bytes, static_cast<qint64>(found));
 }
 
 Findings FindingList::sorted()

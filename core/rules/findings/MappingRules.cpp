@@ -156,6 +156,7 @@ private:
     void rows()
     {
         std::vector<Placed> placed;
+        placed.reserve(2 * MappedTypeCount);
         for (const bool isSystem : {false, true}) {
             const MappingRows& all = isSystem ? m_area.system : m_area.user;
             for (const MappedType type : Types) {

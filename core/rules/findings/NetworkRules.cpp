@@ -89,22 +89,29 @@ struct Partner
     QString address;
 };
 
+std::optional<FindingCode> wrongWith(const std::optional<Ip>& address, const Configuration& configuration)
+{
+    if (!address)
+        return FindingCode::NoAddress;
+    if (Addresses::isLoopback(*address))
+        return FindingCode::ServerIsLoopback;
+    if (portWith(configuration, *address))
+        return FindingCode::ServerIsRobot;
+    if (configuration.isRead(FileId::NetworkPorts) && !Addresses::isReached(*address, configuration.ports))
+        return FindingCode::ServerOutOfReach;
+    return {};
+}
+
 void partner(const Partner& partner, const Configuration& configuration, FindingList& found)
 {
+    const auto code = wrongWith(ipOf(partner.address), configuration);
+    if (!code)
+        return;
+    const bool isAboutPorts = code == FindingCode::ServerIsRobot || code == FindingCode::ServerOutOfReach;
     const Evidence fact = FindingList::fact(QLatin1String(partner.element), partner.file, partner.address);
-    const FindingList::About about{partner.role, partner.file, {'<' + QByteArray(partner.element)}};
-    const QStringList arguments{titleOf(partner.role), partner.address};
-    const auto address = ipOf(partner.address);
-    if (!address) {
-        found.add(FindingCode::NoAddress, about, arguments, {fact});
-    } else if (Addresses::isLoopback(*address)) {
-        found.add(FindingCode::ServerIsLoopback, about, arguments, {fact});
-    } else if (portWith(configuration, *address)) {
-        found.add(FindingCode::ServerIsRobot, about, arguments, with(fact, portFacts(configuration)));
-    } else if (configuration.isRead(FileId::NetworkPorts) &&
-               !Addresses::isReached(*address, configuration.ports)) {
-        found.add(FindingCode::ServerOutOfReach, about, arguments, with(fact, portFacts(configuration)));
-    }
+    found.add(*code, {partner.role, partner.file, {'<' + QByteArray(partner.element)}},
+              {titleOf(partner.role), partner.address},
+              with(fact, isAboutPorts ? portFacts(configuration) : std::vector<Evidence>()));
 }
 
 // A port as it was typed, 0 when it is none.

@@ -122,10 +122,10 @@ void roles(const Configuration& configuration, FindingList& found, bool profisaf
     excluded(configuration, found, ExclusionGroup::Masters, FindingCode::MastersTogether);
     excluded(configuration, found, ExclusionGroup::DeviceNet, FindingCode::DeviceNetTogether);
     for (const RoleInfo& role : RoleTable::Roles) {
-        const QByteArray quoted = '"' + QByteArray(role.name) + '"';
         if (SwitchRules::freeConfigurationObjection(role.id, configuration.on, profisafePresent))
-            found.add(FindingCode::NeedsFreeConfiguration, {role.id, FileId::RoleList, {quoted}},
-                      {titleOf(role.id)}, {found.factOf(role.id), found.factOf(RoleId::FreeBus)});
+            found.add(FindingCode::NeedsFreeConfiguration,
+                      {role.id, FileId::RoleList, {'"' + QByteArray(role.name) + '"'}}, {titleOf(role.id)},
+                      {found.factOf(role.id), found.factOf(RoleId::FreeBus)});
     }
     if (!configuration.isOn(RoleId::ModbusTcpSlave))
         found.add(FindingCode::ModbusSlaveOff,

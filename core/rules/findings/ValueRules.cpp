@@ -96,17 +96,19 @@ void positions(RoleId role, FileId file, const MasterSlaveTable& table, FindingL
         const auto& position = MasterSlaveTable::positions()[static_cast<std::size_t>(i)];
         const bool isFixed = table.*position.fixed;
         const bool isDynamic = table.*position.dynamic;
-        if (!isFixed && !isDynamic)
+        const bool isBothWays = isFixed && isDynamic;
+        const bool isBeyond = (isFixed || isDynamic) && isNumber && i >= count;
+        if (!isBothWays && !isBeyond)
             continue;
         const Evidence fixed = FindingList::fact(QLatin1String(position.fixedElement), file, isFixed ? 1 : 0);
         const Evidence dynamic =
             FindingList::fact(QLatin1String(position.dynamicElement), file, isDynamic ? 1 : 0);
         const QString number = QString::number(i + 1);
-        if (isFixed && isDynamic)
+        if (isBothWays)
             found.add(FindingCode::PositionBothWays,
                       {role, file, {'<' + QByteArray(position.dynamicElement)}}, {titleOf(role), number},
                       {fixed, dynamic});
-        if (isNumber && i >= count)
+        if (isBeyond)
             found.add(
                 FindingCode::PositionBeyondCount,
                 {role, file, {'<' + QByteArray(isFixed ? position.fixedElement : position.dynamicElement)}},

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace Rules {
 
@@ -17,19 +18,23 @@ const RoleInfo* roleOf(const Field& field)
 {
     const auto found =
         std::find_if(RoleTable::Roles.begin(), RoleTable::Roles.end(), [&field](const RoleInfo& role) {
-            return role.heartbeatKey && qstrcmp(role.heartbeatKey, field.bus) == 0;
+            return role.heartbeatKey && std::strcmp(role.heartbeatKey, field.bus) == 0;
         });
     return found == RoleTable::Roles.end() ? nullptr : found;
 }
 
+FindingList::About atTimeout(RoleId role, const Field& field)
+{
+    return {role, FileId::Heartbeat, {'<' + QByteArray(field.timeoutElement)}};
+}
+
 // A watch shorter than what its role needs to find out that all is well.
-void shortWatch(const Configuration& configuration, FindingList& found, const FindingList::About& about,
-                double timeout)
+void shortWatch(const Configuration& configuration, FindingList& found, RoleId role, const Field& field)
 {
     constexpr double MsPerSecond = 1000;
-    const bool isScanned =
-        about.role == RoleId::DeviceNetMaster && configuration.isRead(FileId::DeviceNetMaster);
-    const bool isAsked = about.role == RoleId::ModbusTcpMaster && configuration.isRead(FileId::MtcpMaster);
+    const double timeout = configuration.heartbeat.*field.timeout;
+    const bool isScanned = role == RoleId::DeviceNetMaster && configuration.isRead(FileId::DeviceNetMaster);
+    const bool isAsked = role == RoleId::ModbusTcpMaster && configuration.isRead(FileId::MtcpMaster);
     if (!isScanned && !isAsked)
         return;
     const double needed = isScanned ? configuration.deviceNetMaster.PACHET_RATIO / MsPerSecond
@@ -40,8 +45,9 @@ void shortWatch(const Configuration& configuration, FindingList& found, const Fi
     const QString fact = isScanned ? QStringLiteral("PACHET_RATIO") : QStringLiteral("TimeOut");
     const QString shown = isScanned ? QString::number(configuration.deviceNetMaster.PACHET_RATIO)
                                     : configuration.mtcpMaster.TimeOut;
-    found.add(isScanned ? FindingCode::WatchShorterThanScan : FindingCode::WatchShorterThanTimeOut, about,
-              {titleOf(*about.role), HeartbeatConfig::timeoutText(timeout), QString::number(needed)},
+    found.add(isScanned ? FindingCode::WatchShorterThanScan : FindingCode::WatchShorterThanTimeOut,
+              atTimeout(role, field),
+              {titleOf(role), HeartbeatConfig::timeoutText(timeout), QString::number(needed)},
               {FindingList::fact(QStringLiteral("time-out of the watch"), FileId::Heartbeat,
                                  HeartbeatConfig::timeoutText(timeout)),
                FindingList::fact(fact, file, shown)});
@@ -64,15 +70,12 @@ void watch(const Configuration& configuration, FindingList& found, const Field& 
     }
     if (!isWatched)
         return;
-    const FindingList::About atTime{role.id, FileId::Heartbeat, {'<' + QByteArray(field.timeoutElement)}};
-    const Evidence timeFact =
-        FindingList::fact(QLatin1String(field.timeoutElement), FileId::Heartbeat, QString::number(timeout));
-    if (!std::isfinite(timeout) || timeout < 0)
-        found.add(FindingCode::WatchNoTime, atTime, {titleOf(role.id)}, {timeFact});
-    else if (timeout == 0)
-        found.add(FindingCode::WatchWithoutTime, atTime, {titleOf(role.id)}, {timeFact});
-    else
-        shortWatch(configuration, found, atTime, timeout);
+    if (std::isfinite(timeout) && timeout > 0)
+        return shortWatch(configuration, found, role.id, field);
+    found.add(timeout == 0 ? FindingCode::WatchWithoutTime : FindingCode::WatchNoTime,
+              atTimeout(role.id, field), {titleOf(role.id)},
+              {FindingList::fact(QLatin1String(field.timeoutElement), FileId::Heartbeat,
+                                 QString::number(timeout))});
 }
 
 bool isEndianName(std::string_view word)
@@ -82,7 +85,7 @@ bool isEndianName(std::string_view word)
 }
 
 // What the driver goes by: the line behind RUN_ALWAYS.
-QString endianOf(const QByteArray& bytes)
+std::string_view endianOf(const QByteArray& bytes)
 {
     std::string_view endian;
     bool isNext = false;
@@ -95,7 +98,7 @@ QString endianOf(const QByteArray& bytes)
         isNext = isNext || word == "RUN_ALWAYS";
         return true;
     });
-    return AsciiText::text(endian);
+    return endian;
 }
 
 struct Driver
@@ -113,12 +116,12 @@ void variant(const Configuration& configuration, FindingList& found, const Drive
 {
     if (!configuration.isRead(other))
         return;
-    const QString own = endianOf(configuration.bytes(driver.file));
-    const QString others = endianOf(configuration.bytes(other));
+    const std::string_view own = endianOf(configuration.bytes(driver.file));
+    const std::string_view others = endianOf(configuration.bytes(other));
     if (own != others)
         found.add(code, {driver.role, other, {"RUN_ALWAYS"}}, {titleOf(driver.role)},
-                  {FindingList::fact(QStringLiteral("byte order"), driver.file, own),
-                   FindingList::fact(QStringLiteral("byte order"), other, others)});
+                  {FindingList::fact(QStringLiteral("byte order"), driver.file, AsciiText::text(own)),
+                   FindingList::fact(QStringLiteral("byte order"), other, AsciiText::text(others))});
 }
 
 } // namespace
@@ -138,18 +141,19 @@ void byteOrders(const Configuration& configuration, FindingList& found)
     for (const Driver& driver : Drivers) {
         if (!configuration.isRead(driver.file))
             continue;
-        const QString endian = endianOf(configuration.bytes(driver.file));
-        const QByteArray word = AsciiText::bytes(endian);
-        if (!isEndianName({word.constData(), static_cast<std::size_t>(word.size())}))
+        const std::string_view word = endianOf(configuration.bytes(driver.file));
+        if (!isEndianName(word)) {
+            const QString endian = AsciiText::text(word);
             found.add(FindingCode::EndianUnknown, {driver.role, driver.file, {"RUN_ALWAYS"}},
                       {titleOf(driver.role), endian},
                       {FindingList::fact(QStringLiteral("byte order"), driver.file, endian)});
+        }
         variant(configuration, found, driver, driver.free, FindingCode::EndianDiffersFromFree);
         variant(configuration, found, driver, driver.fixed, FindingCode::EndianDiffersFromFixed);
     }
     if (configuration.isRead(FileId::DeviceNetMaster)) {
         const QByteArray word = AsciiText::bytes(configuration.deviceNetMaster.ENDIAN);
-        if (!isEndianName({word.constData(), static_cast<std::size_t>(word.size())}))
+        if (!isEndianName(AsciiText::view(word)))
             found.add(FindingCode::EndianUnknown,
                       {RoleId::DeviceNetMaster, FileId::DeviceNetMaster, {"\nENDIAN"}},
                       {titleOf(RoleId::DeviceNetMaster), configuration.deviceNetMaster.ENDIAN},

@@ -9,7 +9,10 @@
 #include <pugixml.hpp>
 
 #include <algorithm>
+#include <cstring>
 #include <vector>
+
+using namespace std::string_view_literals;
 
 namespace FileCheck {
 
@@ -35,9 +38,14 @@ Fault fault(Fault::Kind kind, const char* text, const QStringList& arguments = {
     return {kind, 0, {text, arguments}};
 }
 
+bool holds(const QByteArray& content, std::string_view text)
+{
+    return AsciiText::find(AsciiText::view(content), text) != std::string_view::npos;
+}
+
 bool isBlank(const QByteArray& content)
 {
-    return AsciiText::trimmed({content.constData(), static_cast<std::size_t>(content.size())}).empty();
+    return AsciiText::trimmed(AsciiText::view(content)).empty();
 }
 
 std::optional<Fault> faultOfProlog(const QByteArray& content, const ParsedXml& xml)
@@ -92,15 +100,15 @@ struct Walk : pugi::xml_tree_walker
             longest = std::max(longest, qstrlen(attribute.value()));
     }
 
-    void lookUp(const char* name)
+    void lookUp(const char* text)
     {
         constexpr std::size_t Enough = 5; // for a person
-        const auto& known = *vocabulary;
-        if (unknown.size() < Enough &&
-            std::none_of(known.begin(), known.end(),
-                         [name](const char* element) { return qstrcmp(element, name) == 0; }) &&
-            std::find(unknown.begin(), unknown.end(), name) == unknown.end())
-            unknown.emplace_back(name);
+        const auto isName = [text](const char* element) {
+            return *element == *text && std::strcmp(element, text) == 0;
+        };
+        if (unknown.size() < Enough && std::none_of(vocabulary->begin(), vocabulary->end(), isName) &&
+            std::find(unknown.begin(), unknown.end(), text) == unknown.end())
+            unknown.emplace_back(text);
     }
 
     const std::vector<const char*>* vocabulary;
@@ -136,18 +144,18 @@ bool walk(FileId file, const QByteArray& content, const ParsedXml& xml, Report& 
 }
 
 std::optional<Fault> faultOfXml(const KnownFile& file, const QByteArray& content, const QByteArray* present,
-                                Report& report, std::optional<ParsedXml>& parsed)
+                                Report& report, ParsedXml& xml)
 {
     const FileNeeds::Names* needs = FileNeeds::namesOf(file.id);
     std::optional<ParsedXml> own;
     if (present && !isBlank(*present)) {
-        own.emplace(*present);
+        own.emplace().load(*present);
         if (!own->result() || !own->root())
             return {}; // the controller's own is no XML either
     }
-    if (!AsciiText::isUtf8(content))
+    if (!AsciiText::isUtf8(AsciiText::view(content)))
         return fault(Fault::NotText, IsNotUtf8);
-    const ParsedXml& xml = parsed.emplace(content);
+    xml.load(content);
     if (const auto found = faultOfProlog(content, xml))
         return found;
     if (!walk(file.id, content, xml, report))
@@ -163,31 +171,53 @@ std::optional<Fault> faultOfXml(const KnownFile& file, const QByteArray& content
     return {};
 }
 
+bool begins(std::string_view text, std::string_view word)
+{
+    return text.substr(0, word.size()) == word;
+}
+
 // Each device of a scan list has a comment, an input block, an output block and a line that closes it.
 bool isCut(const QByteArray& content)
 {
-    const int input = content.lastIndexOf("\nBLOCK_TO_RBX");
-    const int output = content.lastIndexOf("\nBLOCK_FROM_RBX");
-    if (content.count("\nBLOCK_TO_RBX") != content.count("\nBLOCK_FROM_RBX") ||
-        content.lastIndexOf("\n;   Device ") > input)
-        return true;
-    if (output >= 0 && content.indexOf("\n;=====", output) < 0)
-        return true;
+    constexpr std::string_view Rule = ";=====";
+    constexpr std::size_t Nowhere = std::string_view::npos;
+    const std::string_view all = AsciiText::view(content);
+    std::string_view first; // from the first rule on
+    std::string_view last = all;
+    int inputs = 0;
+    int outputs = 0;
+    bool isBare = false; // the last device has no input block yet
+    bool isOpen = false; // nothing closes the last output block
+    for (std::size_t feed = all.find('\n'); feed != Nowhere; feed = all.find('\n', feed + 1)) {
+        last = all.substr(feed + 1);
+        if (begins(last, "BLOCK_TO_RBX")) {
+            ++inputs;
+            isBare = false;
+        } else if (begins(last, "BLOCK_FROM_RBX")) {
+            ++outputs;
+            isOpen = true;
+        } else if (begins(last, ";   Device ")) {
+            isBare = true;
+        } else if (begins(last, Rule)) {
+            isOpen = false;
+            first = first.empty() ? last : first;
+        }
+    }
     // In the line that opens the next device.
-    const QByteArray first = content.mid(content.indexOf("\n;=====") + 1);
-    const QByteArray last = content.mid(content.lastIndexOf('\n') + 1);
-    return last.startsWith(";=====") && !first.startsWith(last + '\n') && !first.startsWith(last + '\r');
+    const std::string_view next = first.substr(std::min(last.size(), first.size()));
+    const bool isRule = begins(first, last) && (begins(next, "\n") || begins(next, "\r"));
+    return inputs != outputs || isBare || isOpen || (begins(last, Rule) && !isRule);
 }
 
 std::optional<Fault> faultOfText(const KnownFile& file, const QByteArray& content, const QByteArray* present)
 {
-    if (content.contains('\0') && !(present && present->contains('\0')))
+    if (holds(content, "\0"sv) && !(present && holds(*present, "\0"sv)))
         return fault(Fault::NotText, IsNoText);
     const FileNeeds::Names* needs = FileNeeds::namesOf(file.id);
     if (!needs)
         return {};
     for (const char* name : *needs) {
-        if (name && !content.contains(name) && (!present || isBlank(*present) || present->contains(name)))
+        if (name && !holds(content, name) && (!present || isBlank(*present) || holds(*present, name)))
             return fault(Fault::Incomplete, Lacks, {QLatin1String(name)});
     }
     if (file.id == FileId::DeviceNetMaster && isCut(content) && !(present && isCut(*present)))
@@ -196,7 +226,7 @@ std::optional<Fault> faultOfText(const KnownFile& file, const QByteArray& conten
 }
 
 std::optional<Fault> check(const KnownFile& file, const QByteArray& content, const QByteArray* present,
-                           Report& report, std::optional<ParsedXml>& parsed)
+                           Report& report, ParsedXml& xml)
 {
     if (content.size() > KnownFiles::MostBytes)
         return fault(Fault::TooLarge, IsTooLarge);
@@ -206,8 +236,7 @@ std::optional<Fault> check(const KnownFile& file, const QByteArray& content, con
             return {};
         return fault(Fault::Empty, IsEmpty);
     }
-    return file.root ? faultOfXml(file, content, present, report, parsed)
-                     : faultOfText(file, content, present);
+    return file.root ? faultOfXml(file, content, present, report, xml) : faultOfText(file, content, present);
 }
 
 } // namespace
@@ -217,8 +246,8 @@ std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content, c
     if (present && *present == content)
         return {};
     Report report;
-    std::optional<ParsedXml> parsed;
-    if (const auto found = check(file, content, present, report, parsed))
+    ParsedXml xml;
+    if (const auto found = check(file, content, present, report, xml))
         return found;
     MappingConfig mapping;
     if (file.id == FileId::Mapping && !MappingFile::read(content, mapping) &&
@@ -227,11 +256,17 @@ std::optional<Fault> faultOf(const KnownFile& file, const QByteArray& content, c
     return {};
 }
 
-Report examine(const KnownFile& file, const QByteArray& content, std::optional<ParsedXml>& parsed)
+Report examine(const KnownFile& file, const QByteArray& content, ParsedXml& xml)
 {
     Report report;
-    report.fault = check(file, content, nullptr, report, parsed);
+    report.fault = check(file, content, nullptr, report, xml);
     return report;
+}
+
+Report examine(const KnownFile& file, const QByteArray& content)
+{
+    ParsedXml xml;
+    return examine(file, content, xml);
 }
 
 Fault refusedByReader(FileId file)
@@ -241,8 +276,12 @@ Fault refusedByReader(FileId file)
 
 int lineAt(const QByteArray& content, qint64 offset)
 {
-    const auto end = content.begin() + qBound<qint64>(0, offset, content.size());
-    return 1 + static_cast<int>(std::count(content.begin(), end, '\n'));
+    const auto size = static_cast<std::size_t>(qBound<qint64>(0, offset, content.size()));
+    const std::string_view before = AsciiText::view(content).substr(0, size);
+    int line = 1;
+    for (std::size_t at = before.find('\n'); at != std::string_view::npos; at = before.find('\n', at + 1))
+        ++line;
+    return line;
 }
 
 } // namespace FileCheck

@@ -48,9 +48,10 @@ struct Report
     std::vector<QByteArray> unknownElements; ///< names that no reader here knows, the first few
     QStringList doubledRoles;                ///< of fieldbus.xml, each once
 };
-/// As `faultOf`, without a controller's file, and without asking the file's own reader. `parsed` gets
-/// what an XML file was parsed into, for that reader.
-Report examine(const KnownFile& file, const QByteArray& content, std::optional<ParsedXml>& parsed);
+/// As `faultOf`, without a controller's file, and without asking the file's own reader. An XML file is
+/// parsed into `xml`, for that reader.
+Report examine(const KnownFile& file, const QByteArray& content, ParsedXml& xml);
+Report examine(const KnownFile& file, const QByteArray& content);
 
 /// Of a file that its reader refuses for another reason.
 Fault refusedByReader(FileId file);

@@ -1,6 +1,6 @@
 #include "FindingText.h"
 
-#include <QJsonArray>
+#include <QJsonObject>
 #include <QStringList>
 
 namespace FindingText {
@@ -22,15 +22,18 @@ QString place(const Finding& finding)
     if (!finding.file)
         return {};
     const QString name = QLatin1String(KnownFiles::of(*finding.file).name);
-    return finding.line > 0 ? QStringLiteral("%1:%2").arg(name).arg(finding.line) : name;
+    return finding.line > 0 ? name + QLatin1Char(':') + QString::number(finding.line) : name;
 }
 
 QString textOf(const Evidence& evidence)
 {
-    return QStringLiteral("%1 %2 (%3)").arg(evidence.fact, evidence.value, evidence.source);
+    return evidence.fact + QLatin1Char(' ') + evidence.value + QLatin1String(" (") + evidence.source +
+           QLatin1Char(')');
 }
 
-QJsonObject jsonOf(const Finding& finding)
+namespace {
+
+QJsonObject rowOf(const Finding& finding)
 {
     QJsonArray evidence;
     for (const Evidence& fact : finding.evidence)
@@ -44,6 +47,16 @@ QJsonObject jsonOf(const Finding& finding)
         {"cause", finding.cause.inEnglish()},
         {"evidence", evidence},
         {"next", finding.next.inEnglish()}};
+}
+
+} // namespace
+
+QJsonArray jsonOf(const Findings& findings)
+{
+    QJsonArray rows;
+    for (const Finding& finding : findings)
+        rows.append(rowOf(finding));
+    return rows;
 }
 
 std::array<int, 3> counted(const Findings& findings)

@@ -3,7 +3,7 @@
 
 #include "Finding.h"
 
-#include <QJsonObject>
+#include <QJsonArray>
 
 #include <array>
 
@@ -22,7 +22,7 @@ QString place(const Finding& finding);
 /// "IPADDR 192.168.9.22 (fa/dns-1.cfg)".
 QString textOf(const Evidence& evidence);
 
-QJsonObject jsonOf(const Finding& finding);
+QJsonArray jsonOf(const Findings& findings);
 
 /// How many there are of each severity.
 std::array<int, 3> counted(const Findings& findings);

@@ -1,6 +1,7 @@
 #include "HtmlPage.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -91,6 +92,11 @@ void HtmlPage::ruler(const QString& caption, const std::vector<IoRow>& ranges)
         next = std::max(next, quint64(*row.last) + 1);
     }
     m_body += QLatin1String("</div>\n");
+}
+
+QByteArray HtmlPage::takeBytes()
+{
+    return std::exchange(m_body, {}).toUtf8();
 }
 
 QByteArray HtmlPage::bytes() const

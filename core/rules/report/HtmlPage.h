@@ -26,6 +26,9 @@ public:
     /// One direction of a bus as a ruler: the ranges as long as they are, with the addresses below.
     void ruler(const QString& caption, const std::vector<IoRow>& ranges);
 
+    /// What is there so far, for a page that is not to be held in memory.
+    QByteArray takeBytes();
+    /// The rest of it.
     QByteArray bytes() const;
 
 private:

@@ -87,9 +87,9 @@ QStringList textLines(const QByteArray& bytes, const Settings::Row* known)
     TextTemplate::forEachLine(bytes, [&](std::string_view whole, std::string_view) {
         const std::string_view line = AsciiText::trimmed(whole);
         const bool isKnown = known && known->knowsLine && !line.empty() && known->knowsLine(line);
-        const QByteArray raw = AsciiText::raw(line);
         if (!line.empty() && !isKnown)
-            lines << (AsciiText::isUtf8(raw) ? QString::fromUtf8(raw) : QString::fromLatin1(raw));
+            lines << (AsciiText::isUtf8(line) ? QString::fromUtf8(line.data(), static_cast<int>(line.size()))
+                                              : AsciiText::text(line));
         return true;
     });
     return lines;
@@ -102,8 +102,11 @@ QStringList ForeignLines::of(const QString& path, const QByteArray& bytes, const
     pugi::xml_document document;
     const KnownFile* file = KnownFiles::named(path);
     const bool isXml = file ? file->root != nullptr : path.endsWith(QLatin1String(".xml"));
-    if (isXml && document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()),
-                                      pugi::parse_default, pugi::encoding_utf8))
+    // The parser would take a NUL for the end, and what stands behind it would be no difference.
+    const bool isWhole = AsciiText::view(bytes).find('\0') == std::string_view::npos;
+    if (isXml && isWhole &&
+        document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()), pugi::parse_default,
+                             pugi::encoding_utf8))
         return Places(known && known->knownPlaces ? known : nullptr).of(document);
     return textLines(bytes, known);
 }
