@@ -40,6 +40,8 @@ struct PageFile
     bool isTemplate = false;
     // Faults that bring a file with nothing of its own in it: only who wants to save is told.
     QString unrecognised = {};
+    bool announcesUnsent = false; // the controller is told also when the file could not be sent
+    bool isSentBetween = false;   // before these boxes, and the controller's answer is the failure
 };
 
 const QStringList GoesOn{"(it does not look)"};
@@ -58,15 +60,14 @@ struct Page
     int kind = MsgBox::Warning;
     QString question = Sure;
     std::function<bool(PendantFixture&)> prepare = {};
-    bool announcesUnsent = false;  // also when the file could not be sent
     bool allocatesInATick = false; // for the texts of its CONNECT column
     bool needsItsCopy = false;     // of the file, or it writes nothing
     // What a save says, and writes nothing, while the robot runs, the servo is on, or no restart is allowed.
     QStringList whileRunning = GoesOn;
     QStringList withServoOn = GoesOn;
     QStringList withoutRestart = GoesOn;
-    bool noDropsEdits = false; // the second button of the question
-    int linkBit = 0;           // of "ifidbus.commun_state", which its light shows
+    QVector<int> dropsEdits = {}; // answers to the question
+    int linkBit = 0;              // of "ifidbus.commun_state", which its light shows
 };
 
 // A number that was not entered before.
@@ -89,6 +90,13 @@ bool chooseAnother(PendantFixture& pendant, const char* page, const char* combo)
                      __LINE__);
     box->setCurrentIndex(box->currentIndex() == 0 ? 1 : 0);
     return true;
+}
+
+bool reopened(PendantFixture& pendant)
+{
+    return QTest::qWaitFor([&] { return pendant.find("exitBtn")->isEnabled(); }) &&
+           pendant.press("exitBtn") && QTest::qWaitFor([&] { return !pendant.isOpen(); }) &&
+           pendant.openPastStartPage();
 }
 
 // An XML file tells when it was written; that alone is no change of it.
@@ -198,7 +206,7 @@ Page deviceNetMaster()
               [](PendantFixture& pendant) { return pendant.enter("le_wsid", fresh(9)); },
               {{"/fa/dnmst0.cfg", "dnmst0.cfg", "fetch-garbage fetch-empty"}},
               "ifidbus.dnm_save_config"};
-    page.announcesUnsent = page.needsItsCopy = page.allocatesInATick = true;
+    page.files.front().announcesUnsent = page.needsItsCopy = page.allocatesInATick = true;
     page.withoutRestart.clear();
     return page;
 }
@@ -216,11 +224,45 @@ Page etherCatModule()
         {{"/fa/fbslave.cfgx", "fbslave.cfgx", "", "", "", "", WriteFailed}},
         nullptr};
     page.whileRunning = page.withServoOn = QStringList(ServoFirst);
-    page.noDropsEdits = true;
+    page.dropsEdits = {MsgBox::Second};
     page.prepare = [](PendantFixture& pendant) {
         pendant.controller().variables().set("ifidbus.anybus_fm", EtherCatModule);
         return true;
     };
+    return page;
+}
+
+// The menu has loaded it by the time that it is shown.
+Page busSwitches()
+{
+    const QString text = "Failed to %1 file:override.cfg";
+    const QString waiting = "Before the save operation is completed,\n clicking on the current interface is "
+                            "invalid.";
+    PageFile devices{"/FA/override.cfg", "override.cfg", "", "", "", text.arg("write"), text.arg("send")};
+    devices.isTemplate = true;
+    PageFile switches{"/application/fidbus/fieldbus.xml", "", "", "", "", "", WriteFailed, {waiting}};
+    switches.announcesUnsent = true;
+    Page page{"bus switches",
+              5,
+              "BusSettingWidget",
+              nullptr,
+              "saveBusBt",
+              [](PendantFixture& pendant) {
+                  // What was saved without a restart runs, for the page, from the next opening on.
+                  return (pendant.text("saveBusBt") == "Save" || reopened(pendant)) &&
+                         chooseAnother(pendant, "BusSettingWidget", "ethcatMSwitch");
+              },
+              {devices, switches},
+              "ifidbus.bus_type_state",
+              "Successfully saved, the robot is about to restart and take effect.",
+              MsgBox::Error,
+              "This operation will cause the robot to restart.\n Are you sure to save the configuration?"};
+    page.prepare = [](PendantFixture& pendant) {
+        return pendant.controller().setRoleOn("EtherNetIPMaster", false) &&
+               pendant.controller().setRoleOn("ProfinetMaster", false);
+    };
+    page.whileRunning = page.withServoOn = QStringList(ServoFirst);
+    page.dropsEdits = {MsgBox::Dismissed, MsgBox::Second};
     return page;
 }
 
@@ -319,12 +361,14 @@ const std::vector<Page>& pages()
              "Please manually power off and restart the robot later!",
              MsgBox::Error,
              "Are you sure to Save Configuration?"},
+            busSwitches(),
         };
         const auto named = [&pages](const char* name) -> Page& {
             return *std::find_if(pages.begin(), pages.end(),
                                  [name](const Page& page) { return page.name == QLatin1String(name); });
         };
-        named("heartbeat").noDropsEdits = named("I/O mapping").noDropsEdits = true;
+        named("heartbeat").dropsEdits = named("I/O mapping").dropsEdits = {MsgBox::Second};
+        named("I/O mapping").files.front().isSentBetween = true;
         named("DeviceNet slave").linkBit = 32;
         named("EtherCAT slave").whileRunning = named("EtherCAT slave").withServoOn = QStringList(ServoFirst);
         named("EtherCAT master").withoutRestart.clear();
@@ -335,18 +379,19 @@ const std::vector<Page>& pages()
     return all;
 }
 
-// Pages that show, and keep nothing in a file.
+// Pages that keep nothing in a file: what they write, they write when it is pressed.
 const std::vector<Page>& withoutFile()
 {
     static const std::vector<Page> all = [] {
-        Page modbusSlave{"Modbus TCP slave", 15, "MtcpSlaveSetting", nullptr, "", {}, {}, nullptr};
-        Page profisafe{"ProfiSAFE", 14, "ProfiSAFESlaveWidget", nullptr, "", {}, {}, nullptr};
+        const Page modbusSlave{"Modbus TCP slave",          15, "MtcpSlaveSetting", nullptr, "cBox", {}, {},
+                               "ifidbus.performance_switch"};
+        Page profisafe{"ProfiSAFE", 14, "ProfiSAFESlaveWidget",     nullptr, "btn_errorConfir",
+                       {},          {}, "io_man.profisafe_local_wo"};
         profisafe.prepare = [](PendantFixture& pendant) {
             pendant.controller().behaviour<ProfisafeDevice>().setPresent(true);
             return true;
         };
-        Page busSwitches{"bus switches", 5, "BusSettingWidget", nullptr, "", {}, {}, nullptr};
-        return std::vector<Page>{modbusSlave, profisafe, busSwitches};
+        return std::vector<Page>{modbusSlave, profisafe};
     }();
     return all;
 }
@@ -600,9 +645,11 @@ private slots:
             MsgBoxScript::answerByDefault(row.answer);
             QVERIFY(save() && settle());
             QCOMPARE(messages(), row.messages);
-            QCOMPARE(traffic().stores() + traffic().fetches(), QStringList());
+            const bool isDropped =
+                row.messages.contains(page().question) && page().dropsEdits.contains(row.answer);
+            // The bus switches are loaded again.
+            QCOMPARE(traffic().stores() + (isDropped ? QStringList() : traffic().fetches()), QStringList());
             QVERIFY(!page().announced || writesOf(page().announced).isEmpty());
-            const bool isDropped = row.answer == MsgBox::Second && page().noDropsEdits;
             const QStringList shown = entries();
             for (int i = 0; i < changed.size(); ++i) {
                 const QString& expected = isDropped ? before[i] : changed[i];
@@ -694,7 +741,7 @@ private slots:
                 QVERIFY2(controllerFile(file.path) == before, name);
                 QCOMPARE(traffic().stores(), isUnsent ? sent + QStringList(file.path) : sent);
                 if (page().announced)
-                    QCOMPARE(!writesOf(page().announced).isEmpty(), isUnsent && page().announcesUnsent);
+                    QCOMPARE(!writesOf(page().announced).isEmpty(), isUnsent && file.announcesUnsent);
                 QCOMPARE(traffic().restartRequests(), 0);
 
                 controller().faults().clearAll();
@@ -726,6 +773,7 @@ private slots:
                      {"fetch-fails", first.getText, true},
                      {QStringLiteral("send-fails:-1:") + last.path, last.sendText, false},
                      {{}, page().question, false},
+                     {{}, last.between.isEmpty() ? page().question : last.between.constFirst(), false},
                      {{}, page().saved, false}};
         QVERIFY(openUpTo());
         for (const auto& row : cases) {
@@ -762,12 +810,36 @@ private slots:
             }
             QTRY_VERIFY2(dropped == 1, name);
             QVERIFY2(reopensAfterDrop(), name);
-            if (row.box != page().saved)
+            if (row.box != page().saved && !(last.isSentBetween && last.between.contains(row.box)))
                 QVERIFY2(controllerFile(last.path) == before, name);
             QVERIFY(isPrepared());
         }
         QVERIFY(show());
         QVERIFY(change());
+    }
+
+    void actsAtOnce_data()
+    {
+        const Rows<int> row;
+        eachWithoutFile(row);
+    }
+
+    // Asks nothing, whatever the robot does, and does it again when the application is back.
+    void actsAtOnce()
+    {
+        QVERIFY(openUpTo());
+        controller().setRobotRunning(true);
+        controller().setServoOn(true);
+        controller().setRestartAllowed(false);
+        for (int opening = 0; opening < 2; ++opening) {
+            QVERIFY(isPrepared() && show() && tick());
+            traffic().clear();
+            QVERIFY(pressSave());
+            QCOMPARE(messages(), QStringList());
+            QCOMPARE(writesOf(page().announced).size(), 1);
+            dropUserLevel();
+            QVERIFY(reopensAfterDrop());
+        }
     }
 
     void keysRestWhileItIsAtWork_data() { eachPage(); }
@@ -816,12 +888,7 @@ private slots:
         QVERIFY(struck > 0 || page().saved != Restart);
     }
 
-    void tickWithoutChangeCostsNothing_data()
-    {
-        const Rows<int> row = eachPage();
-        for (const Page& page : withoutFile())
-            row(page.name, int(pages().size() + (&page - withoutFile().data())));
-    }
+    void tickWithoutChangeCostsNothing_data() { eachWithoutFile(eachPage()); }
 
     void tickWithoutChangeCostsNothing()
     {
@@ -849,6 +916,11 @@ private:
         for (const Page& page : pages())
             row(page.name, int(&page - pages().data()));
         return row;
+    }
+    static void eachWithoutFile(const Rows<int>& row)
+    {
+        for (const Page& page : withoutFile())
+            row(page.name, int(pages().size() + (&page - withoutFile().data())));
     }
 };
 
