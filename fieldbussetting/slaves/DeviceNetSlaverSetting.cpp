@@ -2,6 +2,7 @@
 
 #include "FieldRanges.h"
 #include "QTouchLineEdit.h"
+#include "UpdateState.h"
 #include "ui_DeviceNetSlaverSetting.h"
 
 namespace {
@@ -16,10 +17,6 @@ constexpr FormField<Form, Record> Fields[] = {
 };
 
 constexpr int DeviceNetLinkBit = 32; // of the communication state
-
-// Bits of the file handshake: the pendant asks, the controller answers.
-constexpr int SlaveFileSent = 0x9000;
-constexpr int SlaveFileTaken = 0x2000;
 
 // Half-second polls without an answer before a save has failed; the first one of a page is given a second
 // more.
@@ -82,12 +79,12 @@ void DeviceNetSlaverSetting::on_btn_save_clicked()
 void DeviceNetSlaverSetting::beginHandshake()
 {
     // An answer that came after a handshake was given up is not the one to this file.
-    const int state = lib()->get_freebus_busconfig_xml_update_state() & ~SlaveFileTaken;
-    lib()->set_freebus_busconfig_xml_update(state | SlaveFileSent);
+    const int state = lib()->get_freebus_busconfig_xml_update_state() & ~UpdateState::SlaveTaken;
+    lib()->set_freebus_busconfig_xml_update(state | UpdateState::SlaveAnnounced);
     ui->btn_save->setEnabled(false);
     m_handshake.start(
         m_firstSave ? FirstHandshake : Handshake,
-        [] { return (lib()->get_freebus_busconfig_xml_update_state() & SlaveFileTaken) != 0; },
+        [] { return (lib()->get_freebus_busconfig_xml_update_state() & UpdateState::SlaveTaken) != 0; },
         [this](Poll::Answer answer) { endHandshake(answer == Poll::Answer::Yes); });
     m_firstSave = false;
 }

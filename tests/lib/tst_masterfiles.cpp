@@ -1,4 +1,5 @@
 #include "LibFixture.h"
+#include "Rows.h"
 
 #include <QTest>
 
@@ -95,243 +96,216 @@ class TestMasterFiles : public LibTest
     Q_OBJECT
 
 private slots:
-    void mtcpIsRead_data();
-    void mtcpIsRead();
-    void mtcpIsWritten_data();
-    void mtcpIsWritten();
-    void tablesAreRead_data();
-    void tablesAreRead();
-    void tablesAreWritten_data();
-    void tablesAreWritten();
-    void filesCutShortLeaveTheRecord();
-    void foldersOfOneLevelAreMade();
-    void aFailedWriteLeavesTheFile();
-};
-
-void TestMasterFiles::mtcpIsRead_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isRead");
-    QTest::addColumn<QString>("record");
-    const auto row = [](const char* name, const QByteArray& content, bool isRead, const char* record) {
-        QTest::newRow(name) << content << isRead << QString::fromUtf8(record);
-    };
-    const auto group = [](const QByteArray& content) {
-        return "<MtcpMasterCommunication><Group>" + content + "</Group></MtcpMasterCommunication>";
-    };
-    row("all, in another order",
-        group("<Alivetime>7</Alivetime><WriteEndian>6</WriteEndian><ReadEndian>5</ReadEndian>"
-              "<TimeOut>4</TimeOut><SlaveId>3</SlaveId><SlavePort>2</SlavePort><SlaveIp>1</SlaveIp>"),
-        true, "1|2|3|4|5|6|7");
-    row("what is missing is empty", group("<SlaveIp>1</SlaveIp><SlaveId/><TimeOut></TimeOut>"), true,
-        "1||||||");
-    row("a name twice counts once", group("<SlaveIp>1</SlaveIp><SlaveIp>2</SlaveIp>"), true, "1||||||");
-    row("the first of two groups",
-        "<MtcpMasterCommunication><Group/><Group><SlaveIp>1</SlaveIp></Group></MtcpMasterCommunication>",
-        true, "||||||");
-    row("another root", "<Other><Group><SlaveIp>1</SlaveIp></Group></Other>", true, "||||||");
-    row("no group", "<MtcpMasterCommunication><SlaveIp>1</SlaveIp></MtcpMasterCommunication>", true,
-        "||||||");
-    row("names of another case", group("<slaveip>1</slaveip>"), true, "||||||");
-    row("text as it stands", group("<SlaveIp> 1\t\n2 </SlaveIp><SlavePort>a&amp;b</SlavePort>"), true,
-        " 1\t\n2 |a&amp;b|||||");
-    row("text behind a comment and an element", group("<SlaveIp><!-- 5 --><b>2</b>1</SlaveIp>"), true,
-        "1||||||");
-    row("text of another language", group("<SlaveIp>\xc3\xbc\xe2\x82\xac</SlaveIp>"), true,
-        "\u00fc\u20ac||||||");
-    row("CDATA and attributes are no text", group("<SlaveIp ip=\"1\"><![CDATA[2]]></SlaveIp>"), true,
-        "||||||");
-    row("a byte order mark", "\xef\xbb\xbf" + group("<SlaveIp>1</SlaveIp>"), true, "1||||||");
-    row("empty", "", false, SampleMtcpText);
-    row("no element", "<?xml version=\"1.0\"?>\n<!-- x -->", false, SampleMtcpText);
-    row("no XML", "SlaveIp 1", false, SampleMtcpText);
-    row("a tag that is not closed", group("<SlaveIp>1"), false, SampleMtcpText);
-}
-
-void TestMasterFiles::mtcpIsRead()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(bool, isRead);
-    FieldbusSettingLib& lib = LibFixture::lib();
-    lib.mtcpMaster = SampleMtcp;
-    QVERIFY(LibFixture::put(Path, content));
-    QCOMPARE(lib.readMtcpFile(Path), isRead);
-    QTEST(text(lib.mtcpMaster), "record");
-    QVERIFY(!lib.readMtcpFile(LibFixture::local("none.xml")));
-    QTEST(text(lib.mtcpMaster), "record");
-}
-
-void TestMasterFiles::mtcpIsWritten_data()
-{
-    QTest::addColumn<MtcpMasterConfig>("record");
-    QTest::addColumn<QByteArray>("elements");
-    QTest::newRow("values") << SampleMtcp
-                            << QByteArray("\t\t<SlaveIp>192.168.1.9</SlaveIp>\n"
-                                          "\t\t<SlavePort>502</SlavePort>\n"
-                                          "\t\t<SlaveId>7</SlaveId>\n"
-                                          "\t\t<TimeOut>1.5</TimeOut>\n"
-                                          "\t\t<ReadEndian>2</ReadEndian>\n"
-                                          "\t\t<WriteEndian>5</WriteEndian>\n"
-                                          "\t\t<Alivetime>30</Alivetime>\n");
-    // Nothing that a text holds may break the file: control characters, markup, half a surrogate pair.
-    QTest::newRow("empty and awkward texts") << MtcpMasterConfig{QString("\x01<&>\""),
-                                                                 QString::fromUtf8("\xc3\xbc\xe2\x82\xac"),
-                                                                 QString(QChar(0xd800)),
-                                                                 "",
-                                                                 "\t",
-                                                                 " ",
-                                                                 ""}
-                                             << QByteArray("\t\t<SlaveIp> &lt;&amp;&gt;\"</SlaveIp>\n"
-                                                           "\t\t<SlavePort>\xc3\xbc\xe2\x82\xac</SlavePort>\n"
-                                                           "\t\t<SlaveId>?</SlaveId>\n"
-                                                           "\t\t<TimeOut></TimeOut>\n"
-                                                           "\t\t<ReadEndian>\t</ReadEndian>\n"
-                                                           "\t\t<WriteEndian> </WriteEndian>\n"
-                                                           "\t\t<Alivetime></Alivetime>\n");
-}
-
-void TestMasterFiles::mtcpIsWritten()
-{
-    QFETCH(MtcpMasterConfig, record);
-    QFETCH(QByteArray, elements);
-    FieldbusSettingLib& lib = LibFixture::lib();
-    lib.mtcpMaster = record;
-    QVERIFY(LibFixture::put(Path, QByteArray(5000, 'x')));
-    QVERIFY(lib.writeMtcpFile(Path));
-    QCOMPARE(LibFixture::getWithoutDate(Path), LibFixture::Prologue +
-                                                   QByteArray("<MtcpMasterCommunication>\n\t<Group>\n") +
-                                                   elements + "\t</Group>\n</MtcpMasterCommunication>\n");
-    QVERIFY(lib.readMtcpFile(Path));
-    QCOMPARE(LibFixture::localFiles(), QStringList("file.xml"));
-}
-
-void TestMasterFiles::tablesAreRead_data()
-{
-    QTest::addColumn<Twin>("twin");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isRead");
-    QTest::addColumn<QString>("table");
-    for (const Twin& twin : {EtherNetIp, Profinet}) {
-        const auto row = [&twin](const char* name, QByteArray content, bool isRead, const QString& table) {
-            content.replace("{", "<" + twin.root + "><Group>").replace("}", "</Group></" + twin.root + ">");
-            QTest::newRow((twin.root + ": " + name).constData()) << twin << content << isRead << table;
+    void mtcpIsRead_data()
+    {
+        const Rows<QByteArray, bool, QString> row;
+        const auto group = [](const QByteArray& content) {
+            return "<MtcpMasterCommunication><Group>" + content + "</Group></MtcpMasterCommunication>";
         };
-        row("values, in another order",
-            "{<SlaveDynamic><DynSlave9>1</DynSlave9><DynSlave1>1</DynSlave1></SlaveDynamic>"
-            "<SlaveFixed><FixSlave5>1</FixSlave5></SlaveFixed>"
-            "<EnableTimeout>3</EnableTimeout><DisableTimeout>2</DisableTimeout><SlaveNum>1</SlaveNum>}",
-            true, "1|2|3|000010000|100000001");
-        row("flags as words",
-            "{<SlaveFixed><FixSlave1>true</FixSlave1><FixSlave2>TRUE</FixSlave2><FixSlave3>yes</FixSlave3>"
-            "<FixSlave4>Y</FixSlave4><FixSlave5>10</FixSlave5><FixSlave6>on</FixSlave6>"
-            "<FixSlave7>false</FixSlave7><FixSlave8> 1</FixSlave8><FixSlave9>2</FixSlave9></SlaveFixed>}",
-            true, "|||111110000|000000000");
-        row("no group of flags", "{<SlaveNum>4</SlaveNum>}", true, "4|||000000000|000000000");
-        row("flags outside their group",
-            "{<FixSlave1>1</FixSlave1><SlaveFixed><DynSlave1>1</DynSlave1></SlaveFixed>}", true,
-            "|||000000000|000000000");
-        row("two groups",
-            "<" + twin.root +
-                "><Group><SlaveNum>1</SlaveNum></Group><Group><SlaveNum>2</SlaveNum>"
-                "<EnableTimeout>3</EnableTimeout></Group></" +
-                twin.root + ">",
-            true, "1|||000000000|000000000");
-        row("the file of the other master",
-            (twin.root == EtherNetIp.root ? "<Pfn" : "<Eip") +
-                QByteArray("MasterCommunication><Group>"
-                           "<SlaveNum>1</SlaveNum></Group>") +
-                (twin.root == EtherNetIp.root ? "</Pfn" : "</Eip") + QByteArray("MasterCommunication>"),
-            true, "|||000000000|000000000");
-        row("no group", "<" + twin.root + "><SlaveNum>1</SlaveNum></" + twin.root + ">", true,
-            "|||000000000|000000000");
-        row("deep nesting",
-            "{" + QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000) +
-                "<SlaveNum>1</SlaveNum>}",
-            true, "1|||000000000|000000000");
-        row("a megabyte of one element", "{<SlaveNum>" + QByteArray(1 << 20, '7') + "</SlaveNum>}", true,
-            QString(1 << 20, '7') + "|||000000000|000000000");
-        row("nesting that is not closed", QByteArray("<a>").repeated(100000), false, SampleTableText);
+        row("all, in another order",
+            group("<Alivetime>7</Alivetime><WriteEndian>6</WriteEndian><ReadEndian>5</ReadEndian>"
+                  "<TimeOut>4</TimeOut><SlaveId>3</SlaveId><SlavePort>2</SlavePort><SlaveIp>1</SlaveIp>"),
+            true, "1|2|3|4|5|6|7");
+        row("what is missing is empty", group("<SlaveIp>1</SlaveIp><SlaveId/><TimeOut></TimeOut>"), true,
+            "1||||||");
+        row("a name twice counts once", group("<SlaveIp>1</SlaveIp><SlaveIp>2</SlaveIp>"), true, "1||||||");
+        row("the first of two groups",
+            "<MtcpMasterCommunication><Group/><Group><SlaveIp>1</SlaveIp></Group></MtcpMasterCommunication>",
+            true, "||||||");
+        row("another root", "<Other><Group><SlaveIp>1</SlaveIp></Group></Other>", true, "||||||");
+        row("no group", "<MtcpMasterCommunication><SlaveIp>1</SlaveIp></MtcpMasterCommunication>", true,
+            "||||||");
+        row("names of another case", group("<slaveip>1</slaveip>"), true, "||||||");
+        row("text as it stands", group("<SlaveIp> 1\t\n2 </SlaveIp><SlavePort>a&amp;b</SlavePort>"), true,
+            " 1\t\n2 |a&amp;b|||||");
+        row("text behind a comment and an element", group("<SlaveIp><!-- 5 --><b>2</b>1</SlaveIp>"), true,
+            "1||||||");
+        row("text of another language", group("<SlaveIp>\xc3\xbc\xe2\x82\xac</SlaveIp>"), true,
+            "\u00fc\u20ac||||||");
+        row("CDATA and attributes are no text", group("<SlaveIp ip=\"1\"><![CDATA[2]]></SlaveIp>"), true,
+            "||||||");
+        row("a byte order mark", "\xef\xbb\xbf" + group("<SlaveIp>1</SlaveIp>"), true, "1||||||");
+        row("empty", "", false, SampleMtcpText);
+        row("no element", "<?xml version=\"1.0\"?>\n<!-- x -->", false, SampleMtcpText);
+        row("no XML", "SlaveIp 1", false, SampleMtcpText);
+        row("a tag that is not closed", group("<SlaveIp>1"), false, SampleMtcpText);
     }
-}
 
-void TestMasterFiles::tablesAreRead()
-{
-    QFETCH(Twin, twin);
-    QFETCH(QByteArray, content);
-    QFETCH(bool, isRead);
-    FieldbusSettingLib& lib = LibFixture::lib();
-    lib.eipMaster = lib.pfnMaster = sampleTable();
-    QVERIFY(LibFixture::put(Path, content));
-    QCOMPARE((lib.*twin.read)(Path), isRead);
-    QTEST(text(lib.*twin.table), "table");
-    QCOMPARE(text(twin.table == &FieldbusSettingLib::eipMaster ? lib.pfnMaster : lib.eipMaster),
-             QString(SampleTableText));
-}
+    void mtcpIsRead()
+    {
+        const auto [content, isRead, record] = Rows<QByteArray, bool, QString>::current();
+        FieldbusSettingLib& lib = LibFixture::lib();
+        lib.mtcpMaster = SampleMtcp;
+        QVERIFY(LibFixture::put(Path, content));
+        QCOMPARE(lib.readMtcpFile(Path), isRead);
+        QCOMPARE(text(lib.mtcpMaster), record);
+        QVERIFY(!lib.readMtcpFile(LibFixture::local("none.xml")));
+        QCOMPARE(text(lib.mtcpMaster), record);
+    }
 
-void TestMasterFiles::tablesAreWritten_data()
-{
-    QTest::addColumn<Twin>("twin");
-    QTest::newRow("EtherNet/IP") << EtherNetIp;
-    QTest::newRow("PROFINET") << Profinet;
-}
+    void mtcpIsWritten_data()
+    {
+        const Rows<MtcpMasterConfig, QByteArray> row;
+        row("values", SampleMtcp,
+            QByteArray("\t\t<SlaveIp>192.168.1.9</SlaveIp>\n"
+                       "\t\t<SlavePort>502</SlavePort>\n"
+                       "\t\t<SlaveId>7</SlaveId>\n"
+                       "\t\t<TimeOut>1.5</TimeOut>\n"
+                       "\t\t<ReadEndian>2</ReadEndian>\n"
+                       "\t\t<WriteEndian>5</WriteEndian>\n"
+                       "\t\t<Alivetime>30</Alivetime>\n"));
+        // Nothing that a text holds may break the file: control characters, markup, half a surrogate pair.
+        row("empty and awkward texts",
+            {QString("\x01<&>\""), QString::fromUtf8("\xc3\xbc\xe2\x82\xac"), QString(QChar(0xd800)), "",
+             "\t", " ", ""},
+            "\t\t<SlaveIp> &lt;&amp;&gt;\"</SlaveIp>\n"
+            "\t\t<SlavePort>\xc3\xbc\xe2\x82\xac</SlavePort>\n"
+            "\t\t<SlaveId>?</SlaveId>\n"
+            "\t\t<TimeOut></TimeOut>\n"
+            "\t\t<ReadEndian>\t</ReadEndian>\n"
+            "\t\t<WriteEndian> </WriteEndian>\n"
+            "\t\t<Alivetime></Alivetime>\n");
+    }
 
-void TestMasterFiles::tablesAreWritten()
-{
-    QFETCH(Twin, twin);
-    FieldbusSettingLib& lib = LibFixture::lib();
-    lib.*twin.table = sampleTable();
-    QVERIFY((lib.*twin.write)(Path));
-    QCOMPARE(LibFixture::getWithoutDate(Path), sampleTableFile(twin.root));
-    lib.*twin.table = {};
-    QVERIFY((lib.*twin.read)(Path));
-    QCOMPARE(text(lib.*twin.table), QString(SampleTableText));
-}
+    void mtcpIsWritten()
+    {
+        const auto [record, elements] = Rows<MtcpMasterConfig, QByteArray>::current();
+        FieldbusSettingLib& lib = LibFixture::lib();
+        lib.mtcpMaster = record;
+        QVERIFY(LibFixture::put(Path, QByteArray(5000, 'x')));
+        QVERIFY(lib.writeMtcpFile(Path));
+        QCOMPARE(LibFixture::getWithoutDate(Path), LibFixture::Prologue +
+                                                       QByteArray("<MtcpMasterCommunication>\n\t<Group>\n") +
+                                                       elements + "\t</Group>\n</MtcpMasterCommunication>\n");
+        QVERIFY(lib.readMtcpFile(Path));
+        QCOMPARE(LibFixture::localFiles(), QStringList("file.xml"));
+    }
 
-void TestMasterFiles::filesCutShortLeaveTheRecord()
-{
-    FieldbusSettingLib& lib = LibFixture::lib();
-    lib.mtcpMaster = SampleMtcp;
-    QVERIFY(lib.writeMtcpFile(Path));
-    QCOMPARE(LibFixture::cutAtEveryByte(Path,
-                                        [&] {
-                                            const bool isRead = lib.readMtcpFile(Path);
-                                            return isRead || text(lib.mtcpMaster) != SampleMtcpText;
-                                        }),
-             -1);
-    for (const Twin& twin : {EtherNetIp, Profinet}) {
+    void tablesAreRead_data()
+    {
+        const Rows<Twin, QByteArray, bool, QString> rows;
+        for (const Twin& twin : {EtherNetIp, Profinet}) {
+            const auto row = [&](const char* name, QByteArray content, bool isRead, const QString& table) {
+                content.replace("{", "<" + twin.root + "><Group>")
+                    .replace("}", "</Group></" + twin.root + ">");
+                rows(twin.root + ": " + name, twin, content, isRead, table);
+            };
+            row("values, in another order",
+                "{<SlaveDynamic><DynSlave9>1</DynSlave9><DynSlave1>1</DynSlave1></SlaveDynamic>"
+                "<SlaveFixed><FixSlave5>1</FixSlave5></SlaveFixed>"
+                "<EnableTimeout>3</EnableTimeout><DisableTimeout>2</DisableTimeout><SlaveNum>1</SlaveNum>}",
+                true, "1|2|3|000010000|100000001");
+            row("flags as words",
+                "{<SlaveFixed><FixSlave1>true</FixSlave1><FixSlave2>TRUE</FixSlave2><FixSlave3>yes</"
+                "FixSlave3>"
+                "<FixSlave4>Y</FixSlave4><FixSlave5>10</FixSlave5><FixSlave6>on</FixSlave6>"
+                "<FixSlave7>false</FixSlave7><FixSlave8> 1</FixSlave8><FixSlave9>2</FixSlave9></SlaveFixed>}",
+                true, "|||111110000|000000000");
+            row("no group of flags", "{<SlaveNum>4</SlaveNum>}", true, "4|||000000000|000000000");
+            row("flags outside their group",
+                "{<FixSlave1>1</FixSlave1><SlaveFixed><DynSlave1>1</DynSlave1></SlaveFixed>}", true,
+                "|||000000000|000000000");
+            row("two groups",
+                "<" + twin.root +
+                    "><Group><SlaveNum>1</SlaveNum></Group><Group><SlaveNum>2</SlaveNum>"
+                    "<EnableTimeout>3</EnableTimeout></Group></" +
+                    twin.root + ">",
+                true, "1|||000000000|000000000");
+            row("the file of the other master",
+                (twin.root == EtherNetIp.root ? "<Pfn" : "<Eip") +
+                    QByteArray("MasterCommunication><Group>"
+                               "<SlaveNum>1</SlaveNum></Group>") +
+                    (twin.root == EtherNetIp.root ? "</Pfn" : "</Eip") + QByteArray("MasterCommunication>"),
+                true, "|||000000000|000000000");
+            row("no group", "<" + twin.root + "><SlaveNum>1</SlaveNum></" + twin.root + ">", true,
+                "|||000000000|000000000");
+            row("deep nesting",
+                "{" + QByteArray("<a>").repeated(100000) + QByteArray("</a>").repeated(100000) +
+                    "<SlaveNum>1</SlaveNum>}",
+                true, "1|||000000000|000000000");
+            row("a megabyte of one element", "{<SlaveNum>" + QByteArray(1 << 20, '7') + "</SlaveNum>}", true,
+                QString(1 << 20, '7') + "|||000000000|000000000");
+            row("nesting that is not closed", QByteArray("<a>").repeated(100000), false, SampleTableText);
+        }
+    }
+
+    void tablesAreRead()
+    {
+        const auto [twin, content, isRead, table] = Rows<Twin, QByteArray, bool, QString>::current();
+        FieldbusSettingLib& lib = LibFixture::lib();
+        lib.eipMaster = lib.pfnMaster = sampleTable();
+        QVERIFY(LibFixture::put(Path, content));
+        QCOMPARE((lib.*twin.read)(Path), isRead);
+        QCOMPARE(text(lib.*twin.table), table);
+        QCOMPARE(text(twin.table == &FieldbusSettingLib::eipMaster ? lib.pfnMaster : lib.eipMaster),
+                 QString(SampleTableText));
+    }
+
+    void tablesAreWritten_data()
+    {
+        const Rows<Twin> row;
+        row("EtherNet/IP", EtherNetIp);
+        row("PROFINET", Profinet);
+    }
+
+    void tablesAreWritten()
+    {
+        const auto [twin] = Rows<Twin>::current();
+        FieldbusSettingLib& lib = LibFixture::lib();
         lib.*twin.table = sampleTable();
         QVERIFY((lib.*twin.write)(Path));
+        QCOMPARE(LibFixture::getWithoutDate(Path), sampleTableFile(twin.root));
+        lib.*twin.table = {};
+        QVERIFY((lib.*twin.read)(Path));
+        QCOMPARE(text(lib.*twin.table), QString(SampleTableText));
+    }
+
+    void filesCutShortLeaveTheRecord()
+    {
+        FieldbusSettingLib& lib = LibFixture::lib();
+        lib.mtcpMaster = SampleMtcp;
+        QVERIFY(lib.writeMtcpFile(Path));
         QCOMPARE(LibFixture::cutAtEveryByte(Path,
                                             [&] {
-                                                const bool isRead = (lib.*twin.read)(Path);
-                                                return isRead || text(lib.*twin.table) != SampleTableText;
+                                                const bool isRead = lib.readMtcpFile(Path);
+                                                return isRead || text(lib.mtcpMaster) != SampleMtcpText;
                                             }),
                  -1);
+        for (const Twin& twin : {EtherNetIp, Profinet}) {
+            lib.*twin.table = sampleTable();
+            QVERIFY((lib.*twin.write)(Path));
+            QCOMPARE(LibFixture::cutAtEveryByte(Path,
+                                                [&] {
+                                                    const bool isRead = (lib.*twin.read)(Path);
+                                                    return isRead || text(lib.*twin.table) != SampleTableText;
+                                                }),
+                     -1);
+        }
     }
-}
 
-void TestMasterFiles::foldersOfOneLevelAreMade()
-{
-    FieldbusSettingLib& lib = LibFixture::lib();
-    QVERIFY(!lib.writeMtcpFile(LibFixture::local("a/b/file.xml")));
-    QVERIFY(LibFixture::localFiles().isEmpty());
-    QVERIFY(lib.writeMtcpFile(LibFixture::local("a/file.xml")));
-    QVERIFY(lib.writeEimXMLFile(LibFixture::local("a/b/file.xml")));
-    QVERIFY(QFile::exists(LibFixture::local("a/b/file.xml")));
-    QVERIFY(lib.writePnmXMLFile("file.xml"));
-    QVERIFY(QFile::exists("file.xml"));
-}
+    void foldersOfOneLevelAreMade()
+    {
+        FieldbusSettingLib& lib = LibFixture::lib();
+        QVERIFY(!lib.writeMtcpFile(LibFixture::local("a/b/file.xml")));
+        QVERIFY(LibFixture::localFiles().isEmpty());
+        QVERIFY(lib.writeMtcpFile(LibFixture::local("a/file.xml")));
+        QVERIFY(lib.writeEimXMLFile(LibFixture::local("a/b/file.xml")));
+        QVERIFY(QFile::exists(LibFixture::local("a/b/file.xml")));
+        QVERIFY(lib.writePnmXMLFile("file.xml"));
+        QVERIFY(QFile::exists("file.xml"));
+    }
 
-void TestMasterFiles::aFailedWriteLeavesTheFile()
-{
-    FieldbusSettingLib& lib = LibFixture::lib();
-    QVERIFY(QDir().mkdir(Path));
-    QVERIFY(!lib.writePnmXMLFile(Path));
-    QVERIFY(LibFixture::put(LibFixture::local("a"), "old"));
-    QVERIFY(!lib.writePnmXMLFile(LibFixture::local("a/file.xml")));
-    QCOMPARE(LibFixture::get(LibFixture::local("a")), QByteArray("old"));
-    QCOMPARE(LibFixture::localFiles(), (QStringList{"a", "file.xml"}));
-}
+    void aFailedWriteLeavesTheFile()
+    {
+        FieldbusSettingLib& lib = LibFixture::lib();
+        QVERIFY(QDir().mkdir(Path));
+        QVERIFY(!lib.writePnmXMLFile(Path));
+        QVERIFY(LibFixture::put(LibFixture::local("a"), "old"));
+        QVERIFY(!lib.writePnmXMLFile(LibFixture::local("a/file.xml")));
+        QCOMPARE(LibFixture::get(LibFixture::local("a")), QByteArray("old"));
+        QCOMPARE(LibFixture::localFiles(), (QStringList{"a", "file.xml"}));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestMasterFiles)
 #include "tst_masterfiles.moc"

@@ -162,6 +162,7 @@ private slots:
             QString message;
         } entries[] = {
             {0, MacId, "07", "5", Duplicate},
+            {2, MacId, "5", "14", Duplicate},
             {0, MacId, "63", "63", {}},
             {1, MacId, "7", "7", {}}, // its own
             {1, MacId, "5", "5", {}}, // free again

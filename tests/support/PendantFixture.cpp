@@ -20,6 +20,7 @@ namespace {
 
 constexpr int CalmTurns = 6;
 constexpr int TurnMs = 5;
+constexpr int ModuleCheckMs = 80; // after which the start page has looked what module there is
 constexpr int NormalUserLevel = 4;
 
 QWidget* menuPage(const PendantWindow& window)
@@ -97,7 +98,9 @@ bool PendantFixture::open()
 bool PendantFixture::openPastStartPage()
 {
     MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-    const bool opened = open();
+    bool opened = open();
+    QTest::qWait(ModuleCheckMs);
+    opened = settle() && opened;
     MsgBoxScript::clear();
     MsgBoxScript::failUnanswered(true);
     m_controller->traffic().clear();
