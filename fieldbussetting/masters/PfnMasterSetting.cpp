@@ -4,34 +4,40 @@
 
 const MasterTablePage::Master& PfnMasterSetting::master()
 {
-    static const Master description = {
-        "PfnMasterSetting",
-        QT_TRANSLATE_NOOP("PfnMasterSetting", "Profinet Master Setting"),
-        "btn_save",
-        "pfnMasterTableWdt",
-        "dynalm_checkbox",
-        {"fix_checkbox_%1", "dyn_checkbox_%1", "connectStatLb_%1", "couplingStatLb_%1",
-         "decouplingStatLb_%1"},
-        &FieldbusSettingLib::pfnMasterOverride,
-        &FieldbusSettingLib::readPnmFile,
-        &FieldbusSettingLib::writePnmFile,
-        &FieldbusSettingLib::pfnMaster,
-        ConfigFile::PfnMaster,
-        &FieldbusSettingLib::readPnmXMLFile,
-        &FieldbusSettingLib::writePnmXMLFile,
+    static const Master description = [] {
+        Master pnm{};
+        pnm.className = "PfnMasterSetting";
+        pnm.title = QT_TRANSLATE_NOOP("PfnMasterSetting", "Profinet Master Setting");
+        pnm.saveButton = "btn_save";
+        pnm.deviceTable = "pfnMasterTableWdt";
+        pnm.dynamicAlarmBox = "dynalm_checkbox";
+        pnm.rowNames.fixed = "fix_checkbox_%1";
+        pnm.rowNames.dynamic = "dyn_checkbox_%1";
+        pnm.rowNames.connected = "connectStatLb_%1";
+        pnm.rowNames.coupling = "couplingStatLb_%1";
+        pnm.rowNames.decoupling = "decouplingStatLb_%1";
+        pnm.devices = &FieldbusSettingLib::pfnMasterOverride;
+        pnm.readDevices = &FieldbusSettingLib::readPnmFile;
+        pnm.writeDevices = &FieldbusSettingLib::writePnmFile;
+        pnm.slaves = &FieldbusSettingLib::pfnMaster;
+        pnm.slaveFile = ConfigFile::PfnMaster;
+        pnm.readSlaves = &FieldbusSettingLib::readPnmXMLFile;
+        pnm.writeSlaves = &FieldbusSettingLib::writePnmXMLFile;
         // The texts name another file than the one that is written; they have always read so.
-        {MsgBox::Error, QT_TRANSLATE_NOOP("PfnMasterSetting", "Failed to get pfn_master.xml file."),
-         QT_TRANSLATE_NOOP("PfnMasterSetting", "Failed to read pfn_master.xml file."),
-         QT_TRANSLATE_NOOP("PfnMasterSetting", "Failed to write pnm_master.xml file."),
-         QT_TRANSLATE_NOOP("PfnMasterSetting", "Failed to send pnm_master.xml file.")},
-        &FieldbusSettingLib::get_ifidbus_pnm_status,
-        &FieldbusSettingLib::get_ifidbus_pnm_enable_status,
-        &FieldbusSettingLib::get_ifidbus_pnm_disable_status,
-        &FieldbusSettingLib::get_ifidbus_dynamic_pnm_enable,
-        &FieldbusSettingLib::set_ifidbus_dynamic_pnm_enable,
-        SaveWhen::ServoOff,
-        true,
-    };
+        pnm.slaveTexts = {MsgBox::Error,
+                          QT_TRANSLATE_NOOP("PfnMasterSetting", "Failed to get pfn_master.xml file."),
+                          QT_TRANSLATE_NOOP("PfnMasterSetting", "Failed to read pfn_master.xml file."),
+                          QT_TRANSLATE_NOOP("PfnMasterSetting", "Failed to write pnm_master.xml file."),
+                          QT_TRANSLATE_NOOP("PfnMasterSetting", "Failed to send pnm_master.xml file.")};
+        pnm.connected = &FieldbusSettingLib::get_ifidbus_pnm_status;
+        pnm.coupling = &FieldbusSettingLib::get_ifidbus_pnm_enable_status;
+        pnm.decoupling = &FieldbusSettingLib::get_ifidbus_pnm_disable_status;
+        pnm.dynamicAlarm = &FieldbusSettingLib::get_ifidbus_dynamic_pnm_enable;
+        pnm.setDynamicAlarm = &FieldbusSettingLib::set_ifidbus_dynamic_pnm_enable;
+        pnm.saveWhen = SaveWhen::ServoOff;
+        pnm.yieldsToProfisafe = true;
+        return pnm;
+    }();
     return description;
 }
 
