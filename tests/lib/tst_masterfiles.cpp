@@ -188,7 +188,7 @@ private slots:
             const auto row = [&](const char* name, QByteArray content, bool isRead, const QString& table) {
                 content.replace("{", "<" + twin.root + "><Group>")
                     .replace("}", "</Group></" + twin.root + ">");
-                rows(twin.root + ": " + name, twin, content, isRead, table);
+                rows((twin.root + ": " + name).constData(), twin, content, isRead, table);
             };
             row("values, in another order",
                 "{<SlaveDynamic><DynSlave9>1</DynSlave9><DynSlave1>1</DynSlave1></SlaveDynamic>"
