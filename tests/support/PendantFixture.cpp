@@ -12,6 +12,7 @@
 #include "UserSession.h"
 #include "ZelBaseWidget.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
 #include <QTableWidget>
