@@ -553,12 +553,6 @@ mehr als die zulässigen %2. Bitte neu eingeben</translation>
         <translation>Bus-Variable</translation>
     </message>
     <message>
-        <source>Changed on the controller since it was read.
-Reload?</source>
-        <translation>Auf der Steuerung geändert, seit es gelesen wurde.
-Neu laden?</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
@@ -792,10 +786,6 @@ Neu laden?</translation>
         <source>Failed to write file.</source>
         <translation>Datei konnte nicht geschrieben werden.</translation>
     </message>
-    <message>
-        <source>Failed to get file.</source>
-        <translation>Datei konnte nicht geholt werden.</translation>
-    </message>
 </context>
 <context>
     <name>EtherNetSettingWidget</name>
@@ -933,6 +923,14 @@ Neu laden?</translation>
     <message>
         <source>Mtcp</source>
         <translation>Modbus TCP-Slave</translation>
+    </message>
+    <message>
+        <source>The bus configuration could not be read from the controller.</source>
+        <translation>Die Bus-Konfiguration konnte nicht von der Steuerung gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Erneut versuchen</translation>
     </message>
 </context>
 <context>
@@ -1799,14 +1797,6 @@ Trotzdem importieren?</translation>
         <translation>Import läuft ...</translation>
     </message>
     <message>
-        <source>The files of the controller take effect with the next restart.
-Until then the pages may show what was there before,
-and the bus switches cannot be saved.</source>
-        <translation>Die Dateien der Steuerung werden mit dem nächsten Neustart wirksam.
-Bis dahin zeigen die Seiten vielleicht noch den früheren Stand,
-und die Bus-Schalter können nicht gespeichert werden.</translation>
-    </message>
-    <message>
         <source>Import file failed!</source>
         <translation>Import fehlgeschlagen!</translation>
     </message>
@@ -1870,6 +1860,10 @@ Ein neuer Import gibt sie auf, sobald er gesendet ist.</translation>
         <source>The pendant&apos;s copy of %1 has changed meanwhile.</source>
         <translation>Die Kopie von %1 auf dem Bediengerät hat sich inzwischen geändert.</translation>
     </message>
+    <message>
+        <source>The files of the controller take effect with the next restart.</source>
+        <translation>Die Dateien der Steuerung werden mit dem nächsten Neustart wirksam.</translation>
+    </message>
 </context>
 <context>
     <name>UsbTransfer</name>
@@ -1890,12 +1884,6 @@ Save the bus switches all the same?</source>
         <translation>Ein früherer Import wurde weder beendet noch rückgängig gemacht.
 Mit „Importieren“ können die früheren Dateien zurückgelegt werden.
 Die Bus-Schalter trotzdem speichern?</translation>
-    </message>
-    <message>
-        <source>The files of the controller have changed since this page was opened.
-Please close the application and open it again first.</source>
-        <translation>Die Dateien der Steuerung haben sich geändert, seit diese Seite geöffnet wurde.
-Bitte schließen Sie die Anwendung und öffnen Sie sie zuerst neu.</translation>
     </message>
     <message>
         <source>No exported bus configuration found on the USB drive!</source>

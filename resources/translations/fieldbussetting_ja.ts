@@ -553,12 +553,6 @@ exceeding the maximum bytes of %2. Please re-enter</source>
         <translation>バス変数</translation>
     </message>
     <message>
-        <source>Changed on the controller since it was read.
-Reload?</source>
-        <translation>読み取り後にコントローラ側で変更されました。
-再読み込みしますか？</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>保存</translation>
     </message>
@@ -792,10 +786,6 @@ Reload?</source>
         <source>Failed to write file.</source>
         <translation>ファイルを書き込めませんでした。</translation>
     </message>
-    <message>
-        <source>Failed to get file.</source>
-        <translation>ファイルを取得できませんでした。</translation>
-    </message>
 </context>
 <context>
     <name>EtherNetSettingWidget</name>
@@ -933,6 +923,14 @@ Reload?</source>
     <message>
         <source>Mtcp</source>
         <translation>Modbus TCP スレーブ</translation>
+    </message>
+    <message>
+        <source>The bus configuration could not be read from the controller.</source>
+        <translation>コントローラからバス構成を読み取れませんでした。</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
     </message>
 </context>
 <context>
@@ -1799,14 +1797,6 @@ Import it all the same?</source>
         <translation>インポート中...</translation>
     </message>
     <message>
-        <source>The files of the controller take effect with the next restart.
-Until then the pages may show what was there before,
-and the bus switches cannot be saved.</source>
-        <translation>コントローラのファイルは次回の再起動で有効になります。
-それまで画面には以前の内容が表示されることがあり、
-バススイッチは保存できません。</translation>
-    </message>
-    <message>
         <source>Import file failed!</source>
         <translation>ファイルをインポートできませんでした。</translation>
     </message>
@@ -1870,6 +1860,10 @@ A new import gives them up once it is sent.</source>
         <source>The pendant&apos;s copy of %1 has changed meanwhile.</source>
         <translation>ペンダントにある %1 のコピーがその間に変更されました。</translation>
     </message>
+    <message>
+        <source>The files of the controller take effect with the next restart.</source>
+        <translation>コントローラのファイルは次回の再起動で有効になります。</translation>
+    </message>
 </context>
 <context>
     <name>UsbTransfer</name>
@@ -1890,12 +1884,6 @@ Save the bus switches all the same?</source>
         <translation>以前のインポートが完了も取り消しもされていません。
 「インポート」で以前のファイルに戻せます。
 それでもバススイッチを保存しますか？</translation>
-    </message>
-    <message>
-        <source>The files of the controller have changed since this page was opened.
-Please close the application and open it again first.</source>
-        <translation>この画面を開いた後、コントローラのファイルが変更されました。
-まずアプリケーションを閉じて開き直してください。</translation>
     </message>
     <message>
         <source>No exported bus configuration found on the USB drive!</source>

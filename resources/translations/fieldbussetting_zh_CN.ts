@@ -553,12 +553,6 @@ exceeding the maximum bytes of %2. Please re-enter</source>
         <translation>总线变量</translation>
     </message>
     <message>
-        <source>Changed on the controller since it was read.
-Reload?</source>
-        <translation>读取之后控制器上已有更改。
-是否重新加载？</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>保存</translation>
     </message>
@@ -792,10 +786,6 @@ Reload?</source>
         <source>Failed to write file.</source>
         <translation>写入文件失败。</translation>
     </message>
-    <message>
-        <source>Failed to get file.</source>
-        <translation>获取文件失败。</translation>
-    </message>
 </context>
 <context>
     <name>EtherNetSettingWidget</name>
@@ -933,6 +923,14 @@ Reload?</source>
     <message>
         <source>Mtcp</source>
         <translation>Modbus TCP 从站</translation>
+    </message>
+    <message>
+        <source>The bus configuration could not be read from the controller.</source>
+        <translation>无法从控制器读取总线配置。</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
     </message>
 </context>
 <context>
@@ -1799,14 +1797,6 @@ Import it all the same?</source>
         <translation>正在导入...</translation>
     </message>
     <message>
-        <source>The files of the controller take effect with the next restart.
-Until then the pages may show what was there before,
-and the bus switches cannot be saved.</source>
-        <translation>控制器的文件将在下次重启后生效。
-在此之前，各页面可能显示原来的内容，
-且总线开关无法保存。</translation>
-    </message>
-    <message>
         <source>Import file failed!</source>
         <translation>文件导入失败！</translation>
     </message>
@@ -1870,6 +1860,10 @@ A new import gives them up once it is sent.</source>
         <source>The pendant&apos;s copy of %1 has changed meanwhile.</source>
         <translation>示教器上%1的副本在此期间已更改。</translation>
     </message>
+    <message>
+        <source>The files of the controller take effect with the next restart.</source>
+        <translation>控制器的文件将在下次重启后生效。</translation>
+    </message>
 </context>
 <context>
     <name>UsbTransfer</name>
@@ -1890,12 +1884,6 @@ Save the bus switches all the same?</source>
         <translation>先前的导入既未完成也未撤销。
 可用“导入”恢复原文件。
 仍要保存总线开关吗？</translation>
-    </message>
-    <message>
-        <source>The files of the controller have changed since this page was opened.
-Please close the application and open it again first.</source>
-        <translation>打开此页面之后控制器的文件已更改。
-请先关闭应用程序再重新打开。</translation>
     </message>
     <message>
         <source>No exported bus configuration found on the USB drive!</source>

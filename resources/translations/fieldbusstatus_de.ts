@@ -112,6 +112,33 @@
     </message>
 </context>
 <context>
+    <name>DeviceNetCodes</name>
+    <message>
+        <source>no fault</source>
+        <translation>kein Fehler</translation>
+    </message>
+    <message>
+        <source>the network has no link</source>
+        <translation>das Netz hat keine Verbindung</translation>
+    </message>
+    <message>
+        <source>no answer on the network</source>
+        <translation>keine Antwort im Netz</translation>
+    </message>
+    <message>
+        <source>another device has its MAC ID</source>
+        <translation>ein anderes Gerät hat seine MAC ID</translation>
+    </message>
+    <message>
+        <source>its MAC ID is none from 1 to 63</source>
+        <translation>seine MAC ID ist keine von 1 bis 63</translation>
+    </message>
+    <message>
+        <source>code %1 of the master&apos;s manual</source>
+        <translation>Code %1 im Handbuch des Masters</translation>
+    </message>
+</context>
+<context>
     <name>Findings</name>
     <message>
         <source>The MAC ID %1 stands for two devices of the scan list.</source>
@@ -1113,6 +1140,22 @@
         <source>Enter another address for one direction: the robot reads what it wrote.</source>
         <translation>Geben Sie für eine Richtung eine andere Adresse ein: Der Roboter liest, was er geschrieben hat.</translation>
     </message>
+    <message>
+        <source>The settings of the %1 were saved, but run after the next restart only.</source>
+        <translation>Einstellungen wurden gespeichert, gelten aber erst ab dem nächsten Neustart: %1.</translation>
+    </message>
+    <message>
+        <source>what was changed, as saved and as it came up</source>
+        <translation>was geändert wurde, gespeichert und beim Start</translation>
+    </message>
+    <message>
+        <source>The controller has refused the bus switches that were saved.</source>
+        <translation>Die Steuerung hat die gespeicherten Bus-Schalter abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Check on the bus switch page which roles are on, and save once more.</source>
+        <translation>Prüfen Sie auf der Seite „Bus-Einstellung“, welche Rollen ein sind, und speichern Sie noch einmal.</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPage</name>
@@ -1238,14 +1281,6 @@
         <translation>Rolle</translation>
     </message>
     <message>
-        <source>Switched on</source>
-        <translation>Eingeschaltet</translation>
-    </message>
-    <message>
-        <source>Runs now</source>
-        <translation>Läuft</translation>
-    </message>
-    <message>
         <source>Link</source>
         <translation>Verbindung</translation>
     </message>
@@ -1273,6 +1308,18 @@
         <source>down</source>
         <translation>getrennt</translation>
     </message>
+    <message>
+        <source>Switched
+on</source>
+        <translation>Ein-
+geschaltet</translation>
+    </message>
+    <message>
+        <source>Runs
+now</source>
+        <translation>Läuft
+jetzt</translation>
+    </message>
 </context>
 <context>
     <name>RolePage</name>
@@ -1291,6 +1338,114 @@
     <message>
         <source>Back</source>
         <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>getrennt</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>%1 since %2</source>
+        <translation>%1 seit %2</translation>
+    </message>
+    <message>
+        <source>Switched on</source>
+        <translation>Eingeschaltet</translation>
+    </message>
+    <message>
+        <source>Runs now</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>Saved, runs after the next restart</source>
+        <translation>Gespeichert, läuft ab dem nächsten Neustart</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Was zu tun ist</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Device %1, MAC ID %2</source>
+        <translation>Gerät %1, MAC ID %2</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>not connected: %1 (code %2)</source>
+        <translation>nicht verbunden: %1 (Code %2)</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>nicht verbunden</translation>
+    </message>
+    <message>
+        <source>the coupling failed</source>
+        <translation>Ankoppeln fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>the decoupling failed</source>
+        <translation>Abkoppeln fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Slave %1, dynamic</source>
+        <translation>Slave %1, dynamisch</translation>
+    </message>
+    <message>
+        <source>Slave %1, fixed</source>
+        <translation>Slave %1, fest</translation>
+    </message>
+    <message>
+        <source>Slave %1</source>
+        <translation>Slave %1</translation>
+    </message>
+    <message>
+        <source>Slaves</source>
+        <translation>Slaves</translation>
+    </message>
+    <message>
+        <source>Settings: %1 (%2)</source>
+        <translation>Einstellungen: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 goes out as %2</source>
+        <translation>%1 wird als %2 gesendet</translation>
+    </message>
+    <message>
+        <source>could not be fetched the last time: what is shown of it is older</source>
+        <translation>konnte zuletzt nicht geholt werden: Gezeigt wird ein älterer Stand</translation>
+    </message>
+    <message>
+        <source>could not be fetched</source>
+        <translation>konnte nicht geholt werden</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
     </message>
 </context>
 <context>
@@ -1649,6 +1804,15 @@
     <message>
         <source>no</source>
         <translation>nein</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBox</name>
+    <message>
+        <source>The last import or export is still coming to its end.
+Please try again in a moment.</source>
+        <translation>Der letzte Import oder Export ist noch nicht ganz zu Ende.
+Bitte versuchen Sie es gleich noch einmal.</translation>
     </message>
 </context>
 <context>

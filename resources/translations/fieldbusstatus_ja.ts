@@ -111,6 +111,33 @@
     </message>
 </context>
 <context>
+    <name>DeviceNetCodes</name>
+    <message>
+        <source>no fault</source>
+        <translation>異常なし</translation>
+    </message>
+    <message>
+        <source>the network has no link</source>
+        <translation>ネットワークがリンクしていません</translation>
+    </message>
+    <message>
+        <source>no answer on the network</source>
+        <translation>ネットワーク上で応答なし</translation>
+    </message>
+    <message>
+        <source>another device has its MAC ID</source>
+        <translation>別のデバイスと MAC ID が同じ</translation>
+    </message>
+    <message>
+        <source>its MAC ID is none from 1 to 63</source>
+        <translation>MAC ID が 1～63 ではない</translation>
+    </message>
+    <message>
+        <source>code %1 of the master&apos;s manual</source>
+        <translation>マスタのマニュアルのコード %1</translation>
+    </message>
+</context>
+<context>
     <name>Findings</name>
     <message>
         <source>The MAC ID %1 stands for two devices of the scan list.</source>
@@ -1112,6 +1139,22 @@
         <source>Enter another address for one direction: the robot reads what it wrote.</source>
         <translation>一方向に別のアドレスを入力してください。ロボットが自身の書いた値を読みます。</translation>
     </message>
+    <message>
+        <source>The settings of the %1 were saved, but run after the next restart only.</source>
+        <translation>%1 の設定は保存されましたが、次回の再起動後に有効になります。</translation>
+    </message>
+    <message>
+        <source>what was changed, as saved and as it came up</source>
+        <translation>変更内容（保存時と起動時）</translation>
+    </message>
+    <message>
+        <source>The controller has refused the bus switches that were saved.</source>
+        <translation>保存したバススイッチをコントローラが拒否しました。</translation>
+    </message>
+    <message>
+        <source>Check on the bus switch page which roles are on, and save once more.</source>
+        <translation>バス設定の画面でオンのロールを確認し、保存し直してください。</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPage</name>
@@ -1236,14 +1279,6 @@
         <translation>ロール</translation>
     </message>
     <message>
-        <source>Switched on</source>
-        <translation>オン</translation>
-    </message>
-    <message>
-        <source>Runs now</source>
-        <translation>動作中</translation>
-    </message>
-    <message>
         <source>Link</source>
         <translation>リンク</translation>
     </message>
@@ -1271,6 +1306,16 @@
         <source>down</source>
         <translation>切断</translation>
     </message>
+    <message>
+        <source>Switched
+on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Runs
+now</source>
+        <translation>動作中</translation>
+    </message>
 </context>
 <context>
     <name>RolePage</name>
@@ -1289,6 +1334,114 @@
     <message>
         <source>Back</source>
         <translation>戻る</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>稼働中</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>切断</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>%1 since %2</source>
+        <translation>%1（%2 から）</translation>
+    </message>
+    <message>
+        <source>Switched on</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Runs now</source>
+        <translation>動作中</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>リンク</translation>
+    </message>
+    <message>
+        <source>Saved, runs after the next restart</source>
+        <translation>保存済み、次回の再起動後に動作</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>対処</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>所見</translation>
+    </message>
+    <message>
+        <source>Device %1, MAC ID %2</source>
+        <translation>デバイス %1、MAC ID %2</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>not connected: %1 (code %2)</source>
+        <translation>未接続：%1（コード %2）</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>the coupling failed</source>
+        <translation>結合に失敗</translation>
+    </message>
+    <message>
+        <source>the decoupling failed</source>
+        <translation>切離しに失敗</translation>
+    </message>
+    <message>
+        <source>Slave %1, dynamic</source>
+        <translation>スレーブ %1、動的</translation>
+    </message>
+    <message>
+        <source>Slave %1, fixed</source>
+        <translation>スレーブ %1、固定</translation>
+    </message>
+    <message>
+        <source>Slave %1</source>
+        <translation>スレーブ %1</translation>
+    </message>
+    <message>
+        <source>Slaves</source>
+        <translation>スレーブ</translation>
+    </message>
+    <message>
+        <source>Settings: %1 (%2)</source>
+        <translation>設定：%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1 goes out as %2</source>
+        <translation>%1 は %2 として送信</translation>
+    </message>
+    <message>
+        <source>could not be fetched the last time: what is shown of it is older</source>
+        <translation>前回は取得できず、古い内容を表示しています</translation>
+    </message>
+    <message>
+        <source>could not be fetched</source>
+        <translation>取得できませんでした</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
     </message>
 </context>
 <context>
@@ -1647,6 +1800,15 @@
     <message>
         <source>no</source>
         <translation>いいえ</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBox</name>
+    <message>
+        <source>The last import or export is still coming to its end.
+Please try again in a moment.</source>
+        <translation>直前のインポートまたはエクスポートがまだ終了していません。
+少し待ってからもう一度試してください。</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,33 @@
     </message>
 </context>
 <context>
+    <name>DeviceNetCodes</name>
+    <message>
+        <source>no fault</source>
+        <translation>无故障</translation>
+    </message>
+    <message>
+        <source>the network has no link</source>
+        <translation>网络无连接</translation>
+    </message>
+    <message>
+        <source>no answer on the network</source>
+        <translation>网络上无应答</translation>
+    </message>
+    <message>
+        <source>another device has its MAC ID</source>
+        <translation>另一个设备使用其MAC ID</translation>
+    </message>
+    <message>
+        <source>its MAC ID is none from 1 to 63</source>
+        <translation>其MAC ID不在1至63之间</translation>
+    </message>
+    <message>
+        <source>code %1 of the master&apos;s manual</source>
+        <translation>主站手册中的代码%1</translation>
+    </message>
+</context>
+<context>
     <name>Findings</name>
     <message>
         <source>The MAC ID %1 stands for two devices of the scan list.</source>
@@ -1112,6 +1139,22 @@
         <source>Enter another address for one direction: the robot reads what it wrote.</source>
         <translation>请为一个方向输入其他地址：机器人读到的是自己写入的内容。</translation>
     </message>
+    <message>
+        <source>The settings of the %1 were saved, but run after the next restart only.</source>
+        <translation>%1的设置已保存，但要到下次重启后才生效。</translation>
+    </message>
+    <message>
+        <source>what was changed, as saved and as it came up</source>
+        <translation>更改的内容，保存时和启动时</translation>
+    </message>
+    <message>
+        <source>The controller has refused the bus switches that were saved.</source>
+        <translation>控制器拒绝了所保存的总线开关。</translation>
+    </message>
+    <message>
+        <source>Check on the bus switch page which roles are on, and save once more.</source>
+        <translation>请在总线设置页面检查哪些角色已打开，并重新保存。</translation>
+    </message>
 </context>
 <context>
     <name>FindingsPage</name>
@@ -1236,14 +1279,6 @@
         <translation>角色</translation>
     </message>
     <message>
-        <source>Switched on</source>
-        <translation>已打开</translation>
-    </message>
-    <message>
-        <source>Runs now</source>
-        <translation>正在运行</translation>
-    </message>
-    <message>
         <source>Link</source>
         <translation>连接</translation>
     </message>
@@ -1271,6 +1306,17 @@
         <source>down</source>
         <translation>断开</translation>
     </message>
+    <message>
+        <source>Switched
+on</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>Runs
+now</source>
+        <translation>正在
+运行</translation>
+    </message>
 </context>
 <context>
     <name>RolePage</name>
@@ -1289,6 +1335,114 @@
     <message>
         <source>Back</source>
         <translation>返回</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>断开</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>%1 since %2</source>
+        <translation>%1，自%2</translation>
+    </message>
+    <message>
+        <source>Switched on</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>Runs now</source>
+        <translation>正在运行</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Saved, runs after the next restart</source>
+        <translation>已保存，下次重启后运行</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>措施</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Device %1, MAC ID %2</source>
+        <translation>设备%1，MAC ID %2</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>not connected: %1 (code %2)</source>
+        <translation>未连接：%1（代码%2）</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>未连接</translation>
+    </message>
+    <message>
+        <source>the coupling failed</source>
+        <translation>耦合失败</translation>
+    </message>
+    <message>
+        <source>the decoupling failed</source>
+        <translation>解耦失败</translation>
+    </message>
+    <message>
+        <source>Slave %1, dynamic</source>
+        <translation>从站%1，动态</translation>
+    </message>
+    <message>
+        <source>Slave %1, fixed</source>
+        <translation>从站%1，固定</translation>
+    </message>
+    <message>
+        <source>Slave %1</source>
+        <translation>从站%1</translation>
+    </message>
+    <message>
+        <source>Slaves</source>
+        <translation>从站</translation>
+    </message>
+    <message>
+        <source>Settings: %1 (%2)</source>
+        <translation>设置：%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1 goes out as %2</source>
+        <translation>%1以%2发送</translation>
+    </message>
+    <message>
+        <source>could not be fetched the last time: what is shown of it is older</source>
+        <translation>上次未能获取：显示的是较旧的内容</translation>
+    </message>
+    <message>
+        <source>could not be fetched</source>
+        <translation>未能获取</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
     </message>
 </context>
 <context>
@@ -1647,6 +1801,15 @@
     <message>
         <source>no</source>
         <translation>否</translation>
+    </message>
+</context>
+<context>
+    <name>StatusBox</name>
+    <message>
+        <source>The last import or export is still coming to its end.
+Please try again in a moment.</source>
+        <translation>上一次导入或导出尚未结束。
+请稍后重试。</translation>
     </message>
 </context>
 <context>
