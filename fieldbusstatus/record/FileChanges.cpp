@@ -12,7 +12,7 @@ using Content = FileVersion::Content;
 
 namespace {
 
-QString tr(const char* text)
+QString translated(const char* text)
 {
     return QCoreApplication::translate("FileChanges", text);
 }
@@ -38,7 +38,7 @@ void tellChanges(const VersionStore& store, const FileVersion& version, FileChan
     for (const Settings::Change& change : changes)
         words.role = words.role ? words.role : change.role;
     if (changes.empty())
-        words.lines << tr(QT_TRANSLATE_NOOP("FileChanges", "No setting was changed."));
+        words.lines << translated(QT_TRANSLATE_NOOP("FileChanges", "No setting was changed."));
 }
 
 } // namespace
@@ -69,14 +69,14 @@ FileChanges::Words FileChanges::wordsOf(const VersionStore& store, const FileVer
 {
     Words words;
     if (version.hasFailed)
-        words.lines << tr(
+        words.lines << translated(
             QT_TRANSLATE_NOOP("FileChanges", "The transfer failed; what it left behind is not known."));
     if (version.former.content == Content::Lost)
-        words.lines << tr(QT_TRANSLATE_NOOP("FileChanges", "The former file could not be kept."));
+        words.lines << translated(QT_TRANSLATE_NOOP("FileChanges", "The former file could not be kept."));
     else if (version.sent.content == Content::Lost)
-        words.lines << tr(QT_TRANSLATE_NOOP("FileChanges", "What was sent could not be read back."));
+        words.lines << translated(QT_TRANSLATE_NOOP("FileChanges", "What was sent could not be read back."));
     else if (!isKnown(store, version.former) || !isKnown(store, version.sent))
-        words.lines << tr(QT_TRANSLATE_NOOP("FileChanges", "What was kept can no longer be read."));
+        words.lines << translated(QT_TRANSLATE_NOOP("FileChanges", "What was kept can no longer be read."));
     else
         tellChanges(store, version, words);
     return words;

@@ -139,6 +139,29 @@
     </message>
 </context>
 <context>
+    <name>FileChanges</name>
+    <message>
+        <source>No setting was changed.</source>
+        <translation>Es wurde keine Einstellung geändert.</translation>
+    </message>
+    <message>
+        <source>The transfer failed; what it left behind is not known.</source>
+        <translation>Die Übertragung ist fehlgeschlagen; was sie hinterlassen hat, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>The former file could not be kept.</source>
+        <translation>Die frühere Datei konnte nicht aufbewahrt werden.</translation>
+    </message>
+    <message>
+        <source>What was sent could not be read back.</source>
+        <translation>Was gesendet wurde, konnte nicht zurückgelesen werden.</translation>
+    </message>
+    <message>
+        <source>What was kept can no longer be read.</source>
+        <translation>Was aufbewahrt wurde, kann nicht mehr gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>Findings</name>
     <message>
         <source>The MAC ID %1 stands for two devices of the scan list.</source>

@@ -138,6 +138,29 @@
     </message>
 </context>
 <context>
+    <name>FileChanges</name>
+    <message>
+        <source>No setting was changed.</source>
+        <translation>設定は変更されていません。</translation>
+    </message>
+    <message>
+        <source>The transfer failed; what it left behind is not known.</source>
+        <translation>転送に失敗しました。転送先に何が残ったかは不明です。</translation>
+    </message>
+    <message>
+        <source>The former file could not be kept.</source>
+        <translation>以前のファイルを保管できませんでした。</translation>
+    </message>
+    <message>
+        <source>What was sent could not be read back.</source>
+        <translation>送信した内容を読み戻せませんでした。</translation>
+    </message>
+    <message>
+        <source>What was kept can no longer be read.</source>
+        <translation>保管した内容はもう読み取れません。</translation>
+    </message>
+</context>
+<context>
     <name>Findings</name>
     <message>
         <source>The MAC ID %1 stands for two devices of the scan list.</source>

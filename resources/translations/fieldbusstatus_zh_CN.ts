@@ -138,6 +138,29 @@
     </message>
 </context>
 <context>
+    <name>FileChanges</name>
+    <message>
+        <source>No setting was changed.</source>
+        <translation>没有设置被更改。</translation>
+    </message>
+    <message>
+        <source>The transfer failed; what it left behind is not known.</source>
+        <translation>传输失败；留下的内容未知。</translation>
+    </message>
+    <message>
+        <source>The former file could not be kept.</source>
+        <translation>原文件未能保留。</translation>
+    </message>
+    <message>
+        <source>What was sent could not be read back.</source>
+        <translation>已发送的内容未能读回。</translation>
+    </message>
+    <message>
+        <source>What was kept can no longer be read.</source>
+        <translation>已保留的内容无法再读取。</translation>
+    </message>
+</context>
+<context>
     <name>Findings</name>
     <message>
         <source>The MAC ID %1 stands for two devices of the scan list.</source>
