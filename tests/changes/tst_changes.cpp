@@ -85,7 +85,10 @@ void TestChanges::putBack()
     QVERIFY(pendant.settle());
 
     // Its own copies are complete: the faults to come are those of the putting back.
-    QTRY_VERIFY(pendant.text(QStringLiteral("label_contact")).startsWith("Read from"));
+    const auto isRead = [&pendant] {
+        return pendant.text(QStringLiteral("label_contact")).startsWith("Read from");
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isRead(), 60000);
 
     QByteArray expected = isBack ? former : sent;
     QLockFile import(QStringLiteral("../Application/fidbus/import.lock"));
@@ -264,8 +267,13 @@ void TestChanges::bundleFails()
     QVERIFY(pendant.openStatus(QStringLiteral("supportBtn")));
     if (fault.startsWith("fetch"))
         QVERIFY(pendant.fail(fault));
+    QTimer look; // in the middle of the writing
+    QObject::connect(&look, &QTimer::timeout, [&pendant] {
+        if (pendant.text(QStringLiteral("label_progress")).section(' ', 0, 0).toInt() >= 40)
+            UsbDrive::instance().pullOut();
+    });
     if (fault == "pulled out")
-        QTimer::singleShot(50, [] { UsbDrive::instance().pullOut(); });
+        look.start(0);
     PendantFixture::answer({Yes});
     QVERIFY(pendant.press(QStringLiteral("writeBundleBtn")));
     QTRY_VERIFY_WITH_TIMEOUT(!PendantFixture::messages().isEmpty(), 30000);
