@@ -402,6 +402,7 @@ public:
     AnyPage()
         : PendantFixture(Later)
     {
+        calmMs = 25; // what it waits for longer it looks for
     }
     void begin(const Page& page)
     {

@@ -128,11 +128,17 @@ bool PendantFixture::settle(int msec)
 {
     QElapsedTimer total;
     total.start();
-    // Turns, not time: on a busy machine a turn takes longer.
-    for (int calm = 0; calm < CalmTurns; calm = isBusy(*m_window) ? 0 : calm + 1) {
+    QElapsedTimer calm;
+    calm.start();
+    // Turns as well: on a busy machine a turn takes longer.
+    for (int turns = 0; turns < CalmTurns || calm.elapsed() < calmMs; ++turns) {
         if (total.elapsed() > msec)
             return false;
         QTest::qWait(TurnMs);
+        if (isBusy(*m_window)) {
+            turns = -1;
+            calm.restart();
+        }
     }
     return true;
 }

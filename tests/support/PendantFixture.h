@@ -108,6 +108,8 @@ public:
 protected:
     enum Made { Later };
     explicit PendantFixture(Made /*later*/) {}
+    /// What settles is calm for so long: longer than an idle tick, where a test looks at what ticks bring.
+    int calmMs = 150;
     void start(double timeScale = NormalTimeScale);
     /// Of the applications on the pendant, the settings first; to be changed before the start.
     QStringList descriptions{QStringLiteral("fieldbussetting.json")};
