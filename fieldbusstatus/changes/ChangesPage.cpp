@@ -2,6 +2,7 @@
 
 #include "BusFileDataManager.h"
 #include "ControllerWatch.h"
+#include "DataAccess.h"
 #include "HistoryRecorder.h"
 #include "StateText.h"
 #include "SysSettingApi.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr std::size_t MostChanges = 100; // older ones are kept, and told by the history
 constexpr int MostLines = 8;             // of a row
 constexpr int MostListed = 8;            // files in a box
+constexpr int RequiredUserLevel = 3;     // below it the application is closed
 constexpr unsigned BeforeRestartMs = 1000;
 constexpr unsigned BetweenRestartsMs = 100; // controller first, then the pendant
 
@@ -220,6 +222,10 @@ void ChangesPage::putBackConfirmed(const FileChanges::Change& change)
     if (StatusBox::show(this, MsgBox::Information, question, MsgBox::YesNo, true) != Answer::Confirmed ||
         !isRobotAtRest())
         return;
+    // It may have dropped at the question, and the application is closed for that only when this has
+    // returned.
+    if (DataAccess::getUserLevel() < RequiredUserLevel)
+        return;
     std::optional<TransferLock> lock(std::in_place);
     if (!lock->isHeld()) {
         StatusBox::showHeldUp(this);
@@ -228,7 +234,7 @@ void ChangesPage::putBackConfirmed(const FileChanges::Change& change)
     PutBack work(FileChanges::store(), change, WorkFolder::path());
     Result result = work.look();
     // Nobody is there any more who wants it.
-    if (!self)
+    if (!self || DataAccess::getUserLevel() < RequiredUserLevel)
         return;
     if (result == Result::Done)
         result = work.send();
