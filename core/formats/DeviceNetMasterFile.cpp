@@ -333,5 +333,7 @@ QByteArray DeviceNetMasterFile::rewritten(const QByteArray& content, DeviceNetMa
     if (header.isEmpty())
         return {};
     record.layOutRegisters();
-    return header + blocks(record, header);
+    QByteArray file = header + blocks(record, header);
+    // A header without any setting and no device: nobody could read that as a scan list again.
+    return isScanList(file) ? file : QByteArray();
 }

@@ -1,5 +1,5 @@
-// A variable a block: its handle with the group that subscribes it and its name on the controller, and the accessors
-// of FieldbusSettingLib. What subscribes a group stands below the last of its variables.
+// A variable a block: its handle with the group that subscribes it and its name on the controller, and the
+// accessors of FieldbusSettingLib. What subscribes a group stands below the last of its variables.
 #include "ControllerVariables.h"
 
 #include "FieldbusSettingLib.h"

@@ -57,6 +57,17 @@ QString controllerPathOf(const QString& localPath);
 
 /// Local working directory, localised.
 const QString& workingDirectory();
+/// Copies of the controller's file that a writer edits, below the working directory: there only while it
+/// does.
+namespace TemplateCopy {
+constexpr const char* Override = "/override_temp.cfg";
+constexpr const char* PfbSlave = "/pfb_temp.cfg";
+constexpr const char* PfbVariant = "/pfb_freeOrFix.cfg";
+constexpr const char* EipSlave = "/dns_temp.cfg";
+constexpr const char* EipVariant = "/dns_fixOrFreeTemp.cfg";
+constexpr const char* All[] = {Override, PfbSlave, PfbVariant, EipSlave, EipVariant};
+} // namespace TemplateCopy
+
 /// Staging directory of import and export, localised.
 const QString& stagingDirectory();
 /// Sub-folder of the staging directory, localised: "fixed", "SlaveConfig/EtherCAT"; the directory itself for

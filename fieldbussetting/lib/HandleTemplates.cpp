@@ -51,7 +51,7 @@ bool HandleBusFiles::edit(const QString& path, const Template& source, const Rew
 bool HandleBusFiles::editOverride(const QString& path, const Rewrite& rewrite, const Fits& fits)
 {
     return edit(path,
-                {"/override_temp.cfg", FileLocations::of(ConfigFile::Override).controller,
+                {FileLocations::TemplateCopy::Override, FileLocations::of(ConfigFile::Override).controller,
                  OverrideFile::isRecognised},
                 rewrite, fits);
 }
@@ -100,7 +100,7 @@ bool HandleBusFiles::writeOverrideFile(const QString& path, const QString& key)
 bool HandleBusFiles::writePfbCfgFile(const QString& path, const PfbSlaveConfig& record)
 {
     return edit(path,
-                {"/pfb_temp.cfg", FileLocations::of(ConfigFile::PfbSlave).controller,
+                {FileLocations::TemplateCopy::PfbSlave, FileLocations::of(ConfigFile::PfbSlave).controller,
                  isRecognised<PfbSlaveFile::read>},
                 [record](const QByteArray& content) { return PfbSlaveFile::rewritten(content, record); });
 }
@@ -108,13 +108,13 @@ bool HandleBusFiles::writePfbCfgFile(const QString& path, const PfbSlaveConfig& 
 bool HandleBusFiles::writePfbFreeFixFile(const QString& path, const QString& ctrlPath,
                                          const PfbSlaveConfig& record)
 {
-    return editVariant(path, "/pfb_freeOrFix.cfg", ctrlPath, record.ProfibusEndian);
+    return editVariant(path, FileLocations::TemplateCopy::PfbVariant, ctrlPath, record.ProfibusEndian);
 }
 
 bool HandleBusFiles::writeEtherNetFile(const QString& path, const EipSlaveConfig& record)
 {
     return edit(path,
-                {"/dns_temp.cfg", FileLocations::of(ConfigFile::EipSlave).controller,
+                {FileLocations::TemplateCopy::EipSlave, FileLocations::of(ConfigFile::EipSlave).controller,
                  isRecognised<EipSlaveFile::read>},
                 [record](const QByteArray& content) { return EipSlaveFile::rewritten(content, record); });
 }
@@ -122,5 +122,5 @@ bool HandleBusFiles::writeEtherNetFile(const QString& path, const EipSlaveConfig
 bool HandleBusFiles::writeEtherNetDnsFile(const QString& path, const QString& ctrlPath,
                                           const EipSlaveConfig& record)
 {
-    return editVariant(path, "/dns_fixOrFreeTemp.cfg", ctrlPath, record.EipEndian);
+    return editVariant(path, FileLocations::TemplateCopy::EipVariant, ctrlPath, record.EipEndian);
 }

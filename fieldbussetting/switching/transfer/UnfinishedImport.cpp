@@ -9,6 +9,7 @@
 #include "TransferUnderWay.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <sys/stat.h>
@@ -20,9 +21,11 @@ void removeTemporaries(const QString& directory)
 {
     static const QRegularExpression temporary(
         QStringLiteral("\\.(cfg|cfgx|xml|eds|gsdml|esi)\\.[A-Za-z0-9]{6}$"));
-    for (const QString& name : QDir(directory).entryList(QDir::Files | QDir::Hidden)) {
-        if (temporary.match(name).hasMatch())
-            QFile::remove(directory + QLatin1Char('/') + name);
+    QDirIterator files(directory, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (temporary.match(path).hasMatch())
+            QFile::remove(path);
     }
 }
 
@@ -73,7 +76,10 @@ void UnfinishedImport::clearLeftOvers()
     if (!alone.isAlone())
         return; // they are another pendant's
     DurableFiles::repairExchange(keptDirectory(), presentDirectory());
+    for (const char* name : FileLocations::TemplateCopy::All)
+        QFile::remove(FileLocations::workingDirectory() + QLatin1String(name));
     removeTemporaries(FileLocations::workingDirectory());
+    removeTemporaries(QFileInfo(FileLocations::of(ConfigFile::BusSwitch).local).path());
     removeTemporaries(QFileInfo(importDirectory()).path());
     if (ImportJournal::isThere(keptDirectory()))
         return; // its copies are what it sent
