@@ -10,6 +10,9 @@ if(FIELDBUS_SANITIZE)
                                                     -fno-omit-frame-pointer)
   target_link_options(fieldbus_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(FIELDBUS_FUZZ)
+  target_compile_options(fieldbus_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 # Precompiled headers that ccache can keep.
 target_compile_options(fieldbus_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>
                                                   "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
