@@ -38,11 +38,12 @@ void FindingsPage::showState()
     RowTable::Rows rows;
     for (const Finding& finding : watch().findings()) {
         const Subjects::Id subject = subjectOf(finding);
-        rows.push_back({{finding.codeText(), Subjects::titleOf(subject),
-                         StateText::cause(finding) + QLatin1Char('\n') + StateText::nextStep(finding)},
-                        StateText::signOf(finding.severity),
-                        false,
-                        static_cast<int>(subject)});
+        rows.push_back(
+            {{finding.codeText(), Subjects::titleOf(subject),
+              StateText::cause(finding) + QStringLiteral("\n\u2192 ") + StateText::nextStep(finding)},
+             StateText::signOf(finding.severity),
+             false,
+             static_cast<int>(subject)});
     }
     const int count = static_cast<int>(rows.size());
     m_count->setText(count == 0 ? tr("Nothing was found.")

@@ -1,5 +1,6 @@
 #include "ControllerWatch.h"
 
+#include "AnnouncedFiles.h"
 #include "BusFileDataManager.h"
 #include "ConfigurationFindings.h"
 #include "RestartFiles.h"
@@ -17,44 +18,6 @@ constexpr qint64 MostFetchMs = 20;
 // that was busy has not heard of it either.
 constexpr qint64 StandstillMs = 1000;
 constexpr int StandstillTicks = 8;
-
-// What the pendant sets and the controller takes back, how long it may take for it, and what it says about
-// files.
-struct Announcement
-{
-    const char* variable;
-    int mask; // of the bits that stand for it
-    qint64 graceMs;
-    std::optional<RoleId> role;
-    std::vector<FileId> files;
-};
-
-constexpr qint64 CommandMs = 5000;
-constexpr qint64 MappingMs = 16000; // the pages wait 15 s for the answer
-
-const std::vector<Announcement>& announcements()
-{
-    static const std::vector<Announcement> all = {
-        {"ifidbus.xml_heartbeat", ~0, CommandMs, {}, {FileId::Heartbeat}},
-        {"ifidbus.mbc_save_enable", ~0, CommandMs, RoleId::ModbusTcpMaster, {FileId::MtcpMaster}},
-        {"ifidbus.dnm_save_config", ~0, CommandMs, RoleId::DeviceNetMaster, {FileId::DeviceNetMaster}},
-        {"ifins_tcp.bupdate_cfg", ~0, CommandMs, RoleId::FinsTcp, {FileId::FinsClient}},
-        {"imes.update_tcp_server_cfg", ~0, CommandMs, RoleId::Mes, {FileId::MesServer}},
-        {"ifidbus.xml_update_state", 0x8000, MappingMs, {}, {FileId::Mapping, FileId::DeviceNetSlave}},
-        {"ifidbus.bus_type_state", 1, CommandMs, {}, {FileId::RoleList, FileId::BusSwitch, FileId::Override}},
-        {"ifidbus.ecat2open", ~0, CommandMs, RoleId::EtherCatSlave, {FileId::Override, FileId::SlaveModule}},
-        {"ifidbus.ecat2close", ~0, CommandMs, RoleId::EtherCatSlave, {FileId::Override, FileId::SlaveModule}},
-        {"ifidbus.eip2open", ~0, CommandMs, RoleId::EtherNetIPSlave, {FileId::EipSlave}},
-        {"ifidbus.eip2close", ~0, CommandMs, RoleId::EtherNetIPSlave, {FileId::EipSlave}},
-        {"ifidbus.pfn2open", ~0, CommandMs, RoleId::ProfinetSlave, {FileId::PfbSlave}},
-        {"ifidbus.pfn2close", ~0, CommandMs, RoleId::ProfinetSlave, {FileId::PfbSlave}},
-        {"ifidbus.dns2open", ~0, CommandMs, RoleId::DeviceNetSlave, {FileId::DeviceNetSlave}},
-        {"ifidbus.dns2close", ~0, CommandMs, RoleId::DeviceNetSlave, {FileId::DeviceNetSlave}},
-        {"ifidbus.dnm2open", ~0, CommandMs, RoleId::DeviceNetMaster, {FileId::DeviceNetMaster}},
-        {"ifidbus.dnm2close", ~0, CommandMs, RoleId::DeviceNetMaster, {FileId::DeviceNetMaster}},
-    };
-    return all;
-}
 
 const RoleInfo* roleOfLink(const QString& variable)
 {
@@ -76,7 +39,7 @@ ControllerWatch::ControllerWatch(const QString& folder, QObject* parent)
     : QObject(parent)
     , m_files(folder)
     , m_cameUp(folder)
-    , m_standing(announcements().size())
+    , m_standing(announcedFiles().size())
 {
     m_time.start();
     m_downSince.fill(-1);
@@ -148,7 +111,7 @@ void ControllerWatch::follow(const ObservedVariables::Change& change)
     m_isDirty = true;
     if (const RoleInfo* role = roleOfLink(*change.name))
         m_downSince[static_cast<std::size_t>(role->id)] = change.now == 0 ? m_time.elapsed() : -1;
-    const auto& all = announcements();
+    const auto& all = announcedFiles();
     for (std::size_t i = 0; i < all.size(); ++i) {
         if (*change.name != QLatin1String(all[i].variable))
             continue;
@@ -185,6 +148,8 @@ void ControllerWatch::fetchNext()
     m_isDirty = true;
     m_isRead = true;
     m_readAt = QDateTime::currentDateTime();
+    if (!m_isCameUpPending)
+        m_cameUp.keep(m_running.cameUp, m_clock); // by clocks that have had less time to drift apart
 }
 
 void ControllerWatch::readFiles()
@@ -246,7 +211,7 @@ void ControllerWatch::gatherVariables()
 {
     m_running.variables = m_variables.values();
     m_announced = {};
-    const auto& all = announcements();
+    const auto& all = announcedFiles();
     for (std::size_t i = 0; i < all.size(); ++i) {
         if (m_standing[i].since < 0)
             continue;

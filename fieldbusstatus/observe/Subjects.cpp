@@ -35,7 +35,9 @@ void judgeRole(RoleId role, const Facts& facts, State& state)
     const RoleInfo& info = RoleTable::of(role);
     if (facts.configuration.isRead(FileId::RoleList))
         state.isSwitchedOn = facts.configuration.isOn(role) || role == RoleId::ModbusTcpSlave;
-    state.isRunning = isRunning(role, facts.running);
+    // A controller that restarts tells what it is doing when it is up.
+    if (facts.isSettled)
+        state.isRunning = isRunning(role, facts.running);
     if (info.linkVariable && state.isRunning.value_or(false))
         state.isLinked = valueOf(facts.running, info.linkVariable);
 }

@@ -18,7 +18,7 @@ OverviewPage::OverviewPage(const StatusContext& pageContext)
     m_pending->setObjectName(QStringLiteral("label_pending"));
     m_pending->setWordWrap(true);
     m_pending->hide();
-    m_table->setWidths({236, 0, 100, 84, 84, 110, 106});
+    m_table->setWidths({236, 0, 110, 84, 84, 106, 106});
     connect(m_table, &RowTable::targetPressed, this, &StatusPage::subjectWanted);
     contents()->addWidget(m_pending);
     contents()->addWidget(m_table, 1);

@@ -7,6 +7,7 @@
 namespace {
 constexpr int TargetHeight = 48;
 constexpr int SignSize = 30;
+constexpr int HeaderLine = 24;
 } // namespace
 
 RowTable::RowTable(const char* name, const QString& title, const QStringList& headers, int wide,
@@ -32,6 +33,8 @@ RowTable::RowTable(const char* name, const QString& title, const QStringList& he
     horizontalHeader()->setSectionResizeMode(wide, QHeaderView::Stretch);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter |
                                             Qt::Alignment(Qt::TextWordWrap));
+    const int lines = 1 + static_cast<int>(headers.join(QString()).contains(QLatin1Char('\n')));
+    horizontalHeader()->setFixedHeight((lines + 1) * HeaderLine - HeaderLine / 2);
     connect(this, &QTableWidget::cellClicked, this, [this](int row, int /*column*/) {
         const int target = m_rows[static_cast<std::size_t>(row)].target;
         if (target != Row::NoTarget)
@@ -79,7 +82,9 @@ void RowTable::showRow(int index, const Row& row)
 
 void RowTable::fitRow(int row)
 {
-    setRowHeight(row, std::max(TargetHeight, sizeHintForRow(row)));
+    // A heading has the whole width, which the size hint of its cell does not know.
+    const bool isHeading = columnSpan(row, 0) > 1;
+    setRowHeight(row, isHeading ? TargetHeight : std::max(TargetHeight, sizeHintForRow(row)));
 }
 
 void RowTable::resizeEvent(QResizeEvent* event)

@@ -51,15 +51,19 @@ void addGroup(const Settings::Group& group, const KnownFile& file, RowTable::Row
 RowTable::Rows settings(const ControllerWatch& watch, Subjects::Id subject)
 {
     RowTable::Rows rows;
+    RowTable::Rows common; // what every role has comes last
     for (const KnownFile& file : KnownFiles::all()) {
         if (!watch.configuration().isRead(file.id))
             continue;
+        const bool isCommon = file.id == FileId::Heartbeat || file.id == FileId::Mapping ||
+                              file.id == FileId::RoleList || file.id == FileId::BusSwitch;
         const QString name = QLatin1String(file.name);
         for (const Settings::Group& group : Settings::groupsOf(name, watch.configuration().bytes(file.id))) {
             if (belongs(group, file, subject) && !group.fields.empty())
-                addGroup(group, file, rows);
+                addGroup(group, file, isCommon ? common : rows);
         }
     }
+    rows.insert(rows.end(), common.begin(), common.end());
     return rows;
 }
 

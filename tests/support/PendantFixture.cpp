@@ -83,7 +83,8 @@ void PendantFixture::stop()
 
 ApplicationSlot* PendantFixture::application() const
 {
-    return m_window->applications().front();
+    ApplicationSlot* const shown = m_window->present();
+    return shown ? shown : m_window->applications().front();
 }
 
 bool PendantFixture::open()

@@ -32,7 +32,7 @@ public:
     SimulatedController& controller() { return *m_controller; }
     Traffic& traffic() { return m_controller->traffic(); }
     PendantWindow& window() { return *m_window; }
-    /// The place of the application on the pendant.
+    /// The place of the application that is on the screen, of the first one when none is.
     ApplicationSlot* application() const;
     QString usbDirectory() const { return m_directory->path() + QStringLiteral("/usb"); }
 

@@ -37,12 +37,16 @@ bool rolePage(TourGuide& guide, const char* role, const QString& picture)
 // The page of a tab, and its end where it scrolls.
 bool page(TourGuide& guide, const char* tab, const char* tableName, const QString& picture)
 {
-    bool reached = guide.press(QLatin1String(tab)) && guide.report(picture);
+    bool reached = guide.press(QLatin1String(tab));
     auto* table = guide.find<QTableWidget>(QLatin1String(tableName));
-    if (!reached || !table || table->verticalScrollBar()->maximum() == 0)
-        return reached && table;
+    if (!reached || !table)
+        return false;
+    table->verticalScrollBar()->setValue(0);
+    reached = guide.report(picture);
+    if (table->verticalScrollBar()->maximum() == 0)
+        return reached;
     table->verticalScrollBar()->setValue(table->verticalScrollBar()->maximum());
-    reached = guide.settle() && guide.report(picture + QStringLiteral("-end"));
+    reached = guide.settle() && guide.report(picture + QStringLiteral("-end")) && reached;
     table->verticalScrollBar()->setValue(0);
     return reached;
 }
@@ -52,14 +56,13 @@ bool refresh(TourGuide& guide)
     return guide.press(QStringLiteral("refreshBtn")) && guide.settle();
 }
 
-// What was saved and waits for the restart, a command that stands, a module that is missing.
+// What was saved and waits for the restart, and a module that is missing.
 bool troubles(TourGuide& guide)
 {
     bool reached = false;
     {
         BorrowedFile roles(guide, QStringLiteral("/application/fidbus/fieldbus.xml"));
         BorrowedFile eipSlave(guide, QStringLiteral("/fa/dns-1.cfg"));
-        const BorrowedVariable command(guide, QStringLiteral("ifidbus.dnm2open"), 1.0);
         const BorrowedVariable module(guide, QStringLiteral("ifidbus.anybus_fm"), 0.0);
         const BorrowedVariable link(guide, QStringLiteral("ifidbus.pfn_link_state"), 0.0);
         reached =
