@@ -142,6 +142,8 @@ public:
     /// Sends the local file. When all files of the page are sent, what stands on it counts as saved.
     Outcome send(ConfigFile file, const TransferTexts& texts = {});
     Outcome writeAndSend(ConfigFile file, const FileOperation& operation, const TransferTexts& texts = {});
+    /// The save that begins sends this file too, which the page does not show.
+    void alsoSends(ConfigFile file) { m_unsent.push_back(file); }
     /// The bus file data service has sent the last file of a save, or could not.
     void noteServiceSent(ConfigFile file, bool sent);
     /// Loads the page again when the controller's files are newer; with edits on it, if the operator wants

@@ -22,9 +22,10 @@ void TextFileSlave::refreshStatus()
 
 void TextFileSlave::save()
 {
+    const ConfigFile variant = m_freeConfiguration ? m_role.freeVariant : m_role.fixedVariant;
+    m_page->alsoSends(variant);
     if (m_page->writeAndSend(m_role.driverFile, PageBase::plain(m_role.write)) != Outcome::Done)
         return;
-    const ConfigFile variant = m_freeConfiguration ? m_role.freeVariant : m_role.fixedVariant;
     const auto writeVariant = [write = m_role.writeVariant, variant](const QString& localPath) {
         return (PageBase::lib()->*write)(localPath, FileLocations::of(variant).controller);
     };
