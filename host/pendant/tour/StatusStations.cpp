@@ -4,6 +4,7 @@
 #include "Stations.h"
 #include "TourGuide.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTableWidget>
@@ -12,10 +13,11 @@ namespace {
 
 const QString Status = QStringLiteral("fieldbusstatus");
 
-// Presses the row that names `role`.
-bool pressRow(TourGuide& guide, const QString& role)
+// Presses the row that names `role`; what belongs to no role is named in the application's language.
+bool pressRow(TourGuide& guide, const char* name)
 {
     constexpr int RoleColumn = 1;
+    const QString role = QCoreApplication::translate("Subjects", name);
     auto* table = guide.find<QTableWidget>(QStringLiteral("overviewTable"));
     for (int row = 0; table && row < table->rowCount(); ++row) {
         if (table->item(row, RoleColumn)->text() != role)
@@ -30,7 +32,7 @@ bool pressRow(TourGuide& guide, const QString& role)
 
 bool rolePage(TourGuide& guide, const char* role, const QString& picture)
 {
-    return pressRow(guide, QLatin1String(role)) && guide.settle() &&
+    return pressRow(guide, role) && guide.settle() &&
            guide.report(QStringLiteral("status-role-") + picture) && guide.press(QStringLiteral("backBtn"));
 }
 
