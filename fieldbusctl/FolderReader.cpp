@@ -96,7 +96,7 @@ FoundFile digestOf(int file, qint64)
         got = readSome(file, piece.data(), piece.size());
         if (got < 0)
             return {FoundFile::State::Unreadable, {}};
-        hash.addData(piece.constData(), got);
+        hash.addData(piece.left(got));
     } while (got == piece.size());
     return {FoundFile::State::Read, hash.result().toHex()};
 }

@@ -115,7 +115,7 @@ ExitCode FleetCommand::printTable(const std::vector<Folder>& folders, Console& c
 {
     int width = LeastPathWidth;
     for (const Folder& folder : folders)
-        width = std::max(width, folder.path.size());
+        width = std::max(width, static_cast<int>(folder.path.size()));
     console.line(console.painted(Tone::Heading, cell("Folder", width) + cell("Errors", 6) +
                                                     cell("Warnings", 8) + cell("Differs in", 10) +
                                                     "Roles that are on"));

@@ -91,13 +91,13 @@ struct Walk : pugi::xml_tree_walker
         }
         return !isTooMuch();
     }
-    bool isTooMuch() const { return elements > MostElements || longest > uint(MostText); }
+    bool isTooMuch() const { return elements > MostElements || longest > std::size_t{MostText}; }
 
     void measure(const pugi::xml_node& node)
     {
-        longest = std::max(longest, qstrlen(node.value()));
+        longest = std::max<std::size_t>(longest, qstrlen(node.value()));
         for (const pugi::xml_attribute attribute : node.attributes())
-            longest = std::max(longest, qstrlen(attribute.value()));
+            longest = std::max<std::size_t>(longest, qstrlen(attribute.value()));
     }
 
     void lookUp(const char* text)
@@ -115,7 +115,7 @@ struct Walk : pugi::xml_tree_walker
     bool measures; ///< a text may be too long
     std::vector<QByteArray> unknown;
     int elements = 0;
-    uint longest = 0;
+    std::size_t longest = 0;
 };
 
 // False when it holds more than it may.
