@@ -12,7 +12,9 @@ constexpr const char* Folders[] = {"bin", "Application/fieldbusSetting", "Applic
 
 QString ownRoot(const QString& controller)
 {
-    QString root = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    // By the program's name alone: with the organisation's it would lie one folder deeper.
+    QString root = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QLatin1Char('/') +
+                   QCoreApplication::applicationName();
     if (!controller.isEmpty()) {
         const QByteArray hash = QCryptographicHash::hash(controller.toUtf8(), QCryptographicHash::Sha1);
         root += QLatin1Char('-') + QString::fromLatin1(hash.toHex().left(8));

@@ -192,6 +192,7 @@ int main(int argc, char* argv[])
     PendantApplication application(argc, argv);
     // Without those that Qt takes for itself.
     const Options options = Options::parse(QCoreApplication::arguments(), {Options::tr("see the end")});
+    QCoreApplication::setOrganizationName(QStringLiteral("Fieldbus Pendant"));
     QCoreApplication::setApplicationName(QStringLiteral("fieldbus-pendant"));
     setUpLog(options.verbose);
     Languages::instance().use(options.language.isEmpty() ? QStringLiteral("en") : options.language);
