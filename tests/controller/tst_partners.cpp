@@ -556,7 +556,7 @@ private slots:
         auto [seen] = Rows<QStringList>::current();
         // The sockets live in real time, which a scenario about them must leave them.
         Cell cell(4);
-        const auto take = [&seen](const QString& change) {
+        const auto take = [&seen = seen](const QString& change) {
             if (!seen.isEmpty() && seen.constFirst() == change)
                 seen.removeFirst();
         };

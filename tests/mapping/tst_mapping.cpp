@@ -23,7 +23,6 @@ const QString Failed = QStringLiteral("Bus configuration modification failed!");
 const QString RestartLater = QStringLiteral("Please manually power off and restart the robot later!");
 
 constexpr int MovedBit = 0x1;
-constexpr int RejectedBit = 0x800;
 constexpr int TakenBit = 0x4000;
 
 } // namespace
@@ -124,8 +123,7 @@ private slots:
             changeTo(reload ? "64" : "32");
             MsgBoxScript::answerNext(reload ? MsgBox::Confirmed : MsgBox::Second);
             QVERIFY(showAgain());
-            QCOMPARE(messages().constLast(),
-                     QString("Changed on the controller since it was read"));
+            QCOMPARE(messages().constLast(), QString("Changed on the controller since it was read"));
             QCOMPARE(isEditing(), !reload);
             QCOMPARE(cell("Mtcp", 1, 1), QString(reload ? "64" : "16"));
         }
@@ -420,7 +418,7 @@ private slots:
         const auto drop = &dropUserLevel;
         if (text == Wait)
             controller().faults().set(Faults::MappingNeverAnswered);
-        MsgBoxScript::onShown([=](const MsgBox* box) {
+        MsgBoxScript::onShown([text = text, waitMs = waitMs, drop](const MsgBox* box) {
             if (box->text() != text)
                 return;
             if (waitMs == 0)

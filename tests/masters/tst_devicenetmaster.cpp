@@ -408,11 +408,11 @@ private slots:
     {
         const auto [box] = Rows<QString>::current();
         QVERIFY(showDevices(Header + device(5) + device(9)));
-        MsgBoxScript::onShown([box](const MsgBox* shown) {
+        MsgBoxScript::onShown([box = box](const MsgBox* shown) {
             if (shown->text() == box)
                 dropUserLevel();
         });
-        NumericKeyboardScript::onShown([box](const NumericKeyboard*) {
+        NumericKeyboardScript::onShown([box = box](const NumericKeyboard*) {
             if (box == "keyboard")
                 dropUserLevel();
         });

@@ -174,7 +174,7 @@ private slots:
         QVERIFY(showDeviceNet());
         if (box == SaveFailed || box.isEmpty())
             controller().faults().set(Faults::SlaveNeverAnswered);
-        MsgBoxScript::onShown([box](const MsgBox* shown) {
+        MsgBoxScript::onShown([box = box](const MsgBox* shown) {
             if (shown->text() == box)
                 dropUserLevel();
         });

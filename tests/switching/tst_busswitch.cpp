@@ -666,7 +666,7 @@ private slots:
         if (box.startsWith("Failed to get"))
             pendant.controller().faults().set(Faults::BusTypeRefused);
         MsgBoxScript::answerByDefault(MsgBox::Confirmed);
-        MsgBoxScript::onShown([box, after](const MsgBox* shown) {
+        MsgBoxScript::onShown([box = box, after = after](const MsgBox* shown) {
             if (shown->text() != box)
                 return;
             if (after == 0)

@@ -152,7 +152,7 @@ private slots:
         do {
             pendant.clearDrive();
             UsbPendant::logged().clear();
-            CountingWatch watch(++step, [&] {
+            CountingWatch watch(++step, [&, fault = fault] {
                 if (fault == "worn out")
                     drive.failAfterCopies(0);
                 else if (fault == "goes")
@@ -395,7 +395,7 @@ private slots:
             pendant.controller().faults().set(Faults::FetchFails);
             QTimer::singleShot(350, drop);
         } else {
-            pendant.whileShown = [&](const QString& text) {
+            pendant.whileShown = [&, box = box](const QString& text) {
                 if (text.startsWith(box))
                     drop();
             };
